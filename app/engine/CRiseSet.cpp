@@ -1,0 +1,237 @@
+// SPDX-License-Identifier: MIT
+#include "app/engine/CRiseSet.h"
+
+#include <cmath>
+#include <cstddef>
+#include <cstring>
+
+namespace {
+
+constexpr double P2 = 6.283185307; // the method's own digits
+constexpr double kRadians = 0.0174532925199433;
+constexpr double kDegrees = 360.0 / P2;
+constexpr double kHours = 48.0 / P2;
+constexpr double kCosEps = 0.91748;
+constexpr double kSinEps = 0.39778;
+constexpr double kArc = 206264.8062;
+constexpr double kArcPerRevolution = 1296000.0;
+constexpr double kJ2000 = 51544.5;
+
+/// Sines of the target altitudes by object: the Moon's +8', the Sun's -50', nautical twilight's -12°.
+constexpr std::array<double, 4> sinh0{0.0, 0.002327103568950269, -0.01454389765158266, -0.20791169081775937};
+
+constexpr std::size_t kBlockBytes = offsetof(tRiseSetCalcParamBlock, year) + sizeof(std::int32_t);
+static_assert(kBlockBytes == 36);
+
+/// Right ascension in hours and declination in degrees of the direction (x, y, z), given its equatorial
+/// parts.
+void equatorial(double x, double y, double z, double* ra, double* dec) {
+    const double rho = std::sqrt(1.0 - z * z);
+    *dec = kDegrees * std::atan(z / rho);
+    *ra = kHours * std::atan(y / (x + rho));
+    if (*ra < 0.0)
+        *ra += 24.0;
+}
+
+} // namespace
+
+CRiseSet::CRiseSet() {
+    // A request that no caller makes, so that the first one is computed.
+    cached_.longitude = cached_.latitude = cached_.zoneHours = -1.0;
+    cached_.day = cached_.month = cached_.year = -1;
+}
+
+bool CRiseSet::BlocksAreEqual(const tRiseSetCalcParamBlock& a, const tRiseSetCalcParamBlock& b) {
+    return std::memcmp(&a, &b, kBlockBytes) == 0;
+}
+
+void CRiseSet::GetMoonInfo(tRiseSetPair& pair) const {
+    pair = moon_;
+}
+
+void CRiseSet::GetSunInfo(tRiseSetPair& pair) const {
+    pair = sun_;
+}
+
+void CRiseSet::GetTwilightInfo(tRiseSetPair& pair) const {
+    pair = twilight_;
+}
+
+double CRiseSet::SN(double degrees) {
+    return std::sin(degrees * kRadians);
+}
+
+double CRiseSet::CS(double degrees) {
+    return std::cos(degrees * kRadians);
+}
+
+double CRiseSet::FRAC(double x) {
+    const double fraction = x - std::trunc(x);
+    return fraction < 0.0 ? fraction + 1.0 : fraction;
+}
+
+void CRiseSet::WHM(double hours, int* hour, int* minute) {
+    const double rounded = std::trunc(hours * 60.0 + 0.5) / 60.0;
+    *hour = static_cast<int>(rounded);
+    *minute = static_cast<int>((rounded - *hour) * 60.0 + 0.5);
+}
+
+double CRiseSet::MJD(std::int32_t day, std::int32_t month, std::int32_t year, double hour) {
+    const double a = 10000.0 * year + 100.0 * month + day;
+    double m = month;
+    double y = year;
+    if (month <= 2) {
+        m += 12;
+        y -= 1;
+    }
+    const double b = a <= 15821004.1 ? std::trunc((y + 4716) / 4) - 1181
+                                     : std::trunc(y / 400) - std::trunc(y / 100) + std::trunc(y / 4);
+    return 365.0 * y - 679004.0 + b + std::trunc(30.6001 * (m + 1)) + day + hour / 24.0;
+}
+
+double CRiseSet::LMST(double mjd, double lambda) {
+    const double mjd0 = std::trunc(mjd);
+    const double ut = (mjd - mjd0) * 24.0;
+    const double t = (mjd0 - kJ2000) / 36525.0;
+    const double gmst =
+        6.697374558 + 1.0027379093 * ut + (8640184.812866 + (0.093104 - 6.2e-6 * t) * t) * t / 3600.0;
+    return 24.0 * FRAC((gmst - lambda / 15.0) / 24.0);
+}
+
+void CRiseSet::MINI_SUN(double t, double* ra, double* dec) {
+    const double m = P2 * FRAC(0.993133 + 99.997361 * t);
+    const double dl = 6893.0 * std::sin(m) + 72.0 * std::sin(2 * m);
+    const double l = P2 * FRAC(0.7859453 + m / P2 + (6191.2 * t + dl) / kArcPerRevolution);
+    const double sl = std::sin(l);
+    equatorial(std::cos(l), kCosEps * sl, kSinEps * sl, ra, dec);
+}
+
+void CRiseSet::MINI_MOON(double t, double* ra, double* dec) {
+    const double l0 = FRAC(0.606433 + 1336.855225 * t);     // mean longitude, revolutions
+    const double l = P2 * FRAC(0.374897 + 1325.552410 * t); // the Moon's mean anomaly
+    const double ls = P2 * FRAC(0.993133 + 99.997361 * t);  // the Sun's mean anomaly
+    const double d = P2 * FRAC(0.827361 + 1236.853086 * t); // elongation from the Sun
+    const double f = P2 * FRAC(0.259086 + 1342.227825 * t); // distance from the ascending node
+
+    const double dl = 22640.0 * std::sin(l) - 4586.0 * std::sin(l - 2 * d) + 2370.0 * std::sin(2 * d) +
+                      769.0 * std::sin(2 * l) - 668.0 * std::sin(ls) - 412.0 * std::sin(2 * f) -
+                      212.0 * std::sin(2 * l - 2 * d) - 206.0 * std::sin(l + ls - 2 * d) +
+                      192.0 * std::sin(l + 2 * d) - 165.0 * std::sin(ls - 2 * d) - 125.0 * std::sin(d) -
+                      110.0 * std::sin(l + ls) + 148.0 * std::sin(l - ls) - 55.0 * std::sin(2 * f - 2 * d);
+    const double s = f + (dl + 412.0 * std::sin(2 * f) + 541.0 * std::sin(ls)) / kArc;
+    const double h = f - 2 * d;
+    const double n = -526.0 * std::sin(h) + 44.0 * std::sin(l + h) - 31.0 * std::sin(h - l) -
+                     23.0 * std::sin(ls + h) + 11.0 * std::sin(h - ls) - 25.0 * std::sin(f - 2 * l) +
+                     21.0 * std::sin(f - l);
+    const double lm = P2 * FRAC(l0 + dl / kArcPerRevolution);
+    const double bm = (18520.0 * std::sin(s) + n) / kArc;
+
+    const double cb = std::cos(bm);
+    const double v = cb * std::sin(lm);
+    const double w = std::sin(bm);
+    equatorial(cb * std::cos(lm), kCosEps * v - kSinEps * w, kSinEps * v + kCosEps * w, ra, dec);
+}
+
+double CRiseSet::SIN_ALT(std::int32_t object, double mjd0, double hour, double lambda, double cphi,
+                         double sphi) {
+    const double mjd = mjd0 + hour / 24.0;
+    const double t = (mjd - kJ2000) / 36525.0;
+    double ra = 0.0;
+    double dec = 0.0;
+    if (object == kRiseSetMoon)
+        MINI_MOON(t, &ra, &dec);
+    else
+        MINI_SUN(t, &ra, &dec);
+    const double tau = 15.0 * (LMST(mjd, lambda) - ra);
+    return cphi * CS(dec) * CS(tau) + sphi * SN(dec);
+}
+
+void CRiseSet::QUAD(double yMinus, double y0, double yPlus, double* xe, double* ye, double* root1,
+                    double* root2, std::int32_t* nRoots) {
+    *nRoots = 0;
+    const double a = 0.5 * (yMinus + yPlus) - y0;
+    const double b = 0.5 * (yPlus - yMinus);
+    const double c = y0;
+    *xe = -b / (2.0 * a);
+    *ye = (a * *xe + b) * *xe + c;
+    const double discriminant = b * b - 4.0 * a * c;
+    if (discriminant < 0.0)
+        return;
+    const double dx = 0.5 * std::sqrt(discriminant) / std::abs(a);
+    *root1 = *xe - dx;
+    *root2 = *xe + dx;
+    *nRoots = (std::abs(*root1) <= 1.0 ? 1 : 0) + (std::abs(*root2) <= 1.0 ? 1 : 0);
+    if (*root1 < -1.0)
+        *root1 = *root2;
+}
+
+tRiseSetPair CRiseSet::Search(tObject object, const Observer& observer) {
+    const auto altitude = [&](double hour) {
+        return SIN_ALT(object, observer.start, hour, observer.lambda, observer.cphi, observer.sphi) -
+               sinh0[static_cast<std::size_t>(object)];
+    };
+    double yMinus = altitude(0.0);
+    const bool above = yMinus > 0.0;
+    bool rise = false;
+    bool set = false;
+    double riseTime = 0.0;
+    double setTime = 0.0;
+    const auto foundRise = [&](double time) {
+        riseTime = time;
+        rise = true;
+    };
+    const auto foundSet = [&](double time) {
+        setTime = time;
+        set = true;
+    };
+
+    for (double hour = 1.0; hour < 25.0 && !(rise && set); hour += 2.0) {
+        const double yPlus = altitude(hour + 1.0);
+        double xe = 0.0;
+        double ye = 0.0;
+        double root1 = 0.0;
+        double root2 = 0.0;
+        std::int32_t nRoots = 0;
+        QUAD(yMinus, altitude(hour), yPlus, &xe, &ye, &root1, &root2, &nRoots);
+        if (nRoots == 1) {
+            if (yMinus < 0.0)
+                foundRise(hour + root1);
+            else
+                foundSet(hour + root1);
+        } else if (nRoots == 2) {
+            foundRise(hour + (ye < 0.0 ? root2 : root1));
+            foundSet(hour + (ye < 0.0 ? root1 : root2));
+        }
+        yMinus = yPlus;
+    }
+
+    tRiseSetPair pair{};
+    if (rise)
+        WHM(riseTime, &pair.riseHour, &pair.riseMinute);
+    if (set)
+        WHM(setTime, &pair.setHour, &pair.setMinute);
+    if (rise && set)
+        pair.state = kRiseSetBoth;
+    else if (set)
+        pair.state = kRiseSetNoRise;
+    else if (rise)
+        pair.state = kRiseSetNoSet;
+    else if (object == kRiseSetTwilight)
+        pair.state = above ? kRiseSetAlwaysBright : kRiseSetAlwaysDark;
+    else
+        pair.state = above ? kRiseSetAlwaysAbove : kRiseSetAlwaysBelow;
+    return pair;
+}
+
+void CRiseSet::Calculate(const tRiseSetCalcParamBlock& block) {
+    if (BlocksAreEqual(block, cached_))
+        return;
+    cached_ = block;
+    const Observer observer{.lambda = -block.longitude,
+                            .cphi = CS(block.latitude),
+                            .sphi = SN(block.latitude),
+                            .start = MJD(block.day, block.month, block.year, 0.0) - block.zoneHours / 24.0};
+    moon_ = Search(kRiseSetMoon, observer);
+    sun_ = Search(kRiseSetSun, observer);
+    twilight_ = Search(kRiseSetTwilight, observer);
+}

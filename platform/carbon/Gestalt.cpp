@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#include "platform/carbon/Gestalt.h"
+
+#include <QRegularExpression>
+#include <QSysInfo>
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+std::array<int, 3> leadingNumbers(const QString& text) {
+    static const QRegularExpression dotted(QStringLiteral("^(\\d+)(?:\\.(\\d+))?(?:\\.(\\d+))?"));
+    const auto match = dotted.match(text);
+    std::array<int, 3> numbers{};
+    for (std::size_t i = 0; i < numbers.size(); ++i) {
+        const QString digits = match.captured(static_cast<int>(i) + 1);
+        bool fits = true;
+        const int number = digits.isEmpty() ? 0 : digits.toInt(&fits);
+        numbers[i] = fits ? std::min(number, 99) : 99;
+    }
+    return numbers;
+}
+
+std::array<int, 3> versionNumbers() {
+    // A rolling distribution states no version; its kernel's release is the next best number.
+    const auto ofSystem = leadingNumbers(QSysInfo::productVersion());
+    return ofSystem[0] > 0 ? ofSystem : leadingNumbers(QSysInfo::kernelVersion());
+}
+
+} // namespace
+
+OSStatus Gestalt(OSType selector, std::int32_t* response) {
+    const auto [major, minor, bugFix] = versionNumbers();
+    switch (selector) {
+    case fourCharCode("sys1"):
+        *response = major;
+        return noErr;
+    case fourCharCode("sys2"):
+        *response = minor;
+        return noErr;
+    case fourCharCode("sys3"):
+        *response = bugFix;
+        return noErr;
+    case fourCharCode("sysv"):
+        *response = major / 10 << 12 | major % 10 << 8 | std::min(minor, 9) << 4 | std::min(bugFix, 9);
+        return noErr;
+    default:
+        return gestaltUndefSelectorErr;
+    }
+}

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <QTranslator>
+#include <QVariantMap>
+
+#include <memory>
+
+/// Stands for the main bundle: the program's resources, its Info dictionary and its localised strings. Backed
+/// by the folder `../share/lumivane` beside the executable's own (the same in the build tree and installed),
+/// or the one that the environment variable `LUMIVANE_RESOURCES` names. Needs no application object.
+class NSBundle {
+public:
+    static NSBundle& mainBundle();
+
+    /// The folder of the resources; it need not exist.
+    QString resourcePath() const;
+
+    /// The path of the resource `name` with the extension `type` (empty: `name` as it stands); empty when
+    /// there is no such file.
+    QString pathForResource(const QString& name, const QString& type = QString()) const;
+
+    /// `CFBundleVersion` and the like from `Info.plist`, read at first use; empty, with a log line, when the
+    /// file is missing or damaged.
+    const QVariantMap& infoDictionary() const;
+    QString infoString(const QString& key) const;
+
+    /// The reverse-DNS name that running copies and desktop entries are known by.
+    QString bundleIdentifier() const;
+
+    /// The user's language for `key`, an English text; `key` itself where there is no translation.
+    QString localizedString(const char* key) const;
+
+    /// Makes the layouts' texts follow the same translations; called once there is an application object.
+    void installTranslations();
+
+private:
+    NSBundle() = default;
+    const QTranslator* translations() const;
+
+    mutable std::unique_ptr<QVariantMap> info_;
+    mutable std::unique_ptr<QTranslator> translator_;
+};

@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: MIT
+#include "platform/foundation/NSDateFormatter.h"
+
+#include "platform/foundation/NSLog.h"
+
+#include <map>
+#include <memory>
+#include <tuple>
+
+#include <gio/gio.h>
+#include <unicode/dtptngen.h>
+#include <unicode/gregocal.h>
+#include <unicode/smpdtfmt.h>
+
+namespace {
+
+enum class HourCycle { OfLocale, Twelve, TwentyFour };
+
+/// LC_TIME as the C library resolves it: LC_ALL, then LC_TIME, then LANG.
+QByteArray timeLocaleName() {
+    for (const char* variable : {"LC_ALL", "LC_TIME", "LANG"}) {
+        if (QByteArray value = qgetenv(variable); !value.isEmpty())
+            return value;
+    }
+    return "C";
+}
+
+icu::Locale icuLocale(const QByteArray& posixName) {
+    const QByteArray language = posixName.left(posixName.indexOf('.'));
+    const bool unset = language == "C" || language == "POSIX";
+    icu::Locale locale = unset ? icu::Locale::getUS() : icu::Locale::createCanonical(language.constData());
+    UErrorCode status = U_ZERO_ERROR;
+    locale.setKeywordValue("calendar", "gregorian", status);
+    return locale;
+}
+
+HourCycle settingOf(const char* schemaId, const char* key) {
+    GSettingsSchemaSource* source = g_settings_schema_source_get_default();
+    GSettingsSchema* schema = source ? g_settings_schema_source_lookup(source, schemaId, TRUE) : nullptr;
+    if (!schema)
+        return HourCycle::OfLocale;
+    HourCycle cycle = HourCycle::OfLocale;
+    if (g_settings_schema_has_key(schema, key)) {
+        GSettings* settings = g_settings_new_full(schema, nullptr, nullptr);
+        GVariant* value = g_settings_get_value(settings, key);
+        bool is24 = false;
+        if (g_variant_is_of_type(value, G_VARIANT_TYPE_BOOLEAN))
+            is24 = g_variant_get_boolean(value);
+        else if (g_variant_is_of_type(value, G_VARIANT_TYPE_STRING))
+            is24 = qstrcmp(g_variant_get_string(value, nullptr), "24h") == 0;
+        cycle = is24 ? HourCycle::TwentyFour : HourCycle::Twelve;
+        g_variant_unref(value);
+        g_object_unref(settings);
+    }
+    g_settings_schema_unref(schema);
+    return cycle;
+}
+
+HourCycle desktopHourCycle() {
+    // Read once: opening a settings backend starts a thread and a bus connection.
+    static const HourCycle cycle = [] {
+        const QByteArray desktop = qgetenv("XDG_CURRENT_DESKTOP").toUpper();
+        if (desktop.contains("CINNAMON"))
+            return settingOf("org.cinnamon.desktop.interface", "clock-use-24h");
+        if (desktop.contains("GNOME") || desktop.contains("UNITY") || desktop.contains("BUDGIE"))
+            return settingOf("org.gnome.desktop.interface", "clock-format");
+        return HourCycle::OfLocale;
+    }();
+    return cycle;
+}
+
+icu::DateFormat::EStyle icuStyle(NSDateFormatter::Style style) {
+    switch (style) {
+    case NSDateFormatter::Style::Short:
+        return icu::DateFormat::kShort;
+    case NSDateFormatter::Style::Medium:
+        return icu::DateFormat::kMedium;
+    case NSDateFormatter::Style::Long:
+        return icu::DateFormat::kLong;
+    case NSDateFormatter::Style::None:
+        break;
+    }
+    return icu::DateFormat::kNone;
+}
+
+/// Puts the desktop's hour cycle in place of the locale's.
+void applyHourCycle(icu::DateFormat& format, const icu::Locale& locale, HourCycle cycle, bool withSeconds) {
+    auto* simple = dynamic_cast<icu::SimpleDateFormat*>(&format);
+    if (!simple || cycle == HourCycle::OfLocale)
+        return;
+    UErrorCode status = U_ZERO_ERROR;
+    const std::unique_ptr<icu::DateTimePatternGenerator> generator(
+        icu::DateTimePatternGenerator::createInstance(locale, status));
+    if (U_FAILURE(status))
+        return;
+    const char* skeleton =
+        cycle == HourCycle::TwentyFour ? (withSeconds ? "Hms" : "Hm") : (withSeconds ? "hms" : "hm");
+    const icu::UnicodeString pattern =
+        generator->getBestPattern(icu::UnicodeString::fromUTF8(skeleton), status);
+    if (U_SUCCESS(status))
+        simple->applyPattern(pattern);
+}
+
+/// The formatter for a style. Making one reads ICU's data, so they are kept for as long as locale and cycle
+/// stay.
+const icu::DateFormat* formatter(NSDateFormatter::Style dateStyle, NSDateFormatter::Style timeStyle) {
+    using Key = std::tuple<QByteArray, NSDateFormatter::Style, NSDateFormatter::Style>;
+    static std::map<Key, std::unique_ptr<icu::DateFormat>> made;
+    const QByteArray localeName = timeLocaleName();
+    auto [place, isNew] = made.try_emplace(Key{localeName, dateStyle, timeStyle});
+    if (isNew) {
+        const icu::Locale locale = icuLocale(localeName);
+        const bool isTime = timeStyle != NSDateFormatter::Style::None;
+        place->second.reset(isTime ? icu::DateFormat::createTimeInstance(icuStyle(timeStyle), locale)
+                                   : icu::DateFormat::createDateInstance(icuStyle(dateStyle), locale));
+        if (!place->second) {
+            NSLog(
+                QStringLiteral("No date format for the locale \"%1\".").arg(QString::fromLatin1(localeName)));
+            return nullptr;
+        }
+        if (isTime)
+            applyHourCycle(*place->second, locale, desktopHourCycle(),
+                           timeStyle == NSDateFormatter::Style::Medium);
+        // The caller's seconds are already those of the wall clock that is shown.
+        place->second->setTimeZone(*icu::TimeZone::getGMT());
+    }
+    return place->second.get();
+}
+
+QString fromICU(icu::UnicodeString text) {
+    constexpr char16_t kNarrowNoBreakSpace = 0x202F;
+    text.findAndReplace(icu::UnicodeString(kNarrowNoBreakSpace), icu::UnicodeString(u' '));
+    return QString(reinterpret_cast<const QChar*>(text.getBuffer()), text.length());
+}
+
+QString formatted(std::int64_t wall, const icu::DateFormat* format) {
+    if (!format)
+        return {};
+    icu::UnicodeString text;
+    format->format(static_cast<UDate>(wall) * 1000.0, text);
+    return fromICU(text);
+}
+
+} // namespace
+
+QString NSDateFormatter::dateString(std::int64_t wall, Style style) {
+    return style == Style::None ? QString() : formatted(wall, formatter(style, Style::None));
+}
+
+QString NSDateFormatter::timeString(std::int64_t wall, Style style) {
+    return style == Style::None ? QString() : formatted(wall, formatter(Style::None, style));
+}

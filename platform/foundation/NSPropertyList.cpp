@@ -1,0 +1,158 @@
+// SPDX-License-Identifier: MIT
+#include "platform/foundation/NSPropertyList.h"
+
+#include <QFile>
+#include <QSaveFile>
+
+#include <memory>
+
+#include <plist/plist.h>
+
+namespace {
+
+constexpr qint64 kLargestFile = 16 * 1024 * 1024;
+constexpr int kDeepest = 64;
+
+struct PlistFree {
+    void operator()(void* node) const { plist_free(node); }
+};
+using PlistPtr = std::unique_ptr<void, PlistFree>;
+
+QVariant fromPlist(plist_t node, int depth);
+
+QVariant fromDictionary(plist_t node, int depth) {
+    QVariantMap map;
+    plist_dict_iter rawIterator = nullptr;
+    plist_dict_new_iter(node, &rawIterator);
+    const std::unique_ptr<void, decltype(&free)> iterator(rawIterator, &free);
+    char* key = nullptr;
+    plist_t value = nullptr;
+    for (plist_dict_next_item(node, rawIterator, &key, &value); value;
+         plist_dict_next_item(node, rawIterator, &key, &value)) {
+        map.insert(QString::fromUtf8(key), fromPlist(value, depth + 1));
+        free(key);
+        key = nullptr;
+    }
+    return map;
+}
+
+QVariant fromArray(plist_t node, int depth) {
+    const std::uint32_t count = plist_array_get_size(node);
+    QVariantList list;
+    list.reserve(static_cast<qsizetype>(count));
+    plist_array_iter rawIterator = nullptr;
+    plist_array_new_iter(node, &rawIterator);
+    const std::unique_ptr<void, decltype(&free)> iterator(rawIterator, &free);
+    for (std::uint32_t i = 0; i < count; ++i) {
+        plist_t item = nullptr;
+        plist_array_next_item(node, rawIterator, &item);
+        list.append(fromPlist(item, depth + 1));
+    }
+    return list;
+}
+
+QVariant fromPlist(plist_t node, int depth) {
+    if (!node || depth > kDeepest)
+        return {};
+    switch (plist_get_node_type(node)) {
+    case PLIST_BOOLEAN: {
+        std::uint8_t value = 0;
+        plist_get_bool_val(node, &value);
+        return value != 0;
+    }
+    case PLIST_UINT: {
+        std::uint64_t value = 0;
+        plist_get_uint_val(node, &value);
+        return QVariant::fromValue<qulonglong>(value);
+    }
+    case PLIST_REAL: {
+        double value = 0;
+        plist_get_real_val(node, &value);
+        return value;
+    }
+    case PLIST_STRING:
+        return QString::fromUtf8(plist_get_string_ptr(node, nullptr));
+    case PLIST_DATA: {
+        std::uint64_t size = 0;
+        const char* bytes = plist_get_data_ptr(node, &size);
+        return QByteArray(bytes, static_cast<qsizetype>(size));
+    }
+    case PLIST_ARRAY:
+        return fromArray(node, depth);
+    case PLIST_DICT:
+        return fromDictionary(node, depth);
+    default:
+        return {};
+    }
+}
+
+PlistPtr toPlist(const QVariant& value) {
+    switch (value.typeId()) {
+    case QMetaType::QVariantList: {
+        PlistPtr array(plist_new_array());
+        const QVariantList items = value.toList();
+        for (const QVariant& item : items)
+            plist_array_append_item(array.get(), toPlist(item).release());
+        return array;
+    }
+    case QMetaType::QVariantMap: {
+        PlistPtr dictionary(plist_new_dict());
+        const QVariantMap map = value.toMap();
+        for (auto it = map.begin(); it != map.end(); ++it)
+            plist_dict_set_item(dictionary.get(), it.key().toUtf8().constData(),
+                                toPlist(it.value()).release());
+        return dictionary;
+    }
+    case QMetaType::Bool:
+        return PlistPtr(plist_new_bool(value.toBool() ? 1 : 0));
+    case QMetaType::Double:
+    case QMetaType::Float:
+        return PlistPtr(plist_new_real(value.toDouble()));
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+        return PlistPtr(plist_new_uint(value.toULongLong()));
+    default:
+        return PlistPtr(plist_new_string(value.toString().toUtf8().constData()));
+    }
+}
+
+} // namespace
+
+QVariant NSPropertyList::read(const QString& path, QString* error) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        *error = file.errorString();
+        return {};
+    }
+    if (file.size() > kLargestFile) {
+        *error = QStringLiteral("the file is too large");
+        return {};
+    }
+    const QByteArray bytes = file.readAll();
+    plist_t rawRoot = nullptr;
+    if (!bytes.isEmpty())
+        plist_from_memory(bytes.constData(), static_cast<std::uint32_t>(bytes.size()), &rawRoot);
+    const PlistPtr root(rawRoot);
+    if (!root) {
+        *error = QStringLiteral("it is no property list");
+        return {};
+    }
+    return fromPlist(root.get(), 0);
+}
+
+bool NSPropertyList::write(const QVariant& root, const QString& path, QString* error) {
+    const PlistPtr node = toPlist(root);
+    char* bytes = nullptr;
+    std::uint32_t size = 0;
+    plist_to_bin(node.get(), &bytes, &size);
+    const std::unique_ptr<char, decltype(&free)> owned(bytes, &free);
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes, size) != static_cast<qint64>(size) ||
+        !file.commit()) {
+        *error = file.errorString();
+        return false;
+    }
+    return true;
+}

@@ -1,0 +1,187 @@
+// SPDX-License-Identifier: MIT
+#include "platform/foundation/NSUserDefaults.h"
+
+#include "platform/foundation/NSLog.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QSettings>
+#include <QStandardPaths>
+#include <QStringDecoder>
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <optional>
+
+namespace {
+
+bool isText(const QByteArray& bytes) {
+    QStringDecoder decoder(QStringDecoder::Utf8);
+    const QString decoded = decoder(bytes);
+    return !decoder.hasError() && !decoded.contains(QChar::Null);
+}
+
+/// Moves a file out of the way under a name that is free; the new name, or nothing when it can't be moved.
+QString keepAside(const QString& path) {
+    for (int number = 1; number < 1000; ++number) {
+        const QString aside = number == 1 ? path + QStringLiteral(".damaged")
+                                          : QStringLiteral("%1.damaged-%2").arg(path).arg(number);
+        if (!QFileInfo::exists(aside))
+            return QFile::rename(path, aside) ? aside : QString();
+    }
+    return {};
+}
+
+std::optional<bool> toBool(const QString& text) {
+    for (const char* yes : {"true", "yes", "1"}) {
+        if (text.compare(QLatin1String(yes), Qt::CaseInsensitive) == 0)
+            return true;
+    }
+    for (const char* no : {"false", "no", "0"}) {
+        if (text.compare(QLatin1String(no), Qt::CaseInsensitive) == 0)
+            return false;
+    }
+    return std::nullopt;
+}
+
+std::optional<float> toFloat(const QString& text) {
+    bool ok = false;
+    const float value = text.toFloat(&ok);
+    return ok && std::isfinite(value) ? std::optional(value) : std::nullopt;
+}
+
+std::optional<int> toInteger(const QString& text) {
+    bool ok = false;
+    const int value = text.toInt(&ok);
+    return ok ? std::optional(value) : std::nullopt;
+}
+
+} // namespace
+
+NSUserDefaults* NSUserDefaults::standardUserDefaults() {
+    static NSUserDefaults shared(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+                                 QStringLiteral("/lumivane/lumivane.conf"));
+    return &shared;
+}
+
+NSUserDefaults::NSUserDefaults(const QString& path) {
+    openFile(path);
+}
+
+NSUserDefaults::~NSUserDefaults() = default;
+
+void NSUserDefaults::openFile(const QString& path) {
+    QFile file(path);
+    bool damaged = false;
+    if (file.open(QIODevice::ReadOnly)) {
+        damaged = !isText(file.readAll());
+        file.close();
+    } else if (file.exists()) {
+        NSLog(QStringLiteral("The preferences in %1 can't be read (%2); the defaults serve.")
+                  .arg(path, file.errorString()));
+    }
+    if (!damaged) {
+        settings_ = std::make_unique<QSettings>(path, QSettings::IniFormat);
+        damaged = settings_->status() == QSettings::FormatError;
+    }
+    if (!damaged)
+        return;
+    settings_.reset();
+    const QString aside = keepAside(path);
+    if (aside.isEmpty()) {
+        // Without a place to keep it the user's file must not be written over: settings go to a file of their
+        // own.
+        NSLog(QStringLiteral("The preferences in %1 are damaged and can't be moved; the defaults serve.")
+                  .arg(path));
+        settings_ = std::make_unique<QSettings>(path + QStringLiteral(".new"), QSettings::IniFormat);
+        return;
+    }
+    NSLog(QStringLiteral("The preferences in %1 are damaged; kept as %2, the defaults serve.")
+              .arg(path, aside));
+    settings_ = std::make_unique<QSettings>(path, QSettings::IniFormat);
+}
+
+void NSUserDefaults::registerDefaults(const QVariantMap& defaults) {
+    registered_.insert(defaults);
+}
+
+QVariant NSUserDefaults::objectForKey(const QString& key) const {
+    const QVariant stored = settings_->value(key);
+    return stored.isValid() ? stored : registered_.value(key);
+}
+
+template <typename T, typename Convert>
+T NSUserDefaults::typedValue(const QString& key, Convert convert) const {
+    const QVariant stored = settings_->value(key);
+    if (stored.isValid()) {
+        if (const std::optional<T> value = convert(stored.toString()))
+            return *value;
+        if (!reportedKeys_.contains(key)) {
+            reportedKeys_.append(key);
+            NSLog(QStringLiteral(
+                      "The preference %1 holds \"%2\", which is not of its kind; its default serves.")
+                      .arg(key, stored.toString()));
+        }
+    }
+    return convert(registered_.value(key).toString()).value_or(T());
+}
+
+int NSUserDefaults::integerForKey(const QString& key) const {
+    return typedValue<int>(key, toInteger);
+}
+
+float NSUserDefaults::floatForKey(const QString& key) const {
+    return typedValue<float>(key, toFloat);
+}
+
+bool NSUserDefaults::boolForKey(const QString& key) const {
+    return typedValue<bool>(key, toBool);
+}
+
+QString NSUserDefaults::stringForKey(const QString& key) const {
+    return objectForKey(key).toString();
+}
+
+void NSUserDefaults::setInteger(int value, const QString& key) {
+    store(key, value);
+}
+
+void NSUserDefaults::setFloat(float value, const QString& key) {
+    // The shortest text that reads back as the same number: 5.4, not 5.400000095367432.
+    std::array<char, 32> text{};
+    const auto end = std::to_chars(text.data(), text.data() + text.size(), value).ptr;
+    store(key, QString::fromLatin1(text.data(), end - text.data()));
+}
+
+void NSUserDefaults::setBool(bool value, const QString& key) {
+    store(key, value);
+}
+
+void NSUserDefaults::setObject(const QString& value, const QString& key) {
+    store(key, value);
+}
+
+void NSUserDefaults::store(const QString& key, const QVariant& value) {
+    const QString before = objectForKey(key).toString();
+    if (settings_->contains(key) && before == value.toString())
+        return;
+    settings_->setValue(key, value);
+    if (before != value.toString())
+        Q_EMIT valueChanged(key);
+}
+
+void NSUserDefaults::removeObjectForKey(const QString& key) {
+    const QString before = objectForKey(key).toString();
+    settings_->remove(key);
+    if (before != objectForKey(key).toString())
+        Q_EMIT valueChanged(key);
+}
+
+bool NSUserDefaults::synchronize() {
+    settings_->sync();
+    if (settings_->status() == QSettings::NoError)
+        return true;
+    NSLog(QStringLiteral("The preferences can't be written to %1.").arg(settings_->fileName()));
+    return false;
+}

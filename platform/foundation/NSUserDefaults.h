@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+#include <QVariantMap>
+
+#include <memory>
+
+class QSettings;
+
+/// Stands for Foundation's per-user defaults: values that the user stored, over a registration domain that
+/// answers for every other key. Backed by an INI file in the XDG config folder. A file that can't be read as
+/// one is kept aside under another name and logged, and the registered defaults serve.
+class NSUserDefaults : public QObject {
+    Q_OBJECT
+
+public:
+    /// The program's own defaults, `lumivane/lumivane.conf` in the config folder.
+    static NSUserDefaults* standardUserDefaults();
+
+    explicit NSUserDefaults(const QString& path);
+    ~NSUserDefaults() override;
+
+    /// Adds to the registration domain, which is never written to the file.
+    void registerDefaults(const QVariantMap& defaults);
+
+    /// The user's value, else the registered one, else an invalid variant.
+    QVariant objectForKey(const QString& key) const;
+    /// Typed reads. A stored value of another kind is logged once and the registered one is given, else 0,
+    /// false or an empty string.
+    int integerForKey(const QString& key) const;
+    float floatForKey(const QString& key) const;
+    bool boolForKey(const QString& key) const;
+    QString stringForKey(const QString& key) const;
+
+    void setInteger(int value, const QString& key);
+    void setFloat(float value, const QString& key);
+    void setBool(bool value, const QString& key);
+    void setObject(const QString& value, const QString& key);
+    /// Forgets the user's value, so that the registered one answers again.
+    void removeObjectForKey(const QString& key);
+
+    /// Writes what is pending to disk, atomically; false, with a log line, when the disk refuses.
+    bool synchronize();
+
+Q_SIGNALS:
+    /// The answer for `key` is now another one.
+    void valueChanged(const QString& key);
+
+private:
+    void store(const QString& key, const QVariant& value);
+    void openFile(const QString& path);
+    template <typename T, typename Convert>
+    T typedValue(const QString& key, Convert convert) const;
+
+    std::unique_ptr<QSettings> settings_;
+    QVariantMap registered_;
+    mutable QStringList reportedKeys_;
+};

@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+
+namespace ExtraApplicationUtilities {
+
+/// Makes the running program the frontmost one.
+void bringToFront();
+
+/// The system's version as six decimal digits, four bits each: two for the major, two for the minor and two
+/// for the bug-fix number (10.4.11 is 0x100411). Asked once a run; 0 when the system does not tell.
+std::uint32_t systemVersion();
+
+} // namespace ExtraApplicationUtilities

@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#include "tests/TestMain.h"
+
+#include <QApplication>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace {
+QStringList caught;
+}
+
+InZone::InZone(const char* name) : before_(qgetenv("TZ")) {
+    qputenv("TZ", name);
+}
+
+InZone::~InZone() {
+    before_.isNull() ? qunsetenv("TZ") : qputenv("TZ", before_);
+}
+
+WithEnvironment::WithEnvironment(const char* name, const QByteArray& value)
+    : name_(name), before_(qgetenv(name)) {
+    qputenv(name, value);
+}
+
+WithEnvironment::~WithEnvironment() {
+    before_.isNull() ? qunsetenv(name_) : qputenv(name_, before_);
+}
+
+CaughtLog::CaughtLog() {
+    caught.clear();
+    qInstallMessageHandler(
+        [](QtMsgType, const QMessageLogContext&, const QString& text) { caught.append(text); });
+}
+
+CaughtLog::~CaughtLog() {
+    qInstallMessageHandler(nullptr);
+}
+
+QStringList CaughtLog::lines() const {
+    return caught;
+}
+
+QDateTime gmt(int year, int month, int day, int hour, int minute, int second) {
+    return QDateTime(QDate(year, month, day), QTime(hour, minute, second), Qt::UTC);
+}
+
+int main(int argc, char** argv) {
+    // Nothing of the person who runs the tests is read or written.
+    const QTemporaryDir home;
+    qputenv("HOME", home.path().toLocal8Bit());
+    qputenv("XDG_CONFIG_HOME", home.filePath(QStringLiteral("config")).toLocal8Bit());
+    qputenv("XDG_DATA_HOME", home.filePath(QStringLiteral("data")).toLocal8Bit());
+    qputenv("XDG_CACHE_HOME", home.filePath(QStringLiteral("cache")).toLocal8Bit());
+    qputenv("LC_ALL", "en_US.UTF-8");
+    qputenv("TZ", "UTC");
+    testing::InitGoogleTest(&argc, argv);
+    QApplication application(argc, argv);
+    return RUN_ALL_TESTS();
+}
