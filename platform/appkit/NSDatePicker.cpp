@@ -31,6 +31,8 @@ NSDatePicker::NSDatePicker(QWidget* parent) : QDateTimeEdit(parent) {
     setLocale(NSDateFormatter::locale());
     setDisplayFormat(NSDateFormatter::editingFormat());
     setCalendarPopup(true);
+    // A date that is half typed is no date to show the Moon for.
+    setKeyboardTracking(false);
     connect(this, &QDateTimeEdit::dateTimeChanged, this, &NSDatePicker::fieldsEdited);
 }
 

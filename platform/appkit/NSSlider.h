@@ -9,7 +9,7 @@ class NSSlider : public QSlider {
     Q_OBJECT
     Q_PROPERTY(double minValue READ minValue WRITE setMinValue)
     Q_PROPERTY(double maxValue READ maxValue WRITE setMaxValue)
-    Q_PROPERTY(double doubleValue READ doubleValue WRITE setDoubleValue)
+    Q_PROPERTY(double doubleValue READ doubleValue WRITE setDoubleValue NOTIFY doubleValueChanged)
 
 public:
     explicit NSSlider(QWidget* parent = nullptr);
