@@ -4,6 +4,11 @@
 #include "platform/carbon/Processes.h"
 #include "shared/utilities/classes/ExtraApplicationUtilities.h"
 
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <limits>
+
 #include <unistd.h>
 
 bool ExtraStringUtilities::contains(const QString& text, const QString& part) {
@@ -16,6 +21,15 @@ QString ExtraStringUtilities::stringWithFloat(float number) {
 
 QString ExtraStringUtilities::stringWithInteger(std::int64_t number) {
     return QString::number(number);
+}
+
+float ExtraStringUtilities::floatValue(const QString& text) {
+    static const QRegularExpression leadingNumber(
+        QStringLiteral(R"(^\s*([+-]?(?:[0-9]+(?:\.[0-9]*)?|\.[0-9]+)(?:[eE][+-]?[0-9]+)?))"),
+        QRegularExpression::UseUnicodePropertiesOption);
+    const double number = leadingNumber.match(text).captured(1).toDouble();
+    constexpr double kLargest = std::numeric_limits<float>::max();
+    return static_cast<float>(std::clamp(number, -kLargest, kLargest));
 }
 
 QString ExtraStringUtilities::stringWithOSVersion() {

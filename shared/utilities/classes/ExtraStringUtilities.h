@@ -20,6 +20,11 @@ QString stringWithFloat(float number);
 /// An integer in plain decimal.
 QString stringWithInteger(std::int64_t number);
 
+/// The decimal number that `text` starts with after any white space: an optional sign, digits, an optional
+/// point and fraction, an optional exponent. 0 when there is none; the rest is ignored. A number that is too
+/// large gives the largest single-precision one.
+float floatValue(const QString& text);
+
 /// The system's version as packed by `ExtraApplicationUtilities::systemVersion`, in lower-case hexadecimal
 /// without leading zeros: 100608 for 10.6.8.
 QString stringWithOSVersion();
