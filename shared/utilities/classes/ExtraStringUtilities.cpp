@@ -9,6 +9,10 @@
 #include <algorithm>
 #include <limits>
 
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QMimeData>
+
 #include <unistd.h>
 
 bool ExtraStringUtilities::contains(const QString& text, const QString& part) {
@@ -49,4 +53,17 @@ bool ExtraStringUtilities::findProcess(const QString& bundleIdentifier, ProcessS
         return true;
     }
     return false;
+}
+
+void ExtraStringUtilities::copyToClipboard(const QString& text) {
+    constexpr char kPasswordType[] = "PasswordPboardType";
+    auto* types = new QMimeData;
+    types->setText(text);
+    types->setData(clipboardTag(), ".");
+    types->setData(QLatin1String(kPasswordType), kPasswordType);
+    QGuiApplication::clipboard()->setMimeData(types);
+}
+
+QString ExtraStringUtilities::clipboardTag() {
+    return QStringLiteral("ClipboardTag%1").arg(getpid());
 }

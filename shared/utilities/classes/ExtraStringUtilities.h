@@ -33,4 +33,11 @@ QString stringWithOSVersion();
 /// number goes to `process` where that is given.
 bool findProcess(const QString& bundleIdentifier, ProcessSerialNumber* process);
 
+/// Puts a text on the clipboard as plain text, with two marks beside it: `clipboardTag` with ".", and
+/// "PasswordPboardType" with its own name.
+void copyToClipboard(const QString& text);
+
+/// The clipboard type that tells a text of this process: "ClipboardTag" and its process number.
+QString clipboardTag();
+
 } // namespace ExtraStringUtilities
