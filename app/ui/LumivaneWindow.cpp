@@ -65,9 +65,9 @@ void LumivaneWindow::showEvent(QShowEvent* event) {
 void LumivaneWindow::fitToContent() {
     if (!content_)
         return;
-    const QMargins margins = contentsMargins();
-    const int header = layout() ? layout()->sizeHint().height() - area_->sizeHint().height() : 0;
-    const int wanted = header + content_->height() + margins.top() + margins.bottom();
+    const QMargins margins = layout()->contentsMargins();
+    const int around = layout()->sizeHint().height() - area_->sizeHint().height();
+    const int wanted = around + content_->height();
     const int titleBar = std::max(0, frameGeometry().height() - geometry().height());
     const int available = screen()->availableGeometry().height() - titleBar;
     const bool scrolls = wanted > available;

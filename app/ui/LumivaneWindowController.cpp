@@ -24,6 +24,7 @@
 #include "shared/utilities/classes/setStringValueHilight.h"
 
 #include <QCoreApplication>
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>

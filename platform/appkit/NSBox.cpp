@@ -2,6 +2,7 @@
 #include "platform/appkit/NSBox.h"
 
 #include <QEvent>
+#include <QPainter>
 
 #include <algorithm>
 
@@ -46,4 +47,13 @@ void NSBox::layOutContent() {
     const QRect inside = contentsRect();
     content->setGeometry(inside.x(), inside.y(), inside.width(),
                          std::max(inside.height(), content->sizeHint().height()));
+}
+
+void NSBox::paintEvent(QPaintEvent* event) {
+    QFrame::paintEvent(event);
+    if (y() == 0)
+        return;
+    QColor line = palette().color(QPalette::WindowText);
+    line.setAlphaF(0.15F);
+    QPainter(this).fillRect(0, 0, width(), 1, line);
 }

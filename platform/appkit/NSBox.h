@@ -4,7 +4,7 @@
 #include <QFrame>
 
 /// Stands for a box around a content view. Backed by a frame that shows the upper part of its content view when it is
-/// lower than that, as a folded section is.
+/// lower than that, as a folded section is, under a hairline that sets it off from what is above.
 class NSBox : public QFrame {
     Q_OBJECT
 
@@ -25,6 +25,7 @@ Q_SIGNALS:
 protected:
     bool event(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     void layOutContent();

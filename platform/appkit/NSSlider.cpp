@@ -27,6 +27,11 @@ void NSSlider::setMaxValue(double maximum) {
     setDoubleValue(value_);
 }
 
+void NSSlider::setReversed(bool reversed) {
+    reversed_ = reversed;
+    placeKnob();
+}
+
 void NSSlider::setDoubleValue(double value) {
     value_ = std::isnan(value) ? minimum_ : std::clamp(value, std::min(minimum_, maximum_), maximum_);
     placeKnob();
@@ -35,10 +40,11 @@ void NSSlider::setDoubleValue(double value) {
 void NSSlider::placeKnob() {
     const double span = maximum_ - minimum_;
     const QSignalBlocker quiet(this);
-    setValue(span > 0 ? static_cast<int>(std::lround((value_ - minimum_) / span * kSteps)) : 0);
+    const int step = span > 0 ? static_cast<int>(std::lround((value_ - minimum_) / span * kSteps)) : 0;
+    setValue(reversed_ ? kSteps - step : step);
 }
 
 void NSSlider::knobMoved(int step) {
-    value_ = minimum_ + (maximum_ - minimum_) * step / kSteps;
+    value_ = minimum_ + (maximum_ - minimum_) * (reversed_ ? kSteps - step : step) / kSteps;
     Q_EMIT doubleValueChanged(value_);
 }

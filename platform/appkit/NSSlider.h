@@ -9,6 +9,7 @@ class NSSlider : public QSlider {
     Q_OBJECT
     Q_PROPERTY(double minValue READ minValue WRITE setMinValue)
     Q_PROPERTY(double maxValue READ maxValue WRITE setMaxValue)
+    Q_PROPERTY(bool reversed READ isReversed WRITE setReversed)
     Q_PROPERTY(double doubleValue READ doubleValue WRITE setDoubleValue NOTIFY doubleValueChanged)
 
 public:
@@ -18,6 +19,10 @@ public:
     double maxValue() const { return maximum_; }
     void setMinValue(double minimum);
     void setMaxValue(double maximum);
+
+    /// Whether the largest value lies at the leading end, where a slider has its smallest.
+    bool isReversed() const { return reversed_; }
+    void setReversed(bool reversed);
 
     double doubleValue() const { return value_; }
 
@@ -35,4 +40,5 @@ private:
     double minimum_ = 0.0;
     double maximum_ = 1.0;
     double value_ = 0.0;
+    bool reversed_ = false;
 };

@@ -223,18 +223,25 @@ class Desktop:
         for index in range(node.get_child_count()):
             yield from self.walk(node.get_child_at_index(index))
 
-    def icon(self):
-        """The icon's rectangle on the screen, as the desktop's panel tells it."""
+    def extents(self, node):
         Atspi = self.atspi()
+        return Atspi.Component.get_extents(node, Atspi.CoordType.SCREEN)
 
+    def icon(self):
+        """The icon's rectangle on the screen: the tray is a process of its own inside the panel, whose place the panel
+        tells, and there is one icon in it."""
         def find():
-            for panel in ("xfce4-panel", "wrapper-2.0"):
-                for node in self.walk(self.application(panel)):
-                    if node.get_role_name() in ("push button", "toggle button", "icon") and \\
-                            "Lumivane" in (node.get_name() or "") + (node.get_description() or ""):
-                        return node.get_component_iface().get_extents(Atspi.CoordType.SCREEN)
+            for node in self.walk(self.application("xfce4-panel")):
+                if node.get_role_name() == "filler":
+                    rectangle = self.extents(node)
+                    if rectangle.width >= 20:
+                        return rectangle
             return None
         return wait_for("the icon in the panel", find)
+
+    def click_icon(self, button=1):
+        icon = self.icon()
+        self.click(icon.x + icon.width // 2, icon.y + icon.height // 2, button)
 
     def window(self):
         """The panel's window, or nothing while it is hidden."""

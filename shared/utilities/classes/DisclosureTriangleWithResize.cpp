@@ -5,12 +5,18 @@
 #include "platform/foundation/NSException.h"
 #include "platform/foundation/NSUserDefaults.h"
 
-#include <QEvent>
 #include <QLayout>
+#include <QPainter>
+#include <QStyleOptionFocusRect>
+#include <QStyleOptionToolButton>
 
 #include <cmath>
 
 namespace {
+
+constexpr int kArrowSide = 12;
+constexpr int kGap = 4;
+constexpr int kPadding = 2;
 
 /// A view's bottom edge in its superview, measured upwards as the folding rules have it.
 int bottomEdge(const QWidget* view) {
@@ -26,10 +32,9 @@ QList<QWidget*> viewsIn(const QWidget* superview) {
 DisclosureTriangleWithResize::DisclosureTriangleWithResize(QWidget* parent) : QToolButton(parent) {
     setCheckable(true);
     setChecked(true);
-    setAutoRaise(true);
-    setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    updateArrow();
-    connect(this, &QToolButton::toggled, this, &DisclosureTriangleWithResize::updateArrow);
+    QFont bold = font();
+    bold.setBold(true);
+    setFont(bold);
     connect(this, &QToolButton::clicked, this, [this] {
         if (valueBindingKeyPath_.isEmpty())
             sizeToState();
@@ -139,13 +144,29 @@ void DisclosureTriangleWithResize::showFoldedViews() {
     superViewExpandedHeight_ = static_cast<float>(boxView()->sizeHint().height());
 }
 
-void DisclosureTriangleWithResize::changeEvent(QEvent* event) {
-    QToolButton::changeEvent(event);
-    if (event->type() == QEvent::LayoutDirectionChange)
-        updateArrow();
+QSize DisclosureTriangleWithResize::sizeHint() const {
+    const int text = fontMetrics().horizontalAdvance(this->text());
+    return {kArrowSide + kGap + text + kGap, fontMetrics().height() + 2 * kPadding};
 }
 
-void DisclosureTriangleWithResize::updateArrow() {
-    const Qt::ArrowType folded = isRightToLeft() ? Qt::LeftArrow : Qt::RightArrow;
-    setArrowType(isChecked() ? Qt::DownArrow : folded);
+void DisclosureTriangleWithResize::paintEvent(QPaintEvent*) {
+    // A heading with a triangle, not a button that stands out from the panel.
+    QPainter painter(this);
+    QStyleOptionToolButton option;
+    initStyleOption(&option);
+    const QRect arrow = QStyle::visualRect(layoutDirection(), rect(), QRect(0, 0, kArrowSide, height()));
+    const QRect text =
+        QStyle::visualRect(layoutDirection(), rect(), rect().adjusted(kArrowSide + kGap, 0, 0, 0));
+    QStyleOption triangle = option;
+    triangle.rect = QRect(0, 0, kArrowSide, kArrowSide);
+    triangle.rect.moveCenter(arrow.center());
+    const auto folded = isRightToLeft() ? QStyle::PE_IndicatorArrowLeft : QStyle::PE_IndicatorArrowRight;
+    style()->drawPrimitive(isChecked() ? QStyle::PE_IndicatorArrowDown : folded, &triangle, &painter, this);
+    style()->drawItemText(&painter, text, Qt::AlignVCenter | Qt::AlignLeading, option.palette, isEnabled(),
+                          this->text(), foregroundRole());
+    if (hasFocus()) {
+        QStyleOptionFocusRect focus;
+        focus.initFrom(this);
+        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
+    }
 }

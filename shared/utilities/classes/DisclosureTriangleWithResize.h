@@ -37,15 +37,16 @@ public:
     /// preference says, and follows it from then on.
     void awakeFromNib();
 
+    QSize sizeHint() const override;
+
 protected:
-    void changeEvent(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     void observeValue(const QString& key);
     void contentChanged();
     void hideFoldedViews();
     void showFoldedViews();
-    void updateArrow();
 
     float superViewExpandedHeight_ = 0;
     QString valueBindingKeyPath_;
