@@ -3,8 +3,15 @@
 
 #include "app/engine/CMoon.h"
 #include "app/engine/CMoonHelper.h"
+#include "platform/carbon/Processes.h"
+#include "platform/foundation/NSBundle.h"
 #include "platform/foundation/NSUserDefaults.h"
+#include "shared/utilities/classes/ExtraApplicationUtilities.h"
 #include "shared/utilities/classes/ExtraNumberUtilities.h"
+#include "shared/utilities/classes/ExtraStringUtilities.h"
+
+#include <QCoreApplication>
+#include <QMessageBox>
 
 namespace {
 
@@ -58,4 +65,33 @@ void ApplicationDelegate::setupDefaultPreferences() {
 void ApplicationDelegate::awakeFromNib() {
     initCheckForUpdateURL();
     installNewVersion();
+}
+
+void ApplicationDelegate::installNewVersion() {
+    announceProcess(NSBundle::mainBundle().bundleIdentifier());
+    quitOlderCopies();
+    const QString bundlePath = NSBundle::mainBundle().bundlePath();
+    if (!ExtraStringUtilities::contains(bundlePath, QStringLiteral("Applications")))
+        warnOutsideApplicationsOnce(bundlePath);
+    ensureSetToStartup();
+}
+
+void ApplicationDelegate::warnOutsideApplicationsOnce(const QString& bundlePath) {
+    const QString key = QStringLiteral("LVNotApplicationsFolderWarning");
+    NSUserDefaults* defaults = NSUserDefaults::standardUserDefaults();
+    if (defaults->stringForKey(key) == bundlePath)
+        return;
+    ExtraApplicationUtilities::bringToFront();
+    const NSBundle& bundle = NSBundle::mainBundle();
+    QMessageBox alert(QMessageBox::Warning, QStringLiteral("Lumivane"),
+                      bundle.localizedString(QT_TRANSLATE_NOOP(
+                          "Lumivane", "Lumivane is not inside your Applications folder.")));
+    alert.setInformativeText(bundle.localizedString(QT_TRANSLATE_NOOP(
+        "Lumivane", "We highly recommend you install Lumivane in to your Applications folder.  (This warning will only "
+                    "be shown once for the current install location.)  Please quit Lumivane before moving it, if you "
+                    "do so.")));
+    alert.addButton(bundle.localizedString(QT_TRANSLATE_NOOP("Lumivane", "OK")), QMessageBox::AcceptRole);
+    defaults->setObject(bundlePath, key);
+    defaults->synchronize();
+    alert.exec();
 }

@@ -71,7 +71,9 @@ Q_SIGNALS:
 
 private:
     void setupDefaults();
-    void warnOutsideApplicationsOnce(const QString& path);
+    void quitOlderCopies();
+    void warnOutsideApplicationsOnce(const QString& bundlePath);
+    void ensureSetToStartup();
 
     std::unique_ptr<SUUpdater> sparkleUpdater_;
 };
