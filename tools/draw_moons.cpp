@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Draws the pictures of the Moon's phases, M00.png to M28.png: draw_moons <albedo map> <output folder>
+// Draws the pictures of the Moon's phases, M00.png to M28.png, and the program's icons in the layout of an icon theme:
+// draw_moons <albedo map> <folder of the pictures> <folder of the icon theme> <name of the icon>
 #include "app/engine/CMoon.h"
 #include "tools/MoonRenderer.h"
 
@@ -9,9 +10,43 @@
 
 #include <cstdio>
 
+namespace {
+
+constexpr double kIconPhase = 19.0; // a broad crescent: a Moon at a glance, in any size
+
+bool write(const QImage& picture, const QString& path) {
+    QImageWriter writer(path, "png");
+    if (writer.write(picture))
+        return true;
+    std::fprintf(stderr, "draw_moons: %s: %s\n", qPrintable(path), qPrintable(writer.errorString()));
+    return false;
+}
+
+bool drawPictures(const QImage& albedo, const QDir& folder) {
+    const MoonRenderer renderer(albedo);
+    for (int index = 0; index <= static_cast<int>(kIconBounds.size()); ++index) {
+        const QImage picture = renderer.picture(phaseOfPicture(index));
+        if (!write(picture, folder.filePath(QString::asprintf("M%02d.png", index))))
+            return false;
+    }
+    return true;
+}
+
+bool drawIcons(const QImage& albedo, const QDir& theme, const QString& name) {
+    for (const int side : {16, 22, 24, 32, 48, 64, 128, 256, 512}) {
+        const QString folder = theme.filePath(QStringLiteral("%1x%1/apps").arg(side));
+        if (!QDir().mkpath(folder) ||
+            !write(MoonRenderer(albedo, side).picture(kIconPhase), folder + u'/' + name + u".png"))
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
 int main(int argc, char** argv) {
-    if (argc != 3) {
-        std::fprintf(stderr, "usage: draw_moons <albedo map> <output folder>\n");
+    if (argc != 5) {
+        std::fprintf(stderr, "usage: draw_moons <albedo map> <pictures> <icon theme> <icon name>\n");
         return 2;
     }
     QImageReader reader(QString::fromLocal8Bit(argv[1]));
@@ -20,15 +55,7 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "draw_moons: %s: %s\n", argv[1], qPrintable(reader.errorString()));
         return 1;
     }
-    const QDir folder(QString::fromLocal8Bit(argv[2]));
-    const MoonRenderer renderer(albedo);
-    for (int index = 0; index <= static_cast<int>(kIconBounds.size()); ++index) {
-        const QString path = folder.filePath(QString::asprintf("M%02d.png", index));
-        QImageWriter writer(path, "png");
-        if (!writer.write(renderer.picture(phaseOfPicture(index)))) {
-            std::fprintf(stderr, "draw_moons: %s: %s\n", qPrintable(path), qPrintable(writer.errorString()));
-            return 1;
-        }
-    }
-    return 0;
+    const bool drawn = drawPictures(albedo, QDir(QString::fromLocal8Bit(argv[2]))) &&
+                       drawIcons(albedo, QDir(QString::fromLocal8Bit(argv[3])), QString::fromLocal8Bit(argv[4]));
+    return drawn ? 0 : 1;
 }
