@@ -36,7 +36,7 @@ bool drawIcons(const QImage& albedo, const QDir& theme, const QString& name) {
     for (const int side : {16, 22, 24, 32, 48, 64, 128, 256, 512}) {
         const QString folder = theme.filePath(QStringLiteral("%1x%1/apps").arg(side));
         if (!QDir().mkpath(folder) ||
-            !write(MoonRenderer(albedo, side).picture(kIconPhase), folder + u'/' + name + u".png"))
+            !write(MoonRenderer(albedo, side).picture(kIconPhase), folder + QLatin1Char('/') + name + QStringLiteral(".png")))
             return false;
     }
     return true;
