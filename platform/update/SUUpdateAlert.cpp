@@ -16,7 +16,8 @@ namespace {
 
 constexpr int kIconSize = 64;
 constexpr int kTextWidth = 380;
-constexpr QSize kNotesSize(460, 180);
+constexpr int kLeastNotesHeight = 90;
+constexpr QSize kSizeWithNotes(540, 380);
 
 QString localized(const char* key) {
     return NSBundle::mainBundle().localizedString(key);
@@ -39,8 +40,8 @@ const char* sentenceFor(SUFailure failure) {
         return QT_TRANSLATE_NOOP("Lumivane",
                                  "%1 can't look for updates, because this system has no secure connections.");
     case SUFailure::Unreachable:
-        return QT_TRANSLATE_NOOP(
-            "Lumivane", "The update server can't be reached. Is this computer connected to the network?");
+        return QT_TRANSLATE_NOOP("Lumivane",
+                                 "The update server can't be reached; please check the network connection.");
     case SUFailure::Untrusted:
         return QT_TRANSLATE_NOOP(
             "Lumivane", "The update server could not prove its identity, so it was not asked for updates.");
@@ -49,12 +50,12 @@ const char* sentenceFor(SUFailure failure) {
             "Lumivane", "The update server refers to an insecure address, which was not asked for updates.");
     case SUFailure::TooSlow:
         return QT_TRANSLATE_NOOP("Lumivane",
-                                 "The update server takes too long to answer. Please try again later.");
+                                 "The update server takes too long to answer; please try again later.");
     case SUFailure::Unusable:
         break;
     }
     return QT_TRANSLATE_NOOP("Lumivane",
-                             "The update server's answer can't be understood. Please try again later.");
+                             "The update server's answer can't be understood; please try again later.");
 }
 
 QLabel* addLabel(QVBoxLayout* layout, const QString& text, const char* name) {
@@ -81,6 +82,8 @@ SUUpdateAlert::SUUpdateAlert(const QIcon& icon, const QString& headline, const Q
     bold.setBold(true);
     head->setFont(bold);
     addLabel(texts_, sentence, "sentence");
+    texts_->setSpacing(6);
+    texts_->addStretch();
 
     auto* row = new QHBoxLayout;
     row->setSpacing(16);
@@ -154,15 +157,15 @@ SUUpdateAlert* SUUpdateAlert::failure(const QString& sentence) {
 void SUUpdateAlert::addNotes(const QString& title, const QString& notes) {
     const QString shown =
         title.isEmpty() ? localized(QT_TRANSLATE_NOOP("Lumivane", "Release Notes:")) : title;
+    texts_->addSpacing(8);
     QLabel* label = addLabel(texts_, shown, "title");
     auto* box = new QPlainTextEdit(notes);
     box->setObjectName(QStringLiteral("notes"));
     box->setReadOnly(true);
     box->setTabChangesFocus(true);
     box->setAccessibleName(shown);
-    box->setMinimumSize(kTextWidth, kNotesSize.height() / 2);
+    box->setMinimumHeight(kLeastNotesHeight);
     label->setBuddy(box);
-    texts_->addSpacing(4);
     texts_->addWidget(box, 1);
-    resize(sizeHint().expandedTo(kNotesSize));
+    resize(kSizeWithNotes);
 }

@@ -181,7 +181,7 @@ void SUUpdater::feedFetched(const QByteArray& feed) {
 
 void SUUpdater::checkFailed(SUFailure failure, const QString& reason) {
     endCheck();
-    NSLog(QStringLiteral("The check for updates failed: %1.").arg(reason));
+    NSLog(QStringLiteral("The check for updates failed (%1).").arg(reason));
     if (asked_)
         answer(SUUpdateAlert::checkFailed(failure));
     schedule();

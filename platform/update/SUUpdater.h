@@ -56,7 +56,7 @@ struct SUUpdaterTiming {
     /// The longest single wait. Timers stand still while the machine sleeps, so that the wall clock is asked
     /// now and then.
     std::chrono::milliseconds longestWait = std::chrono::hours(6);
-    SUFetchLimits limits;
+    SUFetchLimits limits = {};
 };
 
 /// Stands for the update framework: it asks a feed for newer versions, by itself and when told to, and offers

@@ -15,15 +15,19 @@
 
 #include <gtest/gtest.h>
 
+#include <stdexcept>
+
 /// Runs the event loop until `condition` holds; false when it does not within `milliseconds`.
 template <typename Condition>
 bool waitFor(Condition condition, int milliseconds = 5000) {
     const QDeadlineTimer deadline(milliseconds);
-    while (!condition() && !deadline.hasExpired()) {
+    while (!condition()) {
+        if (deadline.hasExpired())
+            return false;
         QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
-    return condition();
+    return true;
 }
 
 /// Runs the event loop for as long as a thing that must not happen is given time to happen.

@@ -34,6 +34,8 @@ class Handler(http.server.BaseHTTPRequestHandler):
             self.close_connection = True
 
     def serve_file(self, path):
+        if not os.path.exists("." + path):
+            return self.answer(404, [])
         with open("." + path, "rb") as feed:
             self.answer(200, [("Set-Cookie", "seen=1")], feed.read())
 
