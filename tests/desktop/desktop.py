@@ -141,18 +141,21 @@ class Desktop:
         if fresh:
             for folder in ("config/lumivane", "config/autostart"):
                 shutil.rmtree(os.path.join(self.home, folder), ignore_errors=True)
-        variables = dict(os.environ, TZ=zone, **(environment or {}))
+        variables = dict(os.environ, **(environment or {}))
+        # As an installed program is: its desktop entry finds it.
+        variables["PATH"] = os.path.dirname(os.path.abspath(program)) + ":" + os.environ["PATH"]
+        if zone:
+            variables["TZ"] = zone
         if moment:
             variables.update(LD_PRELOAD=FAKETIME, FAKETIME="@" + moment, FAKETIME_DONT_FAKE_MONOTONIC="1")
-        self.log = open(os.path.join(self.home, "log"), "w+b")
-        self.program = subprocess.Popen([program], env=variables, stdout=self.log, stderr=self.log)
+        with open(os.path.join(self.home, "log"), "wb") as log:
+            self.program = subprocess.Popen([program], env=variables, stdout=log, stderr=log)
         if tray:
             wait_for("the tray item", lambda: len(self.items()) == 1)
         return self.program
 
     def logged(self):
-        self.log.flush()
-        return pathlib.Path(self.log.name).read_text(errors="replace")
+        return pathlib.Path(self.home, "log").read_text(errors="replace")
 
     def stop(self):
         """Ends the program; its exit status."""
@@ -243,12 +246,48 @@ class Desktop:
         icon = self.icon()
         self.click(icon.x + icon.width // 2, icon.y + icon.height // 2, button)
 
-    def window(self):
-        """The panel's window, or nothing while it is hidden."""
-        Atspi = self.atspi()
+    def window(self, name="Lumivane"):
+        """The program's window of that title, or nothing while there is none on the screen."""
         application = self.application("Lumivane")
-        for node in self.walk(application):
-            if node.get_name() == "contentView_" or node.get_role_name() in ("frame", "window", "dialog", "filler"):
-                if node.get_parent() == application and node.get_state_set().contains(Atspi.StateType.SHOWING):
-                    return node
+        for index in range(application.get_child_count() if application else 0):
+            child = application.get_child_at_index(index)
+            if child and child.get_name() == name and self.shows(child):
+                return child
         return None
+
+    def shows(self, node):
+        return node.get_state_set().contains(self.atspi().StateType.SHOWING)
+
+    def open_panel(self):
+        """Clicks the icon and waits for the panel."""
+        self.click_icon()
+        return wait_for("the panel", self.window)
+
+    def find(self, name, root=None):
+        """The control of that accessible name."""
+        for node in self.walk(root or self.window()):
+            if node.get_name() == name:
+                return node
+        raise AssertionError("no control " + name)
+
+    def click_control(self, name, root=None):
+        box = self.extents(self.find(name, root))
+        self.click(box.x + box.width // 2, box.y + box.height // 2)
+
+    def lines(self):
+        """The texts that the panel shows, from top to bottom."""
+        return [node.get_name() for node in self.walk(self.window())
+                if node.get_role_name() == "label" and node.get_name() and self.shows(node)]
+
+    def line(self, start):
+        """The panel's line that starts so."""
+        return next((line for line in self.lines() if line.startswith(start)), None)
+
+    def picture(self, path):
+        """The Moon's picture in the panel as an image file."""
+        image = next(node for node in self.walk(self.window()) if node.get_role_name() == "image")
+        box = self.extents(image)
+        side = min(box.width, box.height)
+        x = box.x + (box.width - side) // 2
+        subprocess.run(["import", "-window", "root", "-crop",
+                        "%dx%d+%d+%d" % (side, side, x, box.y), "+repage", path], check=True)
