@@ -17,8 +17,10 @@
 
 namespace {
 
-/// A panel that restarts is back by then, and one with both kinds of tray has brought up the second.
-constexpr std::chrono::milliseconds kPatience{1000};
+/// A panel with both kinds of tray has brought up the second by then.
+constexpr std::chrono::milliseconds kStartPatience{1000};
+/// A panel that crashed or was restarted is back by then.
+constexpr std::chrono::milliseconds kRestartPatience{3000};
 
 } // namespace
 
@@ -28,6 +30,7 @@ public:
 
     void hostChanged();
     void xembedTrayChanged();
+    void waitForHost();
     void settleWithoutHost();
     void dock();
     void setShown(bool now);
@@ -51,7 +54,6 @@ NSStatusItem::Private::Private(NSStatusItem* item, const QString& identifier, co
                                const QDBusConnection& bus)
     : q(item), notifier(identifier, title, bus), toolTip(title) {
     patience.setSingleShot(true);
-    patience.setInterval(kPatience);
     connect(&patience, &QTimer::timeout, q, [this] { settleWithoutHost(); });
     connect(&notifier, &StatusNotifierItem::stateChanged, q, [this] { hostChanged(); });
     // Queued, so that the host has its answer before the click is worked on.
@@ -71,7 +73,7 @@ void NSStatusItem::Private::hostChanged() {
         if (!shown && xembedTray->isThere())
             settleWithoutHost();
         else
-            patience.start();
+            waitForHost();
         break;
     case StatusNotifierItem::State::Registering:
         patience.stop();
@@ -87,7 +89,11 @@ void NSStatusItem::Private::xembedTrayChanged() {
     if (notifier.state() != StatusNotifierItem::State::NoHost)
         return;
     xembedIcon.reset();
-    patience.start();
+    waitForHost();
+}
+
+void NSStatusItem::Private::waitForHost() {
+    patience.start(shown.value_or(false) ? kRestartPatience : kStartPatience);
 }
 
 void NSStatusItem::Private::settleWithoutHost() {

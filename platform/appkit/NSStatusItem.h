@@ -36,8 +36,8 @@ public:
     /// What a right click opens. The menu stays the caller's.
     void setMenu(QMenu* menu);
 
-    /// Whether a tray shows the item. False too until that is known (see `shownChanged`); true still for a
-    /// second after a tray is gone, so that one that merely restarts makes no difference.
+    /// Whether a tray shows the item. False too until that is known (see `shownChanged`); true still for
+    /// three seconds after a tray is gone, so that one that merely restarts makes no difference.
     bool isShown() const;
 
     /// The icon's rectangle on the screen (Qt's coordinates, y downwards) where the tray tells it; else one

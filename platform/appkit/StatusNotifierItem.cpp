@@ -14,13 +14,15 @@
 #include <QtEndian>
 
 #include <algorithm>
+#include <array>
+#include <utility>
 
 namespace {
 
 constexpr auto kWatcher = QLatin1String("org.kde.StatusNotifierWatcher");
 constexpr auto kWatcherPath = QLatin1String("/StatusNotifierWatcher");
 constexpr auto kItemPath = QLatin1String("/StatusNotifierItem");
-constexpr auto kMenuPath = QLatin1String("/MenuBar");
+constexpr auto kMenuPath = QLatin1String("/StatusNotifierItem/Menu");
 constexpr auto kProperties = QLatin1String("org.freedesktop.DBus.Properties");
 
 DBusImage dbusImage(const QImage& image) {
@@ -52,19 +54,24 @@ QPoint fromNativePixels(QPoint native) {
     return native;
 }
 
-/// Where a click was. Hosts tell it in native pixels or in scaled ones, each after its toolkit, and some
-/// tell nothing of use.
+/// Whether a host's numbers can mean the pointer's place. They are native pixels, or those divided by a whole
+/// number, or Qt's coordinates, after the host's toolkit and its settings.
+bool canMean(QPoint told, QPoint pointer) {
+    const auto isNear = [pointer](QPoint place) { return (place - pointer).manhattanLength() <= 48; };
+    return isNear(told) || std::ranges::any_of(std::array{1, 2, 3}, [&](int scale) {
+               return isNear(fromNativePixels(told * scale));
+           });
+}
+
+/// Where a click was, as far as it can be known. The pointer's own place is exact, unless the click came from
+/// elsewhere (the keyboard); some hosts tell nothing of use.
 std::optional<QPoint> placeOfClick(QPoint told) {
-    QList<QPoint> readings;
-    if (!told.isNull())
-        readings = {told, fromNativePixels(told)};
-    readings.removeIf([](QPoint reading) { return !isOnScreen(reading); });
-    if (!isPointerKnown())
-        return readings.isEmpty() ? std::nullopt : std::optional(readings.first());
-    const QPoint pointer = QCursor::pos();
-    const auto nearest = std::ranges::min_element(
-        readings, {}, [pointer](QPoint reading) { return (reading - pointer).manhattanLength(); });
-    return nearest == readings.end() ? pointer : *nearest;
+    if (isPointerKnown()) {
+        const QPoint pointer = QCursor::pos();
+        const QPoint place = fromNativePixels(told);
+        return told.isNull() || !isOnScreen(place) || canMean(told, pointer) ? pointer : place;
+    }
+    return told.isNull() || !isOnScreen(told) ? std::nullopt : std::optional(told);
 }
 
 /// Whether the watcher's answer says that a host is there. Who has a watcher that lacks the question has a
@@ -127,7 +134,9 @@ StatusNotifierItem::~StatusNotifierItem() {
 
 void StatusNotifierItem::start() {
     if (!bus_.isConnected()) {
-        setState(State::NoHost);
+        // Not before the caller is ready for it: where there is a bus, the answer takes a while too.
+        QMetaObject::invokeMethod(
+            this, [this] { setState(State::NoHost); }, Qt::QueuedConnection);
         return;
     }
     auto* const watcher =
@@ -193,7 +202,8 @@ void StatusNotifierItem::callWatcher(const QString& interface, const QString& me
     delete question_;
     question_ = new QDBusPendingCallWatcher(bus_.asyncCall(message), this);
     connect(question_, &QDBusPendingCallWatcher::finished, this,
-            [answered](QDBusPendingCallWatcher* question) {
+            [this, answered](QDBusPendingCallWatcher* question) {
+                question_ = nullptr;
                 question->deleteLater();
                 answered(*question);
             });
