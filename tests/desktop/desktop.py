@@ -199,6 +199,11 @@ class Desktop:
     def screenshot(self, path):
         subprocess.run(["import", "-window", "root", path], check=True)
 
+    def titled(self, name):
+        """The X windows of that title which are on the screen."""
+        return subprocess.run(["xdotool", "search", "--onlyvisible", "--name", "^" + name + "$"],
+                              capture_output=True, text=True).stdout.split()
+
     # What a screen reader hears
 
     def atspi(self):
