@@ -143,7 +143,9 @@ class Desktop:
                 shutil.rmtree(os.path.join(self.home, folder), ignore_errors=True)
         variables = dict(os.environ, **(environment or {}))
         # As an installed program is: its desktop entry finds it.
-        variables["PATH"] = os.path.dirname(os.path.abspath(program)) + ":" + os.environ["PATH"]
+        folder = os.path.dirname(os.path.abspath(program))
+        variables["PATH"] = folder + ":" + os.environ["PATH"]
+        variables["XDG_DATA_DIRS"] = os.path.dirname(folder) + "/share:/usr/local/share:/usr/share"
         if zone:
             variables["TZ"] = zone
         if moment:
