@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "platform/carbon/Processes.h"
 
+#include "platform/carbon/Agents.h"
+#include "platform/carbon/ProcessService.h"
 #include "platform/foundation/NSBundle.h"
-#include "platform/foundation/NSLog.h"
 
 #include <QApplication>
-#include <QDBusConnection>
-#include <QDBusConnectionInterface>
-#include <QRegularExpression>
 #include <QWidget>
 
 #include <algorithm>
@@ -16,59 +14,67 @@
 
 namespace {
 
-struct RunningProcess {
-    std::uint32_t pid;
-    QString bundleIdentifier;
-};
+std::uint32_t ownProcessID() {
+    return static_cast<std::uint32_t>(getpid());
+}
 
-/// The processes that announced themselves, by process number; the running one is always among them.
-std::vector<RunningProcess> runningProcesses() {
-    const auto self = static_cast<std::uint32_t>(getpid());
-    std::vector<RunningProcess> list{{self, NSBundle::mainBundle().bundleIdentifier()}};
-    const QDBusConnection bus = QDBusConnection::sessionBus();
-    if (!bus.isConnected())
-        return list;
-    static const QRegularExpression announced(QStringLiteral("^([^:].*)\\.pid(\\d{1,9})$"));
-    const QStringList names = bus.interface()->registeredServiceNames();
-    for (const QString& name : names) {
-        const auto match = announced.match(name);
-        const std::uint32_t pid = match.captured(2).toUInt();
-        if (match.hasMatch() && pid != self)
-            list.push_back({pid, match.captured(1)});
-    }
-    std::sort(list.begin(), list.end(), [](const auto& a, const auto& b) { return a.pid < b.pid; });
-    return list;
+/// The processes that announced themselves, by process ID; the running one is always among them.
+std::vector<ProcessService::Copy> runningCopies() {
+    std::vector<ProcessService::Copy> copies = ProcessService::announcedCopies();
+    std::erase_if(copies, [](const auto& copy) { return copy.pid == ownProcessID(); });
+    copies.push_back({ownProcessID(), NSBundle::mainBundle().bundleIdentifier()});
+    std::ranges::sort(copies, {}, &ProcessService::Copy::pid);
+    return copies;
+}
+
+std::vector<ProcessSerialNumber> runningProcesses() {
+    std::vector<ProcessSerialNumber> numbers;
+    for (const auto& copy : runningCopies())
+        numbers.push_back({0, copy.pid});
+    for (const auto& agent : Agents::running())
+        numbers.push_back(agent.process);
+    return numbers;
 }
 
 } // namespace
 
 OSStatus GetNextProcess(ProcessSerialNumber* process) {
-    for (const RunningProcess& running : runningProcesses()) {
-        if (running.pid > process->lowLongOfPSN) {
-            *process = {0, running.pid};
-            return noErr;
-        }
-    }
-    *process = kNoProcess;
-    return procNotFound;
+    const auto numbers = runningProcesses();
+    const auto next = std::ranges::upper_bound(numbers, *process);
+    *process = next == numbers.end() ? kNoProcess : *next;
+    return next == numbers.end() ? procNotFound : noErr;
+}
+
+OSStatus GetProcessInformation(const ProcessSerialNumber& process, ProcessInfoRec* information) {
+    if (const auto agent = Agents::running(process))
+        *information = {process, agent->creator};
+    else if (!ProcessInformationCopyDictionary(process).isEmpty())
+        *information = {process, kUnknownSignature};
+    else
+        return procNotFound;
+    return noErr;
 }
 
 QVariantMap ProcessInformationCopyDictionary(const ProcessSerialNumber& process) {
-    for (const RunningProcess& running : runningProcesses()) {
-        if (running.pid == process.lowLongOfPSN)
-            return {{QStringLiteral("CFBundleIdentifier"), running.bundleIdentifier},
-                    {QStringLiteral("pid"), static_cast<int>(running.pid)}};
-    }
-    return {};
+    if (Agents::running(process))
+        return {{QStringLiteral("pid"), static_cast<int>(ownProcessID())}};
+    const auto copies = runningCopies();
+    const auto found = std::ranges::find_if(copies, [&](const auto& copy) {
+        return process == ProcessSerialNumber{0, copy.pid};
+    });
+    if (found == copies.end())
+        return {};
+    return {{QStringLiteral("CFBundleIdentifier"), found->bundleIdentifier},
+            {QStringLiteral("pid"), static_cast<int>(found->pid)}};
 }
 
 OSStatus GetCurrentProcess(ProcessSerialNumber* process) {
-    *process = {0, static_cast<std::uint32_t>(getpid())};
+    *process = {0, ownProcessID()};
     return noErr;
 }
 
 OSStatus SetFrontProcess(const ProcessSerialNumber& process) {
-    if (process.lowLongOfPSN != static_cast<std::uint32_t>(getpid()))
+    if (process != ProcessSerialNumber{0, ownProcessID()})
         return paramErr;
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (QWidget* window : windows) {
@@ -81,11 +87,5 @@ OSStatus SetFrontProcess(const ProcessSerialNumber& process) {
 }
 
 bool announceProcess(const QString& bundleIdentifier) {
-    QDBusConnection bus = QDBusConnection::sessionBus();
-    const QString name = QStringLiteral("%1.pid%2").arg(bundleIdentifier).arg(getpid());
-    if (bus.isConnected() && bus.registerService(name))
-        return true;
-    NSLog(QStringLiteral("No D-Bus session bus (%1); other copies can't be found.")
-              .arg(bus.lastError().message()));
-    return false;
+    return ProcessService::announce(bundleIdentifier);
 }

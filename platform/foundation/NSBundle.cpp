@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "platform/foundation/NSBundle.h"
 
+#include "platform/foundation/DesktopEntry.h"
 #include "platform/foundation/NSLog.h"
 #include "platform/foundation/NSPropertyList.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
 #include <QLocale>
+#include <QStandardPaths>
 
 namespace {
 
@@ -20,6 +23,38 @@ public:
     }
 };
 
+/// Not QCoreApplication's path: the engine is used without an application object too.
+QString executablePath() {
+    QString path = QFile::symLinkTarget(QStringLiteral("/proc/self/exe"));
+    // An update puts a new file in the place of the running one.
+    const QLatin1String replaced(" (deleted)");
+    if (path.endsWith(replaced) && !QFileInfo::exists(path))
+        path.chop(replaced.size());
+    return path;
+}
+
+/// The AppImage that this program runs from. A program that was started by an AppImage inherits the variable
+/// without being part of it.
+QString appImagePath(const QString& executable) {
+    const QString path = qEnvironmentVariable("APPIMAGE");
+    const QString mountedAt = qEnvironmentVariable("APPDIR");
+    const bool isInside = mountedAt.isEmpty() || executable.startsWith(QDir::cleanPath(mountedAt) + u'/');
+    return isInside && path.startsWith(u'/') && QFileInfo(path).isFile() ? path : QString();
+}
+
+bool isSameFile(const QString& path, const QString& other) {
+    const QString canonical = QFileInfo(path).canonicalFilePath();
+    return !canonical.isEmpty() && canonical == QFileInfo(other).canonicalFilePath();
+}
+
+bool starts(const QString& desktopEntry, const QString& program) {
+    QString error;
+    const auto entry = DesktopEntry::fromFile(desktopEntry, &error);
+    return entry && !entry->flag("Hidden", false) &&
+           (isSameFile(entry->program(), program) ||
+            isSameFile(absoluteProgram(entry->text("TryExec")), program));
+}
+
 } // namespace
 
 NSBundle& NSBundle::mainBundle() {
@@ -30,9 +65,21 @@ NSBundle& NSBundle::mainBundle() {
 QString NSBundle::resourcePath() const {
     if (const QString named = qEnvironmentVariable("LUMIVANE_RESOURCES"); !named.isEmpty())
         return named;
-    // Not QCoreApplication's path: the engine is used without an application object too.
-    const QFileInfo executable(QFile::symLinkTarget(QStringLiteral("/proc/self/exe")));
-    return QFileInfo(executable.absolutePath() + QStringLiteral("/../share/lumivane")).absoluteFilePath();
+    return QFileInfo(QFileInfo(executablePath()).absolutePath() + QStringLiteral("/../share/lumivane"))
+        .absoluteFilePath();
+}
+
+QString NSBundle::bundlePath() const {
+    const QString executable = executablePath();
+    const QString appImage = appImagePath(executable);
+    const QString program = appImage.isEmpty() ? executable : appImage;
+    const QStringList entries = QStandardPaths::locateAll(QStandardPaths::ApplicationsLocation,
+                                                          bundleIdentifier() + QStringLiteral(".desktop"));
+    for (const QString& entry : entries) {
+        if (starts(entry, program))
+            return entry;
+    }
+    return program;
 }
 
 QString NSBundle::pathForResource(const QString& name, const QString& type) const {

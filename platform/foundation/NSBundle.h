@@ -17,6 +17,11 @@ public:
     /// The folder of the resources; it need not exist.
     QString resourcePath() const;
 
+    /// Where the application lives, read afresh at every call: its installed desktop entry, `<bundle
+    /// identifier>.desktop` in the XDG data folders, when that starts this very program; else the AppImage
+    /// that it runs from; else the executable.
+    QString bundlePath() const;
+
     /// The path of the resource `name` with the extension `type` (empty: `name` as it stands); empty when
     /// there is no such file.
     QString pathForResource(const QString& name, const QString& type = QString()) const;

@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+#include "app/shell/ApplicationDelegate.h"
+
+#include "platform/foundation/NSBundle.h"
+#include "platform/foundation/NSLog.h"
+#include "platform/foundation/NSUserDefaults.h"
+#include "shared/utilities/classes/ExtraAppleEventManagerUtilities.h"
+#include "shared/utilities/classes/ExtraStringUtilities.h"
+#include "shared/utilities/libraries/LoginItemsAE/LoginItemsAE.h"
+
+#include <algorithm>
+
+namespace {
+
+QUrl bundleURL() {
+    return QUrl::fromLocalFile(NSBundle::mainBundle().bundlePath());
+}
+
+QUrl urlOf(const QVariantMap& loginItem) {
+    return loginItem.value(QStringLiteral("URL")).toUrl();
+}
+
+} // namespace
+
+std::optional<QList<QVariantMap>> ApplicationDelegate::allLoginItems() const {
+    std::unique_ptr<LoginItemsList> items;
+    const OSStatus err = LIAECopyLoginItems(&items);
+    if (err == noErr)
+        return *items;
+    NSLog(QStringLiteral("Can't get login items list from system (%1).").arg(err));
+    return std::nullopt;
+}
+
+bool ApplicationDelegate::alreadySetToStartup(const std::optional<QUrl>& url) const {
+    const QUrl wanted = url.value_or(bundleURL());
+    const auto items = allLoginItems();
+    return items &&
+           std::ranges::any_of(*items, [&](const QVariantMap& item) { return urlOf(item) == wanted; });
+}
+
+void ApplicationDelegate::removeOldStartupItemsContaining(const QString& name) {
+    const auto items = allLoginItems();
+    if (!items)
+        return;
+    // Backwards, so that the positions of the items still to come stay true.
+    for (qsizetype i = items->size() - 1; i >= 0; --i) {
+        if (ExtraStringUtilities::contains(urlOf(items->at(i)).path(QUrl::FullyDecoded), name))
+            LIAERemove(i);
+    }
+}
+
+void ApplicationDelegate::toggleSetToStartup(const std::optional<QUrl>& url) {
+    const QUrl wanted = url.value_or(bundleURL());
+    const bool wasSet = alreadySetToStartup(wanted);
+    removeOldStartupItemsContaining(QStringLiteral("Lumivane"));
+    if (!wasSet)
+        LIAEAddURLAtEnd(&wanted, false);
+}
+
+void ApplicationDelegate::quitOlderCopies() {
+    const QString identifier = NSBundle::mainBundle().bundleIdentifier();
+    ExtraAppleEventManagerUtilities::quickSend(kAEQuitApplication,
+                                               identifier + QStringLiteral(".backgrounder.v203"));
+    ExtraAppleEventManagerUtilities::quickSend(kAEQuitApplication, identifier);
+    NSUserDefaults::standardUserDefaults()->synchronize();
+}
+
+void ApplicationDelegate::ensureSetToStartup() {
+    const QUrl wanted = bundleURL();
+    if (alreadySetToStartup(wanted))
+        return;
+    removeOldStartupItemsContaining(QStringLiteral("Lumivane"));
+    LIAEAddURLAtEnd(&wanted, false);
+}

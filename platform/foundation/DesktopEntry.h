@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+#include <optional>
+
+struct _GKeyFile;
+
+/// The "Desktop Entry" group of a desktop entry file, as the Desktop Entry Specification of freedesktop.org
+/// has it. Backed by GKeyFile.
+class DesktopEntry {
+public:
+    DesktopEntry();
+    ~DesktopEntry();
+    DesktopEntry(DesktopEntry&&) noexcept;
+    DesktopEntry& operator=(DesktopEntry&&) noexcept;
+
+    /// Nothing, and the reason in `error`, for what is no desktop entry. A file must be a regular one of at
+    /// most 256 KiB.
+    static std::optional<DesktopEntry> fromBytes(const QByteArray& bytes, QString* error);
+    static std::optional<DesktopEntry> fromFile(const QString& path, QString* error);
+
+    /// Values as the file means them, freed of its escapes; without a sound one an empty text, or
+    /// `otherwise`.
+    QString text(const char* key) const;
+    bool flag(const char* key, bool otherwise) const;
+    std::optional<quint64> number(const char* key) const;
+
+    /// Whether an autostart entry is one that the session starts: an application, not hidden, not switched
+    /// off, and meant for one of `desktops`.
+    bool startsIn(const QStringList& desktops) const;
+
+    /// The program that `Exec` starts, as an absolute path; as it is named where it can't be found, and empty
+    /// where `Exec` is none.
+    QString program() const;
+
+    void setText(const char* key, const QString& value);
+    /// Takes `key` over from another entry as it stands there, where it has it.
+    void copy(const char* key, const DesktopEntry& from);
+
+    QByteArray toBytes() const;
+
+private:
+    QStringList list(const char* key) const;
+
+    struct Free {
+        void operator()(_GKeyFile* file) const;
+    };
+    std::unique_ptr<_GKeyFile, Free> file_;
+};
+
+/// One argument for `Exec`: whatever it holds, it stays this one argument.
+QString quotedForExec(const QString& argument);
+
+/// The program that a name stands for: as it is when absolute, else found in `PATH`, else empty.
+QString absoluteProgram(const QString& name);
