@@ -22,6 +22,7 @@ constexpr AEEventID kAEActivateAction = fourCharCode("actn");
 constexpr AEEventID kAEAnswer = fourCharCode("ansr");
 
 constexpr AEKeyword keyAddressAttr = fourCharCode("addr");
+constexpr AEKeyword keyOriginalAddressAttr = fourCharCode("from"); ///< of an event from another copy
 constexpr AEKeyword keyEventClassAttr = fourCharCode("evcl");
 constexpr AEKeyword keyEventIDAttr = fourCharCode("evid");
 constexpr AEKeyword keyReturnIDAttr = fourCharCode("rtid");
