@@ -1,7 +1,21 @@
 // SPDX-License-Identifier: MIT
-#include "app/engine/CMoon.h"
+#include "app/shell/ApplicationDelegate.h"
+#include "app/ui/LumivaneStatusItem.h"
+#include "platform/foundation/NSBundle.h"
 
-int main() {
-    gMoon.Init();
-    return 0;
+#include <QApplication>
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Lumivane"));
+    QApplication::setDesktopFileName(NSBundle::mainBundle().bundleIdentifier());
+    QApplication::setQuitOnLastWindowClosed(false);
+    NSBundle::mainBundle().installTranslations();
+
+    ApplicationDelegate delegate;
+    LumivaneStatusItem statusItem;
+    QObject::connect(&delegate, &ApplicationDelegate::raiseRequested, &statusItem, &LumivaneStatusItem::showPanel);
+    statusItem.awakeFromNib();
+    delegate.awakeFromNib();
+    return QApplication::exec();
 }

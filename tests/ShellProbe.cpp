@@ -1,14 +1,16 @@
 // SPDX-License-Identifier: MIT
 // What the tests run as another copy of the program.
-//   shell_probe copy              announces itself, ends older copies, and tells what reaches it
-//   shell_probe ask CODE TICKS    sends 'aevt' CODE to a copy and prints the send's and the reply's status
-#include "app/shell/ApplicationDelegate.h"
+//   shell_probe copy [dialog]     announces itself, ends older copies, and tells what reaches it, first in a
+//   dialog shell_probe ask CODE TICKS    sends 'aevt' CODE to a copy and prints the send's and the reply's
+//   status
 #include "platform/carbon/AppleEvents.h"
 #include "platform/carbon/Processes.h"
 #include "platform/foundation/NSBundle.h"
+#include "shared/utilities/classes/ExtraAppleEventManagerUtilities.h"
 #include "shared/utilities/classes/ExtraStringUtilities.h"
 
 #include <QApplication>
+#include <QMessageBox>
 
 #include <cstdio>
 
@@ -30,12 +32,16 @@ void sayWhenTold(AEEventID eventID, const QString& word) {
     });
 }
 
-int runCopy() {
+int runCopy(bool inDialog) {
     sayWhenTold(kAEReopenApplication, QStringLiteral("raise"));
     sayWhenTold(kAEOpenDocuments, QStringLiteral("open"));
     announceProcess(NSBundle::mainBundle().bundleIdentifier());
-    ApplicationDelegate().quitOlderCopies();
+    ExtraAppleEventManagerUtilities::quickSend(kAEQuitApplication, NSBundle::mainBundle().bundleIdentifier());
     say(QStringLiteral("ready"));
+    if (inDialog) {
+        QMessageBox().exec();
+        say(AEIsQuitting() ? QStringLiteral("quitting") : QStringLiteral("dialog closed"));
+    }
     return QApplication::exec();
 }
 
@@ -64,7 +70,7 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     const QStringList arguments = QApplication::arguments();
     if (arguments.value(1) == u"copy")
-        return runCopy();
+        return runCopy(arguments.value(2) == u"dialog");
     if (arguments.value(1) == u"ask")
         return ask(arguments.value(2).toLatin1(), arguments.value(3).toLong());
     return 2;

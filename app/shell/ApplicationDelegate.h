@@ -1,34 +1,79 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/update/SUUpdater.h"
+
 #include <QList>
-#include <QString>
+#include <QObject>
 #include <QUrl>
 #include <QVariantMap>
 
+#include <memory>
 #include <optional>
 
-/// The application's delegate.
-class ApplicationDelegate {
+/// The program's shell: its start, the table of preferences, launch at login and the update check.
+class ApplicationDelegate : public QObject, public SUUpdaterDelegate {
+    Q_OBJECT
+
 public:
-    /// The login items, "URL" (QUrl) and "Hidden" (bool) of each; nothing, with a log line, when they can't
-    /// be had.
+    /// Registers the preferences' defaults, loads the lunation table and makes the update checker.
+    ApplicationDelegate();
+    ~ApplicationDelegate() override;
+
+    /// The one delegate; null before it is made.
+    static ApplicationDelegate* sharedDelegate();
+
+    /// The second half of the start: the update feed's address, then `installNewVersion`.
+    void awakeFromNib();
+
+    /// Registers the defaults of time zone, place, brightness and update checks, and forbids the update checker to
+    /// install anything by itself.
+    static void setupDefaultPreferences();
+
+    // Launch at login
+
+    /// The login items in order, each {"URL": QUrl, "Hidden": bool}; nothing, with a log line, when they can't be had.
     std::optional<QList<QVariantMap>> allLoginItems() const;
 
-    /// Whether a file URL, or nothing for this application itself, is a login item.
+    /// Whether `url` (nothing: this program) is a login item.
     bool alreadySetToStartup(const std::optional<QUrl>& url) const;
 
     /// Removes every login item whose path contains `name`, letter case ignored.
     void removeOldStartupItemsContaining(const QString& name);
 
-    /// Switches launch at login on or off for a file URL, or nothing for this application itself. Either way
-    /// the items of other copies go.
+    /// Switches launch at login for `url` (nothing: this program).
     void toggleSetToStartup(const std::optional<QUrl>& url);
 
-    /// At every start: tells the old background application and an older copy to quit, and writes the
-    /// preferences to disk.
-    void quitOlderCopies();
+    /// Tells older copies to quit, warns once for a place outside the Applications folders, and makes sure that this
+    /// copy starts at login.
+    void installNewVersion();
 
-    /// At every start: makes the application a login item when it is none.
+    // Update check
+
+    /// Builds the feed's address from the bundle, the preferences and the system, and hands it to the update
+    /// checker. A value that makes it an invalid address leaves the checker without one.
+    void initCheckForUpdateURL();
+
+    /// The update feed's address at `host`; the values go into it as they are.
+    static QString feedURLString(const QString& host, const QString& build, const QString& interval,
+                                 const QString& version, const QString& system);
+
+    /// Logs the check; the feed's address already carries all that there is to tell.
+    QList<SUFeedParameter> feedParametersForUpdater(SUUpdater* updater, bool sendingSystemProfile) override;
+
+public Q_SLOTS:
+    /// Checks for a new version now.
+    void forwardCheckForUpdate(QObject* sender);
+
+Q_SIGNALS:
+    /// The desktop asks to see the program.
+    void raiseRequested();
+
+private:
+    void setupDefaults();
+    void quitOlderCopies();
+    void warnOutsideApplicationsOnce(const QString& bundlePath);
     void ensureSetToStartup();
+
+    std::unique_ptr<SUUpdater> sparkleUpdater_;
 };

@@ -150,3 +150,24 @@ QString NSDateFormatter::dateString(std::int64_t wall, Style style) {
 QString NSDateFormatter::timeString(std::int64_t wall, Style style) {
     return style == Style::None ? QString() : formatted(wall, formatter(Style::None, style));
 }
+
+QLocale NSDateFormatter::locale() {
+    const QByteArray name = timeLocaleName();
+    const QLocale named(QString::fromLatin1(name.left(name.indexOf('.'))));
+    return named.language() == QLocale::C ? QLocale(QLocale::English, QLocale::UnitedStates) : named;
+}
+
+QString NSDateFormatter::editingFormat() {
+    QString date = locale().dateFormat(QLocale::ShortFormat);
+    if (!date.contains(u"yyyy"))
+        date.replace(QStringLiteral("yy"), QStringLiteral("yyyy"));
+    QString time = locale().timeFormat(QLocale::ShortFormat);
+    time.remove(QLatin1Char('t'));
+    const bool twelve = time.contains(QLatin1Char('a'), Qt::CaseInsensitive);
+    const HourCycle cycle = desktopHourCycle();
+    if (cycle != HourCycle::OfLocale && twelve != (cycle == HourCycle::Twelve))
+        time = twelve ? QStringLiteral("HH:mm") : QStringLiteral("h:mm AP");
+    if (!time.contains(u"s"))
+        time.replace(QStringLiteral("mm"), QStringLiteral("mm:ss"));
+    return date + QLatin1Char(' ') + time.trimmed();
+}

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QLocale>
 #include <QString>
 
 #include <cstdint>
@@ -18,4 +19,11 @@ public:
 
     /// The time of day of `wall`: hours and minutes in the short style, seconds too in the medium one.
     static QString timeString(std::int64_t wall, Style style);
+
+    /// The locale of LC_TIME for Qt's own date widgets.
+    static QLocale locale();
+
+    /// The Qt format for editing a date with a four-digit year and a time of day with seconds, in the locale's order
+    /// and the user's hour cycle.
+    static QString editingFormat();
 };

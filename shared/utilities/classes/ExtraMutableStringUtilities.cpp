@@ -8,3 +8,9 @@ int ExtraMutableStringUtilities::replaceAll(QString& text, const QString& search
     text.replace(search, with, Qt::CaseInsensitive);
     return static_cast<int>(found);
 }
+
+void ExtraMutableStringUtilities::appendLine(QString& text, const QString& line) {
+    if (!text.isEmpty() && !text.endsWith(u'\n') && !text.endsWith(u'\r'))
+        text += u'\n';
+    text += line;
+}

@@ -2,9 +2,31 @@
 #include "shared/utilities/classes/ExtraStringUtilities.h"
 
 #include "platform/carbon/Processes.h"
+#include "platform/foundation/NSException.h"
 #include "shared/utilities/classes/ExtraApplicationUtilities.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QMimeData>
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <limits>
+#include <stdexcept>
+
 #include <unistd.h>
+
+namespace {
+
+constexpr qsizetype kLongestPascalText = 127;
+
+QChar characterAt(const QString& text, qsizetype index) {
+    if (text.isEmpty())
+        throw std::out_of_range("An empty string has no first and no last character.");
+    return text[index];
+}
+
+} // namespace
 
 bool ExtraStringUtilities::contains(const QString& text, const QString& part) {
     return !part.isEmpty() && text.contains(part, Qt::CaseInsensitive);
@@ -16,6 +38,42 @@ QString ExtraStringUtilities::stringWithFloat(float number) {
 
 QString ExtraStringUtilities::stringWithInteger(std::int64_t number) {
     return QString::number(number);
+}
+
+float ExtraStringUtilities::floatValue(const QString& text) {
+    static const QRegularExpression leadingNumber(
+        QStringLiteral(R"(^\s*([+-]?(?:[0-9]+(?:\.[0-9]*)?|\.[0-9]+)(?:[eE][+-]?[0-9]+)?))"),
+        QRegularExpression::UseUnicodePropertiesOption);
+    const double number = leadingNumber.match(text).captured(1).toDouble();
+    constexpr double kLargest = std::numeric_limits<float>::max();
+    return static_cast<float>(std::clamp(number, -kLargest, kLargest));
+}
+
+QChar ExtraStringUtilities::firstCharacter(const QString& text) {
+    return characterAt(text, 0);
+}
+
+QChar ExtraStringUtilities::lastCharacter(const QString& text) {
+    return characterAt(text, text.size() - 1);
+}
+
+Str255 ExtraStringUtilities::pascalStringWithEncoding(const QString& text, std::uint32_t encoding) {
+    const auto bytes = NSStringEncoding::bytesOfString(text.left(kLongestPascalText), encoding);
+    Str255 pascalString{};
+    if (!bytes || bytes->size() >= static_cast<qsizetype>(pascalString.size()))
+        throw NSInternalInconsistencyException(QStringLiteral("Unable to CFStringGetPascalString."));
+    pascalString[0] = static_cast<std::uint8_t>(bytes->size());
+    std::ranges::copy(*bytes, pascalString.begin() + 1);
+    return pascalString;
+}
+
+QString ExtraStringUtilities::stringWithPascalString(std::span<const std::uint8_t> pascalString) {
+    if (pascalString.empty())
+        return {};
+    const auto text =
+        pascalString.subspan(1, std::min<std::size_t>(pascalString[0], pascalString.size() - 1));
+    return NSStringEncoding::stringWithBytes(QByteArrayView(text.data(), static_cast<qsizetype>(text.size())),
+                                             kCFStringEncodingMacRoman);
 }
 
 QString ExtraStringUtilities::stringWithOSVersion() {
@@ -35,4 +93,17 @@ bool ExtraStringUtilities::findProcess(const QString& bundleIdentifier, ProcessS
         return true;
     }
     return false;
+}
+
+void ExtraStringUtilities::copyToClipboard(const QString& text) {
+    constexpr char kPasswordType[] = "PasswordPboardType";
+    auto* types = new QMimeData;
+    types->setText(text);
+    types->setData(clipboardTag(), ".");
+    types->setData(QLatin1String(kPasswordType), kPasswordType);
+    QGuiApplication::clipboard()->setMimeData(types);
+}
+
+QString ExtraStringUtilities::clipboardTag() {
+    return QStringLiteral("ClipboardTag%1").arg(getpid());
 }

@@ -49,10 +49,11 @@ TEST_F(DelegateLoginItems, AProgramOfAnotherNameStaysWhenSwitchedOff) {
 }
 
 TEST_F(DelegateLoginItems, TheApplicationItselfIsMeantByNothing) {
-    delegate_.ensureSetToStartup();
-    delegate_.ensureSetToStartup();
+    delegate_.toggleSetToStartup(std::nullopt);
     EXPECT_EQ(paths(), QStringList{NSBundle::mainBundle().bundlePath()});
     EXPECT_TRUE(delegate_.alreadySetToStartup(std::nullopt));
+    delegate_.toggleSetToStartup(std::nullopt);
+    EXPECT_FALSE(delegate_.alreadySetToStartup(std::nullopt));
 }
 
 TEST_F(DelegateLoginItems, WithoutAListNothingIsSet) {

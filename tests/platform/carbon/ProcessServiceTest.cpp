@@ -157,6 +157,17 @@ TEST_F(ProcessServiceTest, OfCopiesStartedAtOnceOneIsLeft) {
     stop(copies);
 }
 
+TEST_F(ProcessServiceTest, ADialogAtTheStartKeepsNoCopyAlive) {
+    std::vector<Program> copies;
+    copies.push_back(start({QStringLiteral("copy"), QStringLiteral("dialog")}, address_));
+    ASSERT_EQ(line(copies[0].get()), QStringLiteral("ready"));
+    copies.push_back(startCopy());
+    EXPECT_EQ(line(copies[0].get()), QStringLiteral("quitting"));
+    EXPECT_TRUE(copies[0]->waitForFinished(kPatience));
+    EXPECT_TRUE(areLeft(copies, 1));
+    stop(copies);
+}
+
 TEST_F(ProcessServiceTest, TheDesktopRaisesAndOpens) {
     const Program copy = startCopy();
     ASSERT_EQ(line(copy.get()), QStringLiteral("ready"));

@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: MIT
+#include "app/shell/ApplicationDelegate.h"
+
+#include "app/engine/CMoon.h"
+#include "app/engine/CMoonHelper.h"
+#include "platform/carbon/AppleEvents.h"
+#include "platform/carbon/Processes.h"
+#include "platform/foundation/NSBundle.h"
+#include "platform/foundation/NSUserDefaults.h"
+#include "shared/utilities/classes/ExtraApplicationUtilities.h"
+#include "shared/utilities/classes/ExtraNumberUtilities.h"
+#include "shared/utilities/classes/ExtraStringUtilities.h"
+
+#include <QCoreApplication>
+#include <QMessageBox>
+
+namespace {
+
+ApplicationDelegate* theDelegate = nullptr;
+
+constexpr int kSevenDays = 604800;
+
+} // namespace
+
+ApplicationDelegate::ApplicationDelegate() {
+    theDelegate = this;
+    setupDefaults();
+    gMoon.Init();
+    setupDefaultPreferences();
+    sparkleUpdater_ = std::make_unique<SUUpdater>();
+}
+
+ApplicationDelegate::~ApplicationDelegate() {
+    theDelegate = nullptr;
+}
+
+ApplicationDelegate* ApplicationDelegate::sharedDelegate() {
+    return theDelegate;
+}
+
+void ApplicationDelegate::setupDefaults() {
+    QVariantMap disclosures;
+    for (const char* key : {"LVCalculationDisclosure", "LVInformationDisclosure", "LVRiseSetDisclosure",
+                            "LVSettingsDisclosure", "LVMoonDisclosure"})
+        disclosures.insert(QLatin1String(key), true);
+    NSUserDefaults::standardUserDefaults()->registerDefaults(disclosures);
+    NSUserDefaults::standardUserDefaults()->synchronize();
+}
+
+void ApplicationDelegate::setupDefaultPreferences() {
+    NSUserDefaults* defaults = NSUserDefaults::standardUserDefaults();
+    defaults->registerDefaults({
+        {QStringLiteral("LVTimeZoneType"), static_cast<int>(kTimeZoneSystem)},
+        {QStringLiteral("LVTimeZoneCustomGMTOffset"), 0.0},
+        {QStringLiteral("LVTimeZoneGMTOffsetTitle"), QStringLiteral("GMT +0")},
+        {QStringLiteral("LVLatitude"), ExtraNumberUtilities::numberWithLatitude()},
+        {QStringLiteral("LVLongitude"), ExtraNumberUtilities::numberWithLongitude()},
+        {QStringLiteral("LVBrightness"), 0.5},
+        {SUEnableAutomaticChecksKey, true},
+        {SUScheduledCheckIntervalKey, kSevenDays},
+    });
+    defaults->setBool(false, SUAllowsAutomaticUpdatesKey);
+    defaults->setBool(false, SUAutomaticallyUpdateKey);
+}
+
+void ApplicationDelegate::awakeFromNib() {
+    initCheckForUpdateURL();
+    installNewVersion();
+}
+
+void ApplicationDelegate::installNewVersion() {
+    announceProcess(NSBundle::mainBundle().bundleIdentifier());
+    quitOlderCopies();
+    const QString bundlePath = NSBundle::mainBundle().bundlePath();
+    if (!ExtraStringUtilities::contains(bundlePath, QStringLiteral("Applications")))
+        warnOutsideApplicationsOnce(bundlePath);
+    if (!AEIsQuitting()) // a newer copy, which starts at login now, may have ended the warning
+        ensureSetToStartup();
+}
+
+void ApplicationDelegate::warnOutsideApplicationsOnce(const QString& bundlePath) {
+    const QString key = QStringLiteral("LVNotApplicationsFolderWarning");
+    NSUserDefaults* defaults = NSUserDefaults::standardUserDefaults();
+    if (defaults->stringForKey(key) == bundlePath)
+        return;
+    ExtraApplicationUtilities::bringToFront();
+    const NSBundle& bundle = NSBundle::mainBundle();
+    QMessageBox alert(QMessageBox::Warning, QStringLiteral("Lumivane"),
+                      bundle.localizedString(QT_TRANSLATE_NOOP(
+                          "Lumivane", "Lumivane is not inside your Applications folder.")));
+    alert.setInformativeText(bundle.localizedString(QT_TRANSLATE_NOOP(
+        "Lumivane", "We highly recommend you install Lumivane in to your Applications folder.  (This warning will only "
+                    "be shown once for the current install location.)  Please quit Lumivane before moving it, if you "
+                    "do so.")));
+    alert.addButton(bundle.localizedString(QT_TRANSLATE_NOOP("Lumivane", "OK")), QMessageBox::AcceptRole);
+    defaults->setObject(bundlePath, key);
+    defaults->synchronize();
+    alert.exec();
+}

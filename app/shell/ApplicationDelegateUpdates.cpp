@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#include "app/shell/ApplicationDelegate.h"
+
+#include "platform/foundation/NSBundle.h"
+#include "platform/foundation/NSLog.h"
+#include "platform/foundation/NSUserDefaults.h"
+#include "shared/utilities/classes/ExtraStringUtilities.h"
+
+QString ApplicationDelegate::feedURLString(const QString& host, const QString& build, const QString& interval,
+                                           const QString& version, const QString& system) {
+    QString url = QStringLiteral("https://") + host;
+    url += QStringLiteral("/cgi-sys/cgiwrap/Corvanta/SharewareAppCast.pl?");
+    url += QStringLiteral("bld=") + build;
+    url += QStringLiteral("&frq=") + interval;
+    // The feed server knows the product by these two, on every kind of machine.
+    url += QStringLiteral("&prd=lv");
+    url += QStringLiteral("&end=i386");
+    url += QStringLiteral("&ver=") + version;
+    url += QStringLiteral("&sys=") + system;
+    return url;
+}
+
+void ApplicationDelegate::initCheckForUpdateURL() {
+    const NSBundle& bundle = NSBundle::mainBundle();
+    const QString url = feedURLString(
+        bundle.infoString(QStringLiteral("LVFeedHost")), bundle.infoString(QStringLiteral("CFBundleVersion")),
+        NSUserDefaults::standardUserDefaults()->stringForKey(SUScheduledCheckIntervalKey),
+        bundle.infoString(QStringLiteral("CFBundleShortVersionString")),
+        ExtraStringUtilities::stringWithOSVersion());
+    sparkleUpdater_->setDelegate(this);
+    // Strict: a blank in a version must not be mended into an address that nobody meant.
+    sparkleUpdater_->setFeedURL(QUrl(url, QUrl::StrictMode));
+}
+
+void ApplicationDelegate::forwardCheckForUpdate(QObject* sender) {
+    sparkleUpdater_->checkForUpdates(sender);
+}
+
+QList<SUFeedParameter> ApplicationDelegate::feedParametersForUpdater(SUUpdater* updater, bool) {
+    NSLog(QStringLiteral("Checking for update: %1").arg(updater->feedURL().toString()));
+    return {};
+}

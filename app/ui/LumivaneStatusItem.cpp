@@ -1,0 +1,177 @@
+// SPDX-License-Identifier: MIT
+#include "app/ui/LumivaneStatusItem.h"
+
+#include "app/engine/CMoon.h"
+#include "app/engine/CMoonHelper.h"
+#include "app/ui/LumivaneWindow.h"
+#include "app/ui/LumivaneWindowController.h"
+#include "platform/appkit/NSStatusItem.h"
+#include "platform/carbon/GetMBarHeight.h"
+#include "platform/foundation/NSBundle.h"
+#include "platform/foundation/NSDate.h"
+#include "shared/utilities/classes/ExtraApplicationUtilities.h"
+#include "shared/utilities/classes/ExtraMutableStringUtilities.h"
+#include "shared/utilities/classes/ExtraStringUtilities.h"
+#include "shared/utilities/classes/ExtraWindowUtilities.h"
+#include "shared/utilities/classes/NSImageUtilities.h"
+
+#include <QApplication>
+#include <QGuiApplication>
+#include <QMenu>
+#include <QScreen>
+
+#include <algorithm>
+#include <chrono>
+
+namespace {
+constexpr std::chrono::seconds kClockInterval{300};
+}
+
+LumivaneStatusItem::LumivaneStatusItem() = default;
+
+LumivaneStatusItem::~LumivaneStatusItem() = default;
+
+void LumivaneStatusItem::awakeFromNib() {
+    statusItem_ = std::make_unique<NSStatusItem>(QStringLiteral("lumivane"), QStringLiteral("Lumivane"));
+    menu_ = std::make_unique<QMenu>();
+    statusItem_->setMenu(menu_.get());
+    connect(statusItem_.get(), &NSStatusItem::clicked, this, [this] { statusItemClicked(statusItem_.get()); });
+    connect(statusItem_.get(), &NSStatusItem::shownChanged, this, &LumivaneStatusItem::trayChanged);
+    makeAsHiddenMenu();
+    clock_.setTimerType(Qt::VeryCoarseTimer);
+    connect(&clock_, &QTimer::timeout, this, &LumivaneStatusItem::moonClockTimer);
+    clock_.start(kClockInterval);
+}
+
+void LumivaneStatusItem::showNow() {
+    const NSDate::Hold oneMoment;
+    setImage(LumivaneWindowController::moonImageFor(LumivaneWindowController::presentGMTSeconds()));
+    updateToolTip();
+}
+
+void LumivaneStatusItem::moonClockTimer() {
+    if (!lumivaneWindow_->window()->isVisible())
+        showNow();
+}
+
+void LumivaneStatusItem::setImage(const QImage& image) {
+    const int side = GetMBarHeight() - 4;
+    QList<QImage> images;
+    if (!image.isNull()) {
+        for (const int size : {side, 22, 24, 32, 2 * side, 44, 48, 64})
+            images.append(NSImageUtilities::imageOfSize(image, QSize(size, size)));
+    }
+    statusItem_->setImages(images);
+}
+
+void LumivaneStatusItem::updateToolTip() {
+    using ExtraMutableStringUtilities::replaceAll;
+    bool outOfRange = false;
+    const std::uint32_t present = LumivaneWindowController::presentGMTSeconds(&outOfRange);
+    if (outOfRange) {
+        statusItem_->setToolTip(CMoonHelper::stringForInformation(6));
+        return;
+    }
+    QString phase = CMoonHelper::stringForInformation(1);
+    replaceAll(phase, QStringLiteral("^1"), CMoonHelper::stringForMoonName(gMoon.GetDescriptorIndex(present)));
+    QString lit = CMoonHelper::stringForInformation(2);
+    replaceAll(lit, QStringLiteral("^1"),
+               ExtraStringUtilities::stringWithFloat(static_cast<float>(gMoon.IlluminationDisplay(present))));
+    statusItem_->setToolTip(phase + QLatin1Char('\n') + lit);
+}
+
+void LumivaneStatusItem::makeAsHiddenMenu() {
+    showNow();
+    replaceController(LumivaneWindow::kBorderlessMask);
+}
+
+void LumivaneStatusItem::makeAsWindoid() {
+    replaceController(LumivaneWindow::kWindoidMask);
+    statusItemClicked(nullptr);
+}
+
+void LumivaneStatusItem::replaceController(std::uint32_t styleMask) {
+    if (lumivaneWindow_) {
+        ExtraWindowUtilities::fadeHideSynchronous(lumivaneWindow_->window());
+        // It may be one of its own controls that asks for the change.
+        lumivaneWindow_.release()->deleteLater();
+    }
+    LumivaneWindow::setNextStyleMask(styleMask);
+    lumivaneWindow_ = LumivaneWindowController::lumivaneWindowController();
+    lumivaneWindow_->setStatusItem(this);
+
+    menu_->clear();
+    menu_->addAction(NSBundle::mainBundle().localizedString(QT_TRANSLATE_NOOP("Lumivane", "Show Lumivane")), this,
+                     &LumivaneStatusItem::showPanel);
+    menu_->addSeparator();
+    menu_->addActions(lumivaneWindow_->gearMenu()->actions());
+    connect(menu_.get(), &QMenu::aboutToShow, lumivaneWindow_->gearMenu(), &QMenu::aboutToShow);
+}
+
+void LumivaneStatusItem::statusItemClicked(QObject*) {
+    if (lumivaneWindow_->window()->isVisible())
+        makeAsHiddenMenu();
+    else
+        showPanel();
+}
+
+void LumivaneStatusItem::showPanel() {
+    LumivaneWindow* window = lumivaneWindow_->window();
+    if (!window->isVisible()) {
+        lumivaneWindow_->showNow(nullptr);
+        if (!lumivaneWindow_->isWindoid())
+            placeUnderIcon();
+        window->show();
+    }
+    ExtraApplicationUtilities::bringToFront();
+    ExtraWindowUtilities::fadeShowSynchronous(window);
+}
+
+void LumivaneStatusItem::windowWillClose() {
+    if (statusItem_->isShown())
+        makeAsHiddenMenu();
+    else
+        QApplication::quit(); // without a tray nothing would bring the window back
+}
+
+void LumivaneStatusItem::trayChanged(bool shown) {
+    const bool windoid = lumivaneWindow_->isWindoid();
+    if (shown && windoid)
+        makeAsHiddenMenu();
+    else if (!shown && !windoid)
+        makeAsWindoid();
+}
+
+std::optional<QRect> LumivaneStatusItem::globalFrame() const {
+    return statusItem_->iconGeometry();
+}
+
+QRect LumivaneStatusItem::panelFrame(const std::optional<QRect>& icon, const QSize& size, const QRect& screen,
+                                     const QRect& available) {
+    QRect frame(QPoint(), size);
+    if (icon) {
+        const bool above = icon->center().y() > screen.center().y();
+        frame.moveLeft(icon->center().x() - size.width() / 2);
+        if (above)
+            frame.moveBottom(icon->top() - 1);
+        else
+            frame.moveTop(icon->bottom() + 1);
+    } else {
+        const bool atTop = available.top() > screen.top();
+        frame.moveTopRight(atTop ? available.topRight() : QPoint(available.right(), available.bottom()));
+    }
+    frame.moveRight(std::min(frame.right(), available.right()));
+    frame.moveLeft(std::max(frame.left(), available.left()));
+    frame.moveBottom(std::min(frame.bottom(), available.bottom()));
+    frame.moveTop(std::max(frame.top(), available.top()));
+    return frame;
+}
+
+void LumivaneStatusItem::placeUnderIcon() {
+    const std::optional<QRect> icon = globalFrame();
+    const QScreen* screen = icon ? QGuiApplication::screenAt(icon->center()) : nullptr;
+    if (!screen)
+        screen = QGuiApplication::primaryScreen();
+    LumivaneWindow* window = lumivaneWindow_->window();
+    window->setGeometry(panelFrame(icon, window->size(), screen->geometry(), screen->availableGeometry()));
+}

@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QImage>
+#include <QObject>
+#include <QTimer>
+
+#include <memory>
+#include <optional>
+
+class LumivaneWindowController;
+class NSStatusItem;
+class QMenu;
+
+/// Owns the program's one tray item, whose icon is the Moon, and the panel that a click on it opens. The panel is
+/// shown as a drop-down under the icon (hidden-menu mode) or as a small utility window (windoid mode).
+class LumivaneStatusItem : public QObject {
+    Q_OBJECT
+
+public:
+    LumivaneStatusItem();
+    ~LumivaneStatusItem() override;
+
+    /// Creates the tray item, a first panel and the clock. On a desktop without a tray the panel opens as a utility
+    /// window, until a tray appears.
+    void awakeFromNib();
+
+    /// Sets the icon to the Moon of the present.
+    void showNow();
+
+    /// Puts a picture into the icon, in all the sizes that trays ask for.
+    void setImage(const QImage& image);
+
+    /// Hides the panel and prepares a fresh one for hidden-menu mode.
+    void makeAsHiddenMenu();
+
+    /// Hides the panel, prepares a fresh one for windoid mode and shows it.
+    void makeAsWindoid();
+
+    /// The icon's rectangle on the screen (y downwards); nothing when neither tray nor click told.
+    std::optional<QRect> globalFrame() const;
+
+    /// Where a panel of `size` goes: centred under `icon`, or above it when the icon lies in the lower half of its
+    /// screen, and shifted so that it lies within `available`. Without a known icon: in the corner of the tray, which
+    /// `screen` (the whole of it) tells by where its panel lies.
+    static QRect panelFrame(const std::optional<QRect>& icon, const QSize& size, const QRect& screen,
+                            const QRect& available);
+
+public Q_SLOTS:
+    /// Shows or hides the panel.
+    void statusItemClicked(QObject* sender = nullptr);
+    void windowWillClose();
+
+    /// Shows the panel if it is hidden, and brings it to the front.
+    void showPanel();
+
+private:
+    void moonClockTimer();
+    void trayChanged(bool shown);
+    void replaceController(std::uint32_t styleMask);
+    void placeUnderIcon();
+    void updateToolTip();
+
+    std::unique_ptr<NSStatusItem> statusItem_;
+    std::unique_ptr<QMenu> menu_;
+    std::unique_ptr<LumivaneWindowController> lumivaneWindow_;
+    QTimer clock_;
+};

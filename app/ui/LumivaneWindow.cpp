@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: MIT
+#include "app/ui/LumivaneWindow.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QLayout>
+#include <QPainter>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+
+#include <algorithm>
+
+namespace {
+
+std::uint32_t nextStyleMask = LumivaneWindow::kBorderlessMask;
+
+Qt::WindowFlags flagsOf(std::uint32_t mask) {
+    if (mask == LumivaneWindow::kBorderlessMask)
+        return Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint;
+    return Qt::Tool | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint |
+           Qt::WindowSystemMenuHint;
+}
+
+} // namespace
+
+void LumivaneWindow::setNextStyleMask(std::uint32_t mask) {
+    nextStyleMask = mask;
+}
+
+LumivaneWindow::LumivaneWindow(QWidget* parent) : QWidget(parent, flagsOf(nextStyleMask)), styleMask_(nextStyleMask) {
+    // A panel that is put away must not end the program.
+    setAttribute(Qt::WA_QuitOnClose, false);
+}
+
+void LumivaneWindow::setContent(QScrollArea* area, QWidget* content) {
+    area_ = area;
+    content_ = content;
+    const QList<QWidget*> views = content->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    int width = minimumWidth();
+    for (const QWidget* view : views)
+        width = std::max(width, view->minimumSizeHint().width());
+    int y = 0;
+    for (QWidget* view : views) {
+        const int height = view->sizeHint().height();
+        view->setGeometry(0, y, width, height);
+        y += height;
+    }
+    content->resize(width, y);
+    content->installEventFilter(this);
+    fitToContent();
+}
+
+bool LumivaneWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == content_ && event->type() == QEvent::Resize)
+        fitToContent();
+    return QWidget::eventFilter(watched, event);
+}
+
+void LumivaneWindow::showEvent(QShowEvent* event) {
+    fitToContent();
+    QWidget::showEvent(event);
+}
+
+void LumivaneWindow::fitToContent() {
+    if (!content_)
+        return;
+    const QMargins margins = layout()->contentsMargins();
+    const int around = layout()->sizeHint().height() - area_->sizeHint().height();
+    const int wanted = around + content_->height();
+    const int titleBar = std::max(0, frameGeometry().height() - geometry().height());
+    const int available = screen()->availableGeometry().height() - titleBar;
+    const bool scrolls = wanted > available;
+    area_->setVerticalScrollBarPolicy(scrolls ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
+    const int bar = scrolls ? area_->verticalScrollBar()->sizeHint().width() : 0;
+    area_->setMinimumHeight(0);
+    setFixedSize(content_->width() + bar + margins.left() + margins.right(), std::min(wanted, available));
+}
+
+void LumivaneWindow::closeEvent(QCloseEvent* event) {
+    // Whoever owns the window takes it off the screen, faded, and makes another one.
+    event->ignore();
+    Q_EMIT windowWillClose();
+}
+
+void LumivaneWindow::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape)
+        Q_EMIT cancelOperation();
+    else
+        QWidget::keyPressEvent(event);
+}
+
+void LumivaneWindow::paintEvent(QPaintEvent* event) {
+    QWidget::paintEvent(event);
+    if (styleMask_ != kBorderlessMask)
+        return;
+    // Nothing else sets a borderless window off from what lies behind it.
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::Mid));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}

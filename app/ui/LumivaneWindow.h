@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QWidget>
+
+#include <cstdint>
+
+class QScrollArea;
+
+/// The panel's window: borderless above other windows in hidden-menu mode, a small titled utility window in windoid
+/// mode. Its height follows its content's, as far as the screen allows; beyond that the content scrolls.
+class LumivaneWindow : public QWidget {
+    Q_OBJECT
+
+public:
+    static constexpr std::uint32_t kBorderlessMask = 0;
+    static constexpr std::uint32_t kWindoidMask = 1 + 2 + 16; ///< titled, closable, utility
+
+    /// The style of the next window to be created, whatever its layout says.
+    static void setNextStyleMask(std::uint32_t mask);
+
+    explicit LumivaneWindow(QWidget* parent = nullptr);
+
+    std::uint32_t styleMask() const { return styleMask_; }
+
+    /// Stacks the views of `content` from top to bottom, each at the height of its size hint, and lets the window
+    /// follow the content's size from then on. `area` shows the content.
+    void setContent(QScrollArea* area, QWidget* content);
+
+Q_SIGNALS:
+    /// The user closed the window by its close box.
+    void windowWillClose();
+
+    /// Escape was pressed.
+    void cancelOperation();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void fitToContent();
+
+    std::uint32_t styleMask_;
+    QScrollArea* area_ = nullptr;
+    QWidget* content_ = nullptr;
+};

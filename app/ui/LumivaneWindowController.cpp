@@ -1,0 +1,332 @@
+// SPDX-License-Identifier: MIT
+#include "app/ui/LumivaneWindowController.h"
+
+#include "app/engine/CMoon.h"
+#include "app/engine/CMoonHelper.h"
+#include "app/ui/ControlIcon.h"
+#include "app/ui/LumivaneStatusItem.h"
+#include "app/ui/LumivaneWindow.h"
+#include "platform/appkit/NSBox.h"
+#include "platform/appkit/NSDatePicker.h"
+#include "platform/appkit/NSNib.h"
+#include "platform/appkit/NSSlider.h"
+#include "platform/foundation/NSBundle.h"
+#include "platform/foundation/NSDate.h"
+#include "platform/foundation/NSException.h"
+#include "platform/foundation/NSLog.h"
+#include "platform/foundation/NSUserDefaults.h"
+#include "shared/utilities/classes/DisclosureTriangleWithResize.h"
+#include "shared/utilities/classes/ExtraApplicationUtilities.h"
+#include "shared/utilities/classes/ExtraDateUtilities.h"
+#include "shared/utilities/classes/ExtraSliderUtilities.h"
+#include "shared/utilities/classes/ExtraWindowUtilities.h"
+#include "shared/utilities/classes/MouseDownButton.h"
+#include "shared/utilities/classes/setStringValueHilight.h"
+
+#include <QCoreApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QScrollArea>
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace {
+
+// The lunation's ends lie outside the slider: its own value is the negated fraction of the lunation.
+constexpr float kLargestFraction = 0.975F;
+constexpr float kSmallestFraction = 0.025F;
+
+constexpr std::int64_t kSecondsPerHour = 3600;
+
+std::uint32_t firstMoment() {
+    return gMoon.FindLunationAtIndex(0)->newMoon;
+}
+
+std::uint32_t lastMoment() {
+    return gMoon.FindLunationAtIndex(kLunationCount - 1)->nextNewMoon - 1;
+}
+
+std::uint32_t insideTable(std::int64_t gmtSeconds) {
+    return static_cast<std::uint32_t>(
+        std::clamp<std::int64_t>(gmtSeconds, std::int64_t{firstMoment()}, std::int64_t{lastMoment()}));
+}
+
+/// The picker's instant for a moment in GMT seconds.
+QDateTime pickerDate(std::uint32_t gmtSeconds) {
+    const auto wallClock = gmtSeconds + static_cast<std::uint32_t>(CMoonHelper::GetGMTOffset());
+    return ExtraDateUtilities::dateWithCarbonSecondsGMT(
+        LumivaneWindowController::applyDatePickerOffset(wallClock, -1));
+}
+
+void registerClasses() {
+    const auto registerClass = []<typename T>(const char* name, std::type_identity<T>) {
+        NSNib::registerClass(QLatin1String(name), [](QWidget* parent) -> QWidget* { return new T(parent); });
+    };
+    registerClass("LumivaneWindow", std::type_identity<LumivaneWindow>{});
+    registerClass("NSBox", std::type_identity<NSBox>{});
+    registerClass("NSSlider", std::type_identity<NSSlider>{});
+    registerClass("NSDatePicker", std::type_identity<NSDatePicker>{});
+    registerClass("MouseDownButton", std::type_identity<MouseDownButton>{});
+    registerClass("DisclosureTriangleWithResize", std::type_identity<DisclosureTriangleWithResize>{});
+}
+
+[[noreturn]] void quitBecauseMoved(const QString& reason) {
+    NSLog(reason);
+    const NSBundle& bundle = NSBundle::mainBundle();
+    ExtraApplicationUtilities::bringToFront();
+    QMessageBox alert(QMessageBox::Warning, QStringLiteral("Lumivane"),
+                      bundle.localizedString(QT_TRANSLATE_NOOP(
+                          "Lumivane", "It appears that Lumivane.app was moved while it was running!")));
+    alert.setInformativeText(bundle.localizedString(
+        QT_TRANSLATE_NOOP("Lumivane", "Mac OS X does not support moving or renaming applications while they are "
+                                      "running.  Lumivane needs to quit now before bad things happen.")));
+    alert.addButton(bundle.localizedString(QT_TRANSLATE_NOOP("Lumivane", "Quit")), QMessageBox::AcceptRole);
+    alert.exec();
+    NSLog(QStringLiteral("Quitting because the application moved while it was running."));
+    std::exit(1);
+}
+
+} // namespace
+
+std::unique_ptr<LumivaneWindowController> LumivaneWindowController::lumivaneWindowController() {
+    try {
+        std::unique_ptr<LumivaneWindowController> controller(new LumivaneWindowController);
+        controller->loadWindow();
+        controller->window_->hide();
+        return controller;
+    } catch (const NSInternalInconsistencyException& exception) {
+        quitBecauseMoved(exception.reason());
+    }
+}
+
+LumivaneWindowController::LumivaneWindowController() = default;
+
+LumivaneWindowController::~LumivaneWindowController() = default;
+
+void LumivaneWindowController::loadWindow() {
+    static const bool registered = [] {
+        registerClasses();
+        return true;
+    }();
+    Q_UNUSED(registered)
+    QString error;
+    std::unique_ptr<QWidget> root = NSNib::load(QStringLiteral("LumivaneWindow"), this, &error);
+    if (!root) {
+        NSLog(error);
+        throw NSInternalInconsistencyException(QStringLiteral("Can't load window LumivaneWindow"));
+    }
+    window_.reset(qobject_cast<LumivaneWindow*>(root.get()));
+    if (!window_)
+        throw NSInternalInconsistencyException(QStringLiteral("Window was nil!"));
+    (void)root.release();
+    connectOutlets();
+    awakeFromNib();
+}
+
+void LumivaneWindowController::connectOutlets() {
+    QString error;
+    const auto outlet = [&](const char* name, auto*& field) {
+        NSNib::connectOutlet(window_.get(), name, field, &error);
+    };
+    outlet("datePicker_", datePicker_);
+    outlet("moonImageView_", moonImageView_);
+    outlet("phaseName_", phaseName_);
+    outlet("illumination_", illumination_);
+    outlet("daysSinceNewMoon_", daysSinceNewMoon_);
+    outlet("nextFullMoonName_", nextFullMoonName_);
+    outlet("sunRiseSet_", sunRiseSet_);
+    outlet("nauticalTwilight_", nauticalTwilight_);
+    outlet("moonRiseSet_", moonRiseSet_);
+    outlet("lunationSlider_", lunationSlider_);
+    outlet("showNew_", showNew_);
+    outlet("showQ1_", showQ1_);
+    outlet("showFull_", showFull_);
+    outlet("showQ3_", showQ3_);
+    outlet("timeNew_", timeNew_);
+    outlet("timeFirstQuarter_", timeFirstQuarter_);
+    outlet("timeFull_", timeFull_);
+    outlet("timeLastQuarter_", timeLastQuarter_);
+    outlet("lunation_", lunation_);
+    outlet("timeZonePopup_", timeZonePopup_);
+    outlet("dtsSetting_", dtsSetting_);
+    outlet("latitudeAndLongitudePopup_", latitudeAndLongitudePopup_);
+    outlet("longitude_", longitude_);
+    outlet("latitude_", latitude_);
+    outlet("brightness_", brightness_);
+    outlet("gearButton_", gearButton_);
+    outlet("windoidButton_", windoidButton_);
+    outlet("hideButton_", hideButton_);
+    outlet("placeFromSystemSettings_", placeFromSystemSettings_);
+    outlet("scrollArea_", scrollArea_);
+    outlet("contentView_", contentView_);
+    if (!error.isEmpty()) {
+        NSLog(error);
+        throw NSInternalInconsistencyException(QStringLiteral("Can't load window LumivaneWindow"));
+    }
+}
+
+void LumivaneWindowController::awakeFromNib() {
+    const NSDate::Hold oneMoment;
+    originalSystemTimeZoneMenuTitle_ = placeFromSystemSettings_->text();
+    gearButton_->setIcon(ControlIcon::icon(ControlIcon::Symbol::Gear));
+    windoidButton_->setIcon(ControlIcon::icon(ControlIcon::Symbol::UtilityWindow));
+    hideButton_->setIcon(ControlIcon::icon(ControlIcon::Symbol::Hide));
+    makeMenus();
+    prepareTimeZonePopup();
+    connect(NSUserDefaults::standardUserDefaults(), &NSUserDefaults::valueChanged, this,
+            &LumivaneWindowController::defaultsChanged);
+
+    setDatePickerGMTSeconds(presentGMTSeconds());
+    ExtraWindowUtilities::setAlphaValue(window_.get(), 0.0F);
+    dtsSetting_->setText(NSBundle::mainBundle().localizedString(
+        CMoonHelper::DaylightSavingsIsOn() ? QT_TRANSLATE_NOOP("Lumivane", "(DST is on for this session.)")
+                                           : QT_TRANSLATE_NOOP("Lumivane", "(DST is off for this session.)")));
+    ExtraSliderUtilities::setReverseMaxValue(lunationSlider_, static_cast<double>(kLargestFraction));
+    ExtraSliderUtilities::setReverseMinValue(lunationSlider_, static_cast<double>(kSmallestFraction));
+    setLunationSliderGMTSeconds(datePickerGMTSeconds());
+    updateQuarterButtons();
+    gKeepBlack = true;
+    updateStaticMoonInfo();
+    gKeepBlack = false;
+    updateStaticMoonInfo();
+    prepareTriangles();
+}
+
+void LumivaneWindowController::makeMenus() {
+    gearMenu_ = new QMenu(window_.get());
+    gearMenu_->addActions(window_->actions());
+    auto* placeMenu = new QMenu(latitudeAndLongitudePopup_);
+    placeMenu->addActions(latitudeAndLongitudePopup_->actions());
+    latitudeAndLongitudePopup_->setMenu(placeMenu);
+    for (QMenu* menu : {gearMenu_, placeMenu}) {
+        connect(menu, &QMenu::aboutToShow, this, [this, menu] {
+            const QList<QAction*> items = menu->actions();
+            for (QAction* item : items)
+                validateMenuItem(item);
+        });
+    }
+    connect(gearButton_, &QToolButton::clicked, this, [this] {
+        const int x = gearButton_->isRightToLeft() ? gearButton_->width() - gearMenu_->sizeHint().width() : 0;
+        gearMenu_->popup(gearButton_->mapToGlobal(QPoint(x, gearButton_->height())));
+    });
+    for (QAction* command : window_->actions())
+        command->setShortcutContext(Qt::WindowShortcut);
+}
+
+void LumivaneWindowController::prepareTriangles() {
+    window_->setContent(scrollArea_, contentView_);
+    const auto triangles = contentView_->findChildren<DisclosureTriangleWithResize*>();
+    for (DisclosureTriangleWithResize* triangle : triangles)
+        triangle->awakeFromNib();
+}
+
+bool LumivaneWindowController::isWindoid() const {
+    return window_->styleMask() != LumivaneWindow::kBorderlessMask;
+}
+
+void LumivaneWindowController::setStatusItem(LumivaneStatusItem* statusItem) {
+    statusItem_ = statusItem;
+    connect(window_.get(), &LumivaneWindow::windowWillClose, statusItem, &LumivaneStatusItem::windowWillClose);
+    connect(window_.get(), &LumivaneWindow::cancelOperation, this, [this] {
+        if (!isWindoid())
+            hideButton(window_.get());
+    });
+}
+
+std::uint32_t LumivaneWindowController::presentGMTSeconds(bool* outOfRange) {
+    const std::int64_t present = NSDate::date().toSecsSinceEpoch() - ExtraDateUtilities::kReferenceInstant;
+    const std::uint32_t held = insideTable(present);
+    if (outOfRange)
+        *outOfRange = held != present;
+    return held;
+}
+
+std::uint32_t LumivaneWindowController::applyDatePickerOffset(std::uint32_t seconds, int withMultiplier) {
+    // How far the chosen zone lies behind the system's; in the system's own zone there is nothing to shift.
+    const int offset = CMoonHelper::prefZoneType() == kTimeZoneSystem
+                           ? 0
+                           : CMoonHelper::GetGMTOffset() - CMoonHelper::prefZoneOffset();
+    return seconds + static_cast<std::uint32_t>(offset) * static_cast<std::uint32_t>(withMultiplier);
+}
+
+void LumivaneWindowController::setDatePickerGMTSeconds(std::int64_t gmtSeconds) {
+    updateDateRange();
+    datePicker_->setDateValue(pickerDate(insideTable(gmtSeconds)));
+}
+
+std::uint32_t LumivaneWindowController::datePickerGMTSeconds() const {
+    const std::uint32_t wallClock = ExtraDateUtilities::carbonSecondsGMT(datePicker_->dateValue());
+    return insideTable(
+        applyDatePickerOffset(wallClock, +1) - static_cast<std::uint32_t>(CMoonHelper::GetGMTOffset()));
+}
+
+void LumivaneWindowController::updateDateRange() {
+    datePicker_->setDateRange(pickerDate(firstMoment()), pickerDate(lastMoment()));
+}
+
+void LumivaneWindowController::setLunationSliderGMTSeconds(std::uint32_t gmtSeconds) {
+    const tLunation* lunation = gMoon.FindLunationForGMTSeconds(insideTable(gmtSeconds));
+    const double fraction = static_cast<double>(gmtSeconds - lunation->newMoon) / lunation->length;
+    ExtraSliderUtilities::setReverseDoubleValue(lunationSlider_, fraction);
+}
+
+std::uint32_t LumivaneWindowController::lunationSliderGMTSeconds() const {
+    const tLunation* lunation = gMoon.FindLunationForGMTSeconds(datePickerGMTSeconds());
+    return static_cast<std::uint32_t>(
+        lunation->length * ExtraSliderUtilities::reverseDoubleValue(lunationSlider_) + lunation->newMoon);
+}
+
+void LumivaneWindowController::moveTo(std::int64_t gmtSeconds) {
+    const std::uint32_t moment = insideTable(gmtSeconds);
+    presentIsOutOfRange_ = false;
+    setDatePickerGMTSeconds(moment);
+    setLunationSliderGMTSeconds(moment);
+    updateStaticMoonInfo();
+}
+
+void LumivaneWindowController::showNow(QObject*) {
+    const NSDate::Hold oneMoment;
+    bool outOfRange = false;
+    const std::uint32_t present = presentGMTSeconds(&outOfRange);
+    presentIsOutOfRange_ = outOfRange;
+    setDatePickerGMTSeconds(present);
+    setLunationSliderGMTSeconds(present);
+    updateStaticMoonInfo();
+}
+
+void LumivaneWindowController::clockChanged(QObject*) {
+    const NSDate::Hold oneMoment;
+    presentIsOutOfRange_ = false;
+    setLunationSliderGMTSeconds(datePickerGMTSeconds());
+    updateStaticMoonInfo();
+}
+
+void LumivaneWindowController::lunationSliderChanged(QObject*) {
+    const NSDate::Hold oneMoment;
+    presentIsOutOfRange_ = false;
+    setDatePickerGMTSeconds(lunationSliderGMTSeconds());
+    updateStaticMoonInfo();
+}
+
+void LumivaneWindowController::addTagToDatePicker(QObject* sender) {
+    const NSDate::Hold oneMoment;
+    moveTo(std::int64_t{datePickerGMTSeconds()} + NSNib::tag(sender) * kSecondsPerHour);
+}
+
+void LumivaneWindowController::addTagToLunation(QObject* sender) {
+    const NSDate::Hold oneMoment;
+    const int index = gMoon.GetLunation(datePickerGMTSeconds()) + NSNib::tag(sender);
+    moveTo(gMoon.FindLunationAtIndex(std::clamp(index, 0, kLunationCount - 1))->fullMoon);
+}
+
+void LumivaneWindowController::phaseWithTag(QObject* sender) {
+    const NSDate::Hold oneMoment;
+    const auto tag = static_cast<std::size_t>(NSNib::tag(sender));
+    const tLunation* lunation = gMoon.FindLunationForGMTSeconds(datePickerGMTSeconds());
+    moveTo(lunation->*kPhaseInstants[tag < kPhaseInstants.size() ? tag : 0]);
+}

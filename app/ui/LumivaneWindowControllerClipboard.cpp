@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: MIT
+// What the panel shows as text on the clipboard, and the credits.
+#include "app/ui/LumivaneStatusItem.h"
+#include "app/ui/LumivaneWindow.h"
+#include "app/ui/LumivaneWindowController.h"
+#include "platform/appkit/NSDatePicker.h"
+#include "platform/appkit/RTFReader.h"
+#include "platform/foundation/NSBundle.h"
+#include "platform/foundation/NSLog.h"
+#include "shared/utilities/classes/ExtraDateUtilities.h"
+#include "shared/utilities/classes/ExtraMutableAttributedStringUtilities.h"
+#include "shared/utilities/classes/ExtraMutableStringUtilities.h"
+#include "shared/utilities/classes/ExtraStringUtilities.h"
+#include "shared/utilities/classes/SimpleTextWindow.h"
+
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTextDocument>
+
+namespace {
+
+/// A localised label format with its first "%@" filled.
+QString filled(const char* format, const QString& value) {
+    QString text = NSBundle::mainBundle().localizedString(format);
+    const qsizetype slot = text.indexOf(u"%@");
+    return slot < 0 ? text : text.replace(slot, 2, value);
+}
+
+/// The credits resource; null when it is missing or unreadable.
+std::unique_ptr<QTextDocument> credits() {
+    QString error;
+    QFile file(NSBundle::mainBundle().pathForResource(QStringLiteral("Credits.rtf")));
+    if (!file.open(QIODevice::ReadOnly))
+        error = file.errorString();
+    std::unique_ptr<QTextDocument> text = error.isEmpty() ? documentFromRTF(file.readAll(), &error) : nullptr;
+    if (!text)
+        NSLog(QStringLiteral("The credits can't be shown: %1.").arg(error));
+    return text;
+}
+
+/// What stands for the credits when there are none.
+std::unique_ptr<QTextDocument> plainCredits() {
+    auto text = std::make_unique<QTextDocument>();
+    text->setPlainText(QStringLiteral("Lumivane [VERSION] ([BUILD])"));
+    return text;
+}
+
+} // namespace
+
+void LumivaneWindowController::copyMoonToClipboard(QObject*) {
+    const QDateTime date = datePicker_->dateValue();
+    QString text;
+    const auto append = [&text](const QString& line) { ExtraMutableStringUtilities::appendLine(text, line); };
+    append(ExtraDateUtilities::dateStringWithFormat(date, 2));
+    append(ExtraDateUtilities::timeStringWithSeconds(date, true));
+    append(timeZonePopup_->currentText());
+    append(QStringLiteral("\n"));
+    for (const QLabel* field : {lunation_, phaseName_, illumination_, daysSinceNewMoon_, nextFullMoonName_})
+        append(field->text());
+    append(QStringLiteral("\n"));
+    append(filled(QT_TRANSLATE_NOOP("Lumivane", "Sun Rise/set %@"), sunRiseSet_->text()));
+    append(filled(QT_TRANSLATE_NOOP("Lumivane", "Natical Rise/set %@"), nauticalTwilight_->text()));
+    append(filled(QT_TRANSLATE_NOOP("Lumivane", "Moon Rise/set %@"), moonRiseSet_->text()));
+    append(QStringLiteral("\n"));
+    append(filled(QT_TRANSLATE_NOOP("Lumivane", "New %@"), timeNew_->text()));
+    append(filled(QT_TRANSLATE_NOOP("Lumivane", "Q1 %@"), timeFirstQuarter_->text()));
+    append(filled(QT_TRANSLATE_NOOP("Lumivane", "Full %@"), timeFull_->text()));
+    append(filled(QT_TRANSLATE_NOOP("Lumivane", "Q3 %@"), timeLastQuarter_->text()));
+    append(QStringLiteral("\n"));
+    QString place = filled(QT_TRANSLATE_NOOP("Lumivane", "Longitude/Latitude %@/%@"), longitude_->text());
+    append(place.replace(place.indexOf(u"%@"), 2, latitude_->text()));
+
+    ExtraStringUtilities::copyToClipboard(text);
+    if (!isWindoid())
+        statusItem_->makeAsHiddenMenu();
+}
+
+void LumivaneWindowController::showAbout(QObject*) {
+    using ExtraMutableAttributedStringUtilities::replaceAllAttributedStrings;
+    const NSBundle& bundle = NSBundle::mainBundle();
+    std::unique_ptr<QTextDocument> text = credits();
+    if (!text)
+        text = plainCredits();
+    replaceAllAttributedStrings(*text, QStringLiteral("[VERSION]"),
+                                bundle.infoString(QStringLiteral("CFBundleShortVersionString")));
+    replaceAllAttributedStrings(*text, QStringLiteral("[BUILD]"),
+                                bundle.infoString(QStringLiteral("CFBundleVersion")));
+    SimpleTextWindow::simpleTextWindowFromAttributedString(*text, window_->isVisible() ? window_.get() : nullptr);
+}

@@ -1,0 +1,163 @@
+// SPDX-License-Identifier: MIT
+// The panel's settings and commands.
+#include "app/engine/CMoonHelper.h"
+#include "app/shell/ApplicationDelegate.h"
+#include "app/ui/LumivaneStatusItem.h"
+#include "app/ui/LumivaneWindow.h"
+#include "app/ui/LumivaneWindowController.h"
+#include "platform/appkit/NSSlider.h"
+#include "platform/foundation/NSBundle.h"
+#include "platform/foundation/NSDate.h"
+#include "platform/foundation/NSUserDefaults.h"
+#include "shared/utilities/classes/AskNumber.h"
+#include "shared/utilities/classes/ExtraNumberUtilities.h"
+#include "shared/utilities/classes/ExtraStringUtilities.h"
+#include "shared/utilities/classes/InternetConfig.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
+
+#include <array>
+
+namespace {
+
+const QString kTimeZoneType = QStringLiteral("LVTimeZoneType");
+const QString kCustomOffset = QStringLiteral("LVTimeZoneCustomGMTOffset");
+const QString kCustomTitle = QStringLiteral("LVTimeZoneGMTOffsetTitle");
+
+/// The popup's entries in the layout's order; the last one, which opens the dialog, has no type.
+constexpr std::array kTimeZoneEntries{kTimeZoneGMT, kTimeZoneSystem, kTimeZoneCustom};
+
+/// The last brightness that the slider reported, for the whole program.
+float lastBrightness = 0.0F;
+
+NSUserDefaults* defaults() {
+    return NSUserDefaults::standardUserDefaults();
+}
+
+QString webPage(const char* path) {
+    return QStringLiteral("https://%1%2").arg(NSBundle::mainBundle().infoString(QStringLiteral("LVWebHost")),
+                                              QLatin1String(path));
+}
+
+/// "GMT +5.5" for a custom offset.
+QString offsetTitle(float hours) {
+    return NSBundle::mainBundle().localizedString(QT_TRANSLATE_NOOP("Lumivane", "GMT ")) +
+           (hours >= 0.0F ? QStringLiteral("+") : QString()) + QString::number(static_cast<double>(hours), 'f', 1);
+}
+
+} // namespace
+
+void LumivaneWindowController::prepareTimeZonePopup() {
+    for (std::size_t i = 0; i < kTimeZoneEntries.size(); ++i)
+        timeZonePopup_->setItemData(static_cast<int>(i), static_cast<int>(kTimeZoneEntries[i]));
+    defaultsChanged(kCustomTitle);
+}
+
+void LumivaneWindowController::defaultsChanged(const QString& key) {
+    if (key == kCustomTitle)
+        timeZonePopup_->setItemText(timeZonePopup_->findData(static_cast<int>(kTimeZoneCustom)),
+                                    defaults()->stringForKey(kCustomTitle));
+}
+
+void LumivaneWindowController::selectTimeZoneEntry(int type) {
+    if (const int entry = timeZonePopup_->findData(type); entry >= 0)
+        timeZonePopup_->setCurrentIndex(entry);
+    defaults()->setInteger(type, kTimeZoneType);
+}
+
+void LumivaneWindowController::timeZoneChanged(QObject* sender) {
+    if (sender == timeZonePopup_ && !timeZonePopup_->currentData().isValid()) {
+        timeZoneOther(sender);
+        return;
+    }
+    const NSDate::Hold oneMoment;
+    updateDateRange();
+    setLunationSliderGMTSeconds(datePickerGMTSeconds());
+    updateStaticMoonInfo();
+}
+
+void LumivaneWindowController::timeZoneOther(QObject*) {
+    const NSBundle& bundle = NSBundle::mainBundle();
+    AskNumber* dialog = AskNumber::AskNumberWithMessage(
+        bundle.localizedString(QT_TRANSLATE_NOOP("Lumivane", "GMT Time Zone Offset:")),
+        bundle.localizedString(QT_TRANSLATE_NOOP("Lumivane", "For Example: -5, +1.5, 12, 0")),
+        ExtraNumberUtilities::stringValue(defaults()->floatForKey(kCustomOffset)), window_.get(),
+        [this](const QString& text, AskNumber* asked) { askTimeZoneDidEnd(text, asked); });
+    const int type = CMoonHelper::prefZoneType();
+    if (dialog)
+        dialog->setRefCon(type);
+    else
+        selectTimeZoneEntry(type);
+    timeZoneChanged(nullptr);
+}
+
+void LumivaneWindowController::askTimeZoneDidEnd(const QString& text, AskNumber* dialog) {
+    if (!dialog->ok()) {
+        selectTimeZoneEntry(dialog->refCon());
+        defaults()->synchronize();
+        return;
+    }
+    const auto hours = static_cast<float>(ExtraStringUtilities::floatValue(text));
+    defaults()->setFloat(hours, kCustomOffset);
+    defaults()->setObject(offsetTitle(hours), kCustomTitle);
+    selectTimeZoneEntry(kTimeZoneCustom);
+    timeZoneChanged(nullptr);
+}
+
+void LumivaneWindowController::latitudeAndLongitudeFromSystemSettings(QObject*) {
+    const double latitude = ExtraNumberUtilities::numberWithLatitude();
+    const double longitude = ExtraNumberUtilities::numberWithLongitude();
+    defaults()->setFloat(static_cast<float>(latitude), QStringLiteral("LVLatitude"));
+    defaults()->setFloat(static_cast<float>(longitude), QStringLiteral("LVLongitude"));
+    latitude_->setText(ExtraNumberUtilities::stringValue(latitude));
+    longitude_->setText(ExtraNumberUtilities::stringValue(longitude));
+    updateStaticMoonInfo();
+}
+
+void LumivaneWindowController::latitudeAndLongitudeFromWeb(QObject*) {
+    InternetConfig::launchURL(webPage("/products/lumivane/globalposition.htm"));
+}
+
+void LumivaneWindowController::latitudeOrLongitudeChange(QObject*) {
+    updateStaticMoonInfo();
+}
+
+void LumivaneWindowController::brightness(QObject*) {
+    const auto level = static_cast<float>(brightness_->doubleValue());
+    if (level == lastBrightness)
+        return;
+    lastBrightness = level;
+    updateMoonImage();
+    updateQuarterButtons();
+}
+
+void LumivaneWindowController::windoid(QObject*) {
+    if (isWindoid())
+        statusItem_->makeAsHiddenMenu();
+    else
+        statusItem_->makeAsWindoid();
+}
+
+void LumivaneWindowController::hideButton(QObject*) {
+    statusItem_->makeAsHiddenMenu();
+}
+
+void LumivaneWindowController::runAtLogin(QObject*) {
+    ApplicationDelegate::sharedDelegate()->toggleSetToStartup(std::nullopt);
+}
+
+void LumivaneWindowController::checkForUpdate(QObject* sender) {
+    ApplicationDelegate::sharedDelegate()->forwardCheckForUpdate(sender);
+}
+
+void LumivaneWindowController::lumivaneHomePage(QObject*) {
+    InternetConfig::launchURL(webPage("/products/lumivane/mac/index.htm"));
+    if (!isWindoid())
+        statusItem_->makeAsHiddenMenu();
+}
+
+void LumivaneWindowController::terminate(QObject*) {
+    QApplication::quit();
+}

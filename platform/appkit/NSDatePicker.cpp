@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#include "platform/appkit/NSDatePicker.h"
+
+#include "platform/foundation/NSCalendar.h"
+#include "platform/foundation/NSDateFormatter.h"
+#include "platform/foundation/NSTimeZone.h"
+
+#include <QCalendarWidget>
+#include <QSignalBlocker>
+
+#include <algorithm>
+
+namespace {
+
+/// What the default zone's clocks show, carried as a UTC moment: fields without daylight-saving gaps.
+QDateTime shownFields(const QDateTime& instant) {
+    const int offset = NSTimeZone::defaultTimeZone().offsetFromUtc(instant);
+    return QDateTime::fromSecsSinceEpoch(instant.toSecsSinceEpoch() + offset, Qt::UTC);
+}
+
+QDateTime instantOfFields(const QDateTime& shown) {
+    const NSDateComponents fields = NSCalendar::components(shown.toSecsSinceEpoch(), 0);
+    return QDateTime::fromSecsSinceEpoch(NSCalendar::dateFromComponents(fields, NSTimeZone::defaultTimeZone()),
+                                         Qt::UTC);
+}
+
+} // namespace
+
+NSDatePicker::NSDatePicker(QWidget* parent) : QDateTimeEdit(parent) {
+    setTimeSpec(Qt::UTC);
+    setLocale(NSDateFormatter::locale());
+    setDisplayFormat(NSDateFormatter::editingFormat());
+    setCalendarPopup(true);
+    // A date that is half typed is no date to show the Moon for.
+    setKeyboardTracking(false);
+    connect(this, &QDateTimeEdit::dateTimeChanged, this, &NSDatePicker::fieldsEdited);
+}
+
+void NSDatePicker::setDateRange(const QDateTime& first, const QDateTime& last) {
+    first_ = first;
+    last_ = last;
+    const QSignalBlocker quiet(this);
+    // A day's slack on both sides: the instant is held, not its display, which depends on the zone's offset.
+    setDateTimeRange(shownFields(first).addDays(-1), shownFields(last).addDays(1));
+}
+
+void NSDatePicker::setDateValue(const QDateTime& instant) {
+    instant_ = instant.toUTC();
+    if (first_.isValid() && last_.isValid())
+        instant_ = std::clamp(instant_, first_, last_);
+    const QSignalBlocker quiet(this);
+    setDateTime(shownFields(instant_));
+}
+
+void NSDatePicker::fieldsEdited(const QDateTime& shown) {
+    const QDateTime before = instant_;
+    setDateValue(instantOfFields(shown));
+    if (instant_ != before)
+        Q_EMIT dateValueChanged();
+}

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDateTimeEdit>
+
+/// Stands for a date picker that holds an instant and shows it in the default time zone. Backed by QDateTimeEdit in
+/// the format of LC_TIME. The instant is kept beside the shown fields, so that an hour which comes twice in autumn
+/// is not lost in the display.
+class NSDatePicker : public QDateTimeEdit {
+    Q_OBJECT
+
+public:
+    explicit NSDatePicker(QWidget* parent = nullptr);
+
+    /// The instant (UTC).
+    QDateTime dateValue() const { return instant_; }
+
+    /// Shows an instant, held within the range; does not emit `dateValueChanged`.
+    void setDateValue(const QDateTime& instant);
+
+    /// The first and the last instant that can be picked.
+    void setDateRange(const QDateTime& first, const QDateTime& last);
+
+Q_SIGNALS:
+    /// The user picked another instant.
+    void dateValueChanged();
+
+private:
+    void fieldsEdited(const QDateTime& shown);
+
+    QDateTime instant_;
+    QDateTime first_;
+    QDateTime last_;
+};

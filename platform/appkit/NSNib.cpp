@@ -1,0 +1,313 @@
+// SPDX-License-Identifier: MIT
+#include "platform/appkit/NSNib.h"
+
+#include "platform/foundation/NSBundle.h"
+#include "platform/foundation/NSUserDefaults.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemModel>
+#include <QAbstractSlider>
+#include <QAction>
+#include <QComboBox>
+#include <QDateTimeEdit>
+#include <QFile>
+#include <QHash>
+#include <QLineEdit>
+#include <QLocale>
+#include <QMetaMethod>
+#include <QMetaProperty>
+#include <QPointer>
+#include <QUiLoader>
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <optional>
+#include <utility>
+
+namespace {
+
+constexpr char kAction[] = "action";
+constexpr char kBinding[] = "binding";
+constexpr char kTag[] = "tag";
+constexpr char kDoubleValue[] = "doubleValue";
+
+QHash<QString, NSNib::Factory>& factories() {
+    static QHash<QString, NSNib::Factory> registered;
+    return registered;
+}
+
+void addReason(QString* error, const QString& reason) {
+    if (error)
+        *error += (error->isEmpty() ? QString() : QStringLiteral(" ")) + reason;
+}
+
+class Loader : public QUiLoader {
+public:
+    Loader() { clearPluginPaths(); }
+
+    QWidget* createWidget(const QString& className, QWidget* parent, const QString& name) override {
+        QWidget* widget = nullptr;
+        if (const auto factory = factories().constFind(className); factory != factories().constEnd())
+            widget = (*factory)(parent);
+        else if (known_.contains(className))
+            return QUiLoader::createWidget(className, parent, name);
+        if (!widget) {
+            unknownClasses.append(className);
+            widget = new QWidget(parent);
+        }
+        widget->setObjectName(name);
+        return widget;
+    }
+
+    QStringList unknownClasses;
+
+private:
+    const QStringList known_ = availableWidgets();
+};
+
+QString textOf(float number) {
+    std::array<char, 64> text{};
+    const auto end =
+        std::to_chars(text.data(), text.data() + text.size(), number, std::chars_format::fixed).ptr;
+    return QString::fromLatin1(text.data(), end - text.data());
+}
+
+std::optional<float> numberOf(QString text) {
+    constexpr char16_t kMinusSign = 0x2212;
+    text = text.trimmed().replace(QChar(kMinusSign), u'-');
+    for (QLocale locale : {QLocale::c(), QLocale()}) {
+        // Without this "1,5" would be 15 wherever the comma separates thousands.
+        locale.setNumberOptions(QLocale::RejectGroupSeparator);
+        bool ok = false;
+        if (const float number = locale.toFloat(text, &ok); ok && std::isfinite(number))
+            return number;
+    }
+    return std::nullopt;
+}
+
+std::optional<QMetaProperty> doubleValueProperty(const QObject* control) {
+    const QMetaObject* type = control->metaObject();
+    const QMetaProperty property = type->property(type->indexOfProperty(kDoubleValue));
+    return property.isValid() && property.hasNotifySignal() ? std::optional(property) : std::nullopt;
+}
+
+/// Carries a user's change of one control to its preference and its owner's slot, and a change of the
+/// preference to the control. Child of the control.
+class ControlTie : public QObject {
+    Q_OBJECT
+
+public:
+    ControlTie(QObject* control, QObject* owner) : QObject(control), control_(control), owner_(owner) {}
+
+    bool setAction(const QString& name) {
+        const QByteArray signature =
+            QMetaObject::normalizedSignature((name.toUtf8() + "(QObject*)").constData());
+        const int index = owner_ ? owner_->metaObject()->indexOfSlot(signature.constData()) : -1;
+        if (index >= 0)
+            slot_ = owner_->metaObject()->method(index);
+        return index >= 0;
+    }
+
+    bool setBinding(const QString& key) {
+        if (!holdsValue())
+            return false;
+        key_ = key;
+        fill();
+        connect(NSUserDefaults::standardUserDefaults(), &NSUserDefaults::valueChanged, this,
+                [this](const QString& changed) {
+                    if (changed == key_)
+                        fill();
+                });
+        return true;
+    }
+
+    /// False for a control that reports no changes.
+    bool watch() {
+        if (const auto* button = qobject_cast<QAbstractButton*>(control_))
+            connect(button, &QAbstractButton::clicked, this, &ControlTie::changed);
+        else if (const auto* action = qobject_cast<QAction*>(control_))
+            connect(action, &QAction::triggered, this, &ControlTie::changed);
+        else if (const auto* box = qobject_cast<QComboBox*>(control_))
+            watchComboBox(box);
+        else if (const auto* field = qobject_cast<QLineEdit*>(control_))
+            connect(field, &QLineEdit::editingFinished, this, &ControlTie::editingFinished);
+        else if (const auto property = doubleValueProperty(control_))
+            connect(control_, property->notifySignal(), this,
+                    metaObject()->method(metaObject()->indexOfSlot("changed()")));
+        else if (const auto* slider = qobject_cast<QAbstractSlider*>(control_))
+            connect(slider, &QAbstractSlider::valueChanged, this, &ControlTie::changed);
+        else if (const auto* date = qobject_cast<QDateTimeEdit*>(control_))
+            connect(date, &QDateTimeEdit::dateTimeChanged, this, &ControlTie::changed);
+        else
+            return false;
+        return true;
+    }
+
+private Q_SLOTS:
+    void changed() {
+        if (filling_)
+            return;
+        if (!key_.isEmpty())
+            store();
+        sendAction();
+    }
+
+private:
+    void watchComboBox(const QComboBox* box) {
+        connect(box, &QComboBox::activated, this, &ControlTie::changed);
+        // The items get their integers after the layout is loaded.
+        connect(box->model(), &QAbstractItemModel::dataChanged, this, &ControlTie::fill);
+        connect(box->model(), &QAbstractItemModel::rowsInserted, this, &ControlTie::fill);
+    }
+
+    void editingFinished() {
+        auto* field = qobject_cast<QLineEdit*>(control_);
+        if (!field->isModified())
+            return;
+        field->setModified(false);
+        if (!key_.isEmpty() && !numberOf(field->text()))
+            fill();
+        else
+            changed();
+    }
+
+    void sendAction() {
+        if (slot_.isValid() && owner_)
+            slot_.invoke(owner_, Qt::DirectConnection, Q_ARG(QObject*, control_));
+    }
+
+    bool holdsValue() const {
+        if (const auto* button = qobject_cast<QAbstractButton*>(control_))
+            return button->isCheckable();
+        if (const auto* action = qobject_cast<QAction*>(control_))
+            return action->isCheckable();
+        return qobject_cast<QComboBox*>(control_) || qobject_cast<QLineEdit*>(control_) ||
+               qobject_cast<QAbstractSlider*>(control_) || doubleValueProperty(control_);
+    }
+
+    void store() {
+        NSUserDefaults* defaults = NSUserDefaults::standardUserDefaults();
+        if (const auto* button = qobject_cast<QAbstractButton*>(control_)) {
+            defaults->setBool(button->isChecked(), key_);
+        } else if (const auto* action = qobject_cast<QAction*>(control_)) {
+            defaults->setBool(action->isChecked(), key_);
+        } else if (const auto* box = qobject_cast<QComboBox*>(control_)) {
+            if (const QVariant value = box->currentData(); value.isValid())
+                defaults->setInteger(value.toInt(), key_);
+        } else if (const auto* field = qobject_cast<QLineEdit*>(control_)) {
+            if (const auto number = numberOf(field->text()))
+                defaults->setFloat(*number, key_);
+            fill();
+        } else if (const auto property = doubleValueProperty(control_)) {
+            defaults->setFloat(property->read(control_).toFloat(), key_);
+        } else if (const auto* slider = qobject_cast<QAbstractSlider*>(control_)) {
+            defaults->setFloat(static_cast<float>(slider->value()), key_);
+        }
+    }
+
+    void fill() {
+        if (key_.isEmpty())
+            return;
+        const NSUserDefaults* defaults = NSUserDefaults::standardUserDefaults();
+        const bool before = std::exchange(filling_, true);
+        if (auto* button = qobject_cast<QAbstractButton*>(control_)) {
+            button->setChecked(defaults->boolForKey(key_));
+        } else if (auto* action = qobject_cast<QAction*>(control_)) {
+            action->setChecked(defaults->boolForKey(key_));
+        } else if (auto* box = qobject_cast<QComboBox*>(control_)) {
+            if (const int index = box->findData(defaults->integerForKey(key_)); index >= 0)
+                box->setCurrentIndex(index);
+        } else if (auto* field = qobject_cast<QLineEdit*>(control_)) {
+            // What is being typed is not overwritten.
+            if (!field->isModified() || !field->hasFocus())
+                field->setText(textOf(defaults->floatForKey(key_)));
+        } else if (const auto property = doubleValueProperty(control_)) {
+            property->write(control_, static_cast<double>(defaults->floatForKey(key_)));
+        } else if (auto* slider = qobject_cast<QAbstractSlider*>(control_)) {
+            slider->setValue(static_cast<int>(std::lround(
+                std::clamp(static_cast<double>(defaults->floatForKey(key_)),
+                           static_cast<double>(slider->minimum()), static_cast<double>(slider->maximum())))));
+        }
+        filling_ = before;
+    }
+
+    QObject* control_;
+    QPointer<QObject> owner_;
+    QMetaMethod slot_;
+    QString key_;
+    bool filling_ = false;
+};
+
+/// Ties a control as its properties ask; the reason when it can't be done, else an empty string.
+QString tie(QObject* control, QObject* owner) {
+    const QString action = control->property(kAction).toString();
+    const QString binding = control->property(kBinding).toString();
+    if (action.isEmpty() && binding.isEmpty())
+        return {};
+    auto* tie = new ControlTie(control, owner);
+    const QString name = QStringLiteral("%1 \"%2\"")
+                             .arg(QLatin1String(control->metaObject()->className()), control->objectName());
+    if (!action.isEmpty() && !tie->setAction(action))
+        return QStringLiteral("%1 sends \"%2\", which its owner has no slot for.").arg(name, action);
+    if (!binding.isEmpty() && !tie->setBinding(binding))
+        return QStringLiteral("%1 has no value that \"%2\" could be bound to.").arg(name, binding);
+    return tie->watch() ? QString() : QStringLiteral("%1 reports no changes.").arg(name);
+}
+
+} // namespace
+
+void NSNib::registerClass(const QString& className, Factory factory) {
+    factories().insert(className, std::move(factory));
+}
+
+std::unique_ptr<QWidget> NSNib::load(const QString& name, QObject* owner, QString* error) {
+    const QString path = NSBundle::mainBundle().pathForResource(name, QStringLiteral("ui"));
+    if (path.isEmpty()) {
+        addReason(error, QStringLiteral("There is no layout \"%1\".").arg(name));
+        return nullptr;
+    }
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        addReason(error, QStringLiteral("%1 can't be read: %2.").arg(path, file.errorString()));
+        return nullptr;
+    }
+    Loader loader;
+    std::unique_ptr<QWidget> root(loader.load(&file));
+    if (!root) {
+        addReason(error, QStringLiteral("%1 is damaged: %2").arg(path, loader.errorString()));
+        return nullptr;
+    }
+    QStringList reasons;
+    for (const QString& className : std::as_const(loader.unknownClasses))
+        reasons.append(QStringLiteral("The class %1 is unknown.").arg(className));
+    QObjectList objects = root->findChildren<QObject*>();
+    objects.prepend(root.get());
+    for (QObject* object : std::as_const(objects)) {
+        if (const QString reason = tie(object, owner); !reason.isEmpty())
+            reasons.append(reason);
+    }
+    if (reasons.isEmpty())
+        return root;
+    addReason(error, path + QStringLiteral(": ") + reasons.join(u' '));
+    return nullptr;
+}
+
+int NSNib::tag(const QObject* control) {
+    return control->property(kTag).toInt();
+}
+
+QObject* NSNib::objectNamed(QWidget* root, const char* objectName, const QMetaObject& type, QString* error) {
+    const QString name = QString::fromUtf8(objectName);
+    QObject* object = root->objectName() == name ? root : root->findChild<QObject*>(name);
+    if (object && type.cast(object))
+        return object;
+    addReason(error, object ? QStringLiteral("The outlet \"%1\" is a %2, not a %3.")
+                                  .arg(name, QLatin1String(object->metaObject()->className()),
+                                       QLatin1String(type.className()))
+                            : QStringLiteral("The outlet \"%1\" is missing.").arg(name));
+    return nullptr;
+}
+
+#include "NSNib.moc"

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <exception>
+#include <source_location>
+
+/// Stands for Foundation's exceptions: a name that tells the kind and a reason in words. Backed by a C++
+/// exception, whose `what()` is the reason in UTF-8.
+class NSException : public std::exception {
+public:
+    NSException(const QString& name, const QString& reason);
+    const QString& name() const { return name_; }
+    const QString& reason() const { return reason_; }
+    const char* what() const noexcept override { return utf8_.constData(); }
+
+private:
+    QString name_;
+    QString reason_;
+    QByteArray utf8_;
+};
+
+/// A programming error: something that can't be while the code is right. The reason tells the message, the
+/// operation, the source file (without folder and extension) and the line it was raised at.
+class NSInternalInconsistencyException : public NSException {
+public:
+    explicit NSInternalInconsistencyException(
+        const QString& message, const std::source_location& place = std::source_location::current());
+};

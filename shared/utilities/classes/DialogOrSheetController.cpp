@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: MIT
+#include "shared/utilities/classes/DialogOrSheetController.h"
+
+#include "platform/appkit/NSNib.h"
+#include "platform/foundation/NSLog.h"
+
+#include <QKeyEvent>
+#include <QScreen>
+
+#include <algorithm>
+
+DialogOrSheetController::~DialogOrSheetController() {
+    if (window_)
+        window_->disconnect(this);
+    delete window_;
+}
+
+bool DialogOrSheetController::loadWindow(const QString& nibName) {
+    QString error;
+    std::unique_ptr<QWidget> root = NSNib::load(nibName, this, &error);
+    window_ = qobject_cast<QDialog*>(root.get());
+    if (window_) {
+        (void)root.release();
+        if (awakeFromNib(&error)) {
+            window_->installEventFilter(this);
+            connect(window_, &QObject::destroyed, this, &QObject::deleteLater);
+            return true;
+        }
+    } else if (root) {
+        error = QStringLiteral("The layout is not one of a dialog.");
+    }
+    NSLog(QStringLiteral("The dialog %1 can't be opened. %2").arg(nibName, error));
+    return false;
+}
+
+void DialogOrSheetController::showOnWindow(QWidget* window) {
+    isOpenedAsSheet_ = window != nullptr;
+    if (isOpenedAsSheet_) {
+        window_->setParent(window->window(), Qt::Sheet);
+        window_->setWindowModality(Qt::WindowModal);
+        placeOver(window->window());
+        window_->show();
+        window_->activateWindow();
+        return;
+    }
+    window_->setWindowModality(Qt::ApplicationModal);
+    QEventLoop loop;
+    modalLoop_ = &loop;
+    window_->show();
+    window_->activateWindow();
+    loop.exec(QEventLoop::DialogExec);
+    // The loop also ends, with the dialog unanswered, when the program quits.
+    if (window_)
+        window_->hide();
+    deleteLater();
+}
+
+void DialogOrSheetController::closeWindow() {
+    if (window_)
+        window_->hide();
+    if (isOpenedAsSheet_)
+        deleteLater();
+    else if (modalLoop_)
+        // Deleting waits for `showOnWindow` to return from the loop.
+        modalLoop_->quit();
+}
+
+void DialogOrSheetController::placeOver(const QWidget* window) {
+    window_->adjustSize();
+    const QRect below = window->geometry();
+    const QRect screen = window->screen()->availableGeometry();
+    const int x = below.center().x() - window_->width() / 2;
+    window_->move(
+        std::clamp(x, screen.left(), std::max(screen.left(), screen.right() - window_->width())),
+        std::clamp(below.top(), screen.top(), std::max(screen.top(), screen.bottom() - window_->height())));
+}
+
+bool DialogOrSheetController::eventFilter(QObject* watched, QEvent* event) {
+    if (watched != window_)
+        return QObject::eventFilter(watched, event);
+    const bool escape =
+        event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->matches(QKeySequence::Cancel);
+    if (escape || event->type() == QEvent::Close) {
+        // QDialog would hide before anybody is told; an answer is given while the dialog still stands.
+        dismissed();
+        event->setAccepted(true);
+        return true;
+    }
+    return QObject::eventFilter(watched, event);
+}

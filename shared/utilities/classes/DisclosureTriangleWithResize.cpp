@@ -1,0 +1,172 @@
+// SPDX-License-Identifier: MIT
+#include "shared/utilities/classes/DisclosureTriangleWithResize.h"
+
+#include "platform/appkit/NSBox.h"
+#include "platform/foundation/NSException.h"
+#include "platform/foundation/NSUserDefaults.h"
+
+#include <QLayout>
+#include <QPainter>
+#include <QStyleOptionFocusRect>
+#include <QStyleOptionToolButton>
+
+#include <cmath>
+
+namespace {
+
+constexpr int kArrowSide = 12;
+constexpr int kGap = 4;
+constexpr int kPadding = 2;
+
+/// A view's bottom edge in its superview, measured upwards as the folding rules have it.
+int bottomEdge(const QWidget* view) {
+    return view->parentWidget()->height() - (view->y() + view->height());
+}
+
+QList<QWidget*> viewsIn(const QWidget* superview) {
+    return superview->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+}
+
+} // namespace
+
+DisclosureTriangleWithResize::DisclosureTriangleWithResize(QWidget* parent) : QToolButton(parent) {
+    setCheckable(true);
+    setChecked(true);
+    QFont bold = font();
+    bold.setBold(true);
+    setFont(bold);
+    connect(this, &QToolButton::clicked, this, [this] {
+        if (valueBindingKeyPath_.isEmpty())
+            sizeToState();
+    });
+}
+
+NSBox* DisclosureTriangleWithResize::boxView() const {
+    const QWidget* content = parentWidget();
+    auto* box = content ? qobject_cast<NSBox*>(content->parentWidget()) : nullptr;
+    if (!box)
+        throw NSInternalInconsistencyException(QStringLiteral("DisclosureTriangle needs to be in an NSBox."));
+    return box;
+}
+
+QList<QWidget*> DisclosureTriangleWithResize::viewsInWindow(bool above) const {
+    const NSBox* box = boxView();
+    const int edge = bottomEdge(box);
+    QList<QWidget*> views;
+    for (QWidget* view : viewsIn(box->parentWidget())) {
+        if (above ? bottomEdge(view) > edge : bottomEdge(view) < edge)
+            views.append(view);
+    }
+    return views;
+}
+
+float DisclosureTriangleWithResize::smallHeight() const {
+    const int gapAbove = y();
+    const int toBottom = gapAbove + height();
+    return static_cast<float>(toBottom + gapAbove) - 2.0F;
+}
+
+float DisclosureTriangleWithResize::currentHeight() const {
+    return static_cast<float>(boxView()->height());
+}
+
+float DisclosureTriangleWithResize::largeHeight() const {
+    return superViewExpandedHeight_;
+}
+
+void DisclosureTriangleWithResize::changeHeight(float shrinkBy) {
+    const int by = static_cast<int>(std::lround(shrinkBy));
+    if (by == 0)
+        return;
+    NSBox* box = boxView();
+    QWidget* superview = box->parentWidget();
+    for (QWidget* view : viewsInWindow(false))
+        view->move(view->x(), view->y() - by);
+    box->resize(box->width(), box->height() - by);
+    superview->resize(superview->width(), superview->height() - by);
+}
+
+void DisclosureTriangleWithResize::sizeToState() {
+    if (isChecked())
+        showFoldedViews();
+    const float target = isChecked() ? largeHeight() : smallHeight();
+    changeHeight(currentHeight() - target);
+    if (!isChecked())
+        hideFoldedViews();
+}
+
+void DisclosureTriangleWithResize::awakeFromNib() {
+    NSBox* box = boxView();
+    superViewExpandedHeight_ = static_cast<float>(box->height());
+    if (!valueBindingKeyPath_.isEmpty()) {
+        setChecked(NSUserDefaults::standardUserDefaults()->boolForKey(valueBindingKeyPath_));
+        connect(NSUserDefaults::standardUserDefaults(), &NSUserDefaults::valueChanged, this,
+                &DisclosureTriangleWithResize::observeValue);
+    }
+    connect(box, &NSBox::contentSizeHintChanged, this, &DisclosureTriangleWithResize::contentChanged);
+    sizeToState();
+}
+
+void DisclosureTriangleWithResize::observeValue(const QString& key) {
+    if (key != valueBindingKeyPath_)
+        return;
+    setChecked(NSUserDefaults::standardUserDefaults()->boolForKey(key));
+    sizeToState();
+}
+
+void DisclosureTriangleWithResize::contentChanged() {
+    if (isChecked())
+        superViewExpandedHeight_ = static_cast<float>(boxView()->sizeHint().height());
+    sizeToState();
+}
+
+void DisclosureTriangleWithResize::hideFoldedViews() {
+    // What is cut off must not take the keyboard's focus either.
+    const auto visibleHeight = static_cast<int>(smallHeight());
+    for (QWidget* view : viewsIn(parentWidget())) {
+        if (view != this && !view->isHidden() && view->y() >= visibleHeight - 1) {
+            view->hide();
+            foldedViews_.append(view);
+        }
+    }
+}
+
+void DisclosureTriangleWithResize::showFoldedViews() {
+    if (foldedViews_.isEmpty())
+        return;
+    for (const QPointer<QWidget>& view : std::as_const(foldedViews_)) {
+        if (view)
+            view->show();
+    }
+    foldedViews_.clear();
+    if (QLayout* layout = parentWidget()->layout())
+        layout->activate();
+    superViewExpandedHeight_ = static_cast<float>(boxView()->sizeHint().height());
+}
+
+QSize DisclosureTriangleWithResize::sizeHint() const {
+    const int text = fontMetrics().horizontalAdvance(this->text());
+    return {kArrowSide + kGap + text + kGap, fontMetrics().height() + 2 * kPadding};
+}
+
+void DisclosureTriangleWithResize::paintEvent(QPaintEvent*) {
+    // A heading with a triangle, not a button that stands out from the panel.
+    QPainter painter(this);
+    QStyleOptionToolButton option;
+    initStyleOption(&option);
+    const QRect arrow = QStyle::visualRect(layoutDirection(), rect(), QRect(0, 0, kArrowSide, height()));
+    const QRect text =
+        QStyle::visualRect(layoutDirection(), rect(), rect().adjusted(kArrowSide + kGap, 0, 0, 0));
+    QStyleOption triangle = option;
+    triangle.rect = QRect(0, 0, kArrowSide, kArrowSide);
+    triangle.rect.moveCenter(arrow.center());
+    const auto folded = isRightToLeft() ? QStyle::PE_IndicatorArrowLeft : QStyle::PE_IndicatorArrowRight;
+    style()->drawPrimitive(isChecked() ? QStyle::PE_IndicatorArrowDown : folded, &triangle, &painter, this);
+    style()->drawItemText(&painter, text, Qt::AlignVCenter | Qt::AlignLeading, option.palette, isEnabled(),
+                          this->text(), foregroundRole());
+    if (hasFocus()) {
+        QStyleOptionFocusRect focus;
+        focus.initFrom(this);
+        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
+    }
+}

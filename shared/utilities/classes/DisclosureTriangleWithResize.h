@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QList>
+#include <QPointer>
+#include <QToolButton>
+
+class NSBox;
+
+/// A triangle that folds and unfolds the box it sits in and lets the window follow. It sits in the content view of an
+/// NSBox; the box and the views beside it share one superview, which has no layout of its own. A triangle with a
+/// `binding` is tied to that boolean preference: the box follows the preference, wherever a change comes from.
+class DisclosureTriangleWithResize : public QToolButton {
+    Q_OBJECT
+    Q_PROPERTY(QString binding MEMBER valueBindingKeyPath_)
+
+public:
+    explicit DisclosureTriangleWithResize(QWidget* parent = nullptr);
+
+    /// The box that the triangle folds. Throws NSInternalInconsistencyException outside of one.
+    NSBox* boxView() const;
+
+    /// The box's neighbours whose bottom edge lies above (or below) the box's own, in the superview's order.
+    QList<QWidget*> viewsInWindow(bool above) const;
+
+    float smallHeight() const;   ///< of the folded box: down to the triangle's bottom, and the gap above it once more
+    float currentHeight() const; ///< of the box as it is
+    float largeHeight() const;   ///< of the unfolded box
+
+    /// Shrinks the box by `shrinkBy` (negative: grows), and its superview with it. Top edges stay.
+    void changeHeight(float shrinkBy);
+
+    /// Brings the box to the height of the triangle's state.
+    void sizeToState();
+
+    /// To be called once, when the layout is loaded and the box has its unfolded height: folds the box as the bound
+    /// preference says, and follows it from then on.
+    void awakeFromNib();
+
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void observeValue(const QString& key);
+    void contentChanged();
+    void hideFoldedViews();
+    void showFoldedViews();
+
+    float superViewExpandedHeight_ = 0;
+    QString valueBindingKeyPath_;
+    QList<QPointer<QWidget>> foldedViews_;
+};

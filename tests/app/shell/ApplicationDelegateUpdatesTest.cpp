@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+#include "app/shell/ApplicationDelegate.h"
+
+#include "platform/foundation/NSBundle.h"
+#include "platform/foundation/NSUserDefaults.h"
+#include "platform/update/SUUpdateAlert.h"
+#include "shared/utilities/classes/ExtraStringUtilities.h"
+#include "tests/TestMain.h"
+#include "tests/platform/update/FeedServer.h"
+
+#include <QApplication>
+#include <QtNetwork/QTcpServer>
+#include <QtNetwork/QTcpSocket>
+
+namespace {
+
+bool closeAlert() {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (auto* alert = qobject_cast<SUUpdateAlert*>(window); alert && alert->isVisible())
+            return alert->close();
+    }
+    return false;
+}
+
+} // namespace
+
+TEST(ApplicationDelegateUpdates, FeedURLTellsSixThingsInOrder) {
+    const QString url = ApplicationDelegate::feedURLString(QStringLiteral("feed.example"),
+                                                           QStringLiteral("123"), QStringLiteral("604800"),
+                                                           QStringLiteral("1.2"), QStringLiteral("100608"));
+    EXPECT_EQ(url, u"https://feed.example/cgi-sys/cgiwrap/Corvanta/SharewareAppCast.pl"
+                   u"?bld=123&frq=604800&prd=lv&end=i386&ver=1.2&sys=100608");
+}
+
+TEST(ApplicationDelegateUpdates, AsksItsOwnFeedThroughTheSystemsProxy) {
+    // The proxy stands where the network would be: it sees which host is asked for and lets nothing through.
+    QTcpServer proxy;
+    ASSERT_TRUE(proxy.listen(QHostAddress::LocalHost));
+    const WithEnvironment environment("https_proxy",
+                                      "http://127.0.0.1:" + QByteArray::number(proxy.serverPort()));
+    QByteArray asked;
+    QObject::connect(&proxy, &QTcpServer::newConnection, [&] {
+        QTcpSocket* connection = proxy.nextPendingConnection();
+        QObject::connect(connection, &QTcpSocket::readyRead, [&asked, connection] {
+            asked += connection->readAll();
+            connection->write("HTTP/1.1 403 Forbidden\r\nContent-Length: 0\r\n\r\n");
+            connection->disconnectFromHost();
+        });
+    });
+
+    const CaughtLog log;
+    NSUserDefaults::standardUserDefaults()->registerDefaults({{SUScheduledCheckIntervalKey, 604800}});
+    ApplicationDelegate delegate;
+    delegate.initCheckForUpdateURL();
+    delegate.forwardCheckForUpdate(nullptr);
+    EXPECT_TRUE(waitFor(closeAlert)) << "the user asked, so the failure is told";
+
+    const NSBundle& bundle = NSBundle::mainBundle();
+    const QString host = bundle.infoString(QStringLiteral("LVFeedHost"));
+    EXPECT_TRUE(asked.startsWith("CONNECT " + host.toUtf8() + ":443 ")) << asked.constData();
+    const QString url = ApplicationDelegate::feedURLString(
+        host, bundle.infoString(QStringLiteral("CFBundleVersion")), QStringLiteral("604800"),
+        bundle.infoString(QStringLiteral("CFBundleShortVersionString")),
+        ExtraStringUtilities::stringWithOSVersion());
+    EXPECT_EQ(log.lines().value(0), QStringLiteral("Checking for update: ") + url);
+}
+
+TEST(ApplicationDelegateUpdates, TheServerGetsTheQueryAsItIsBuilt) {
+    FeedServer server;
+    ApplicationDelegate delegate;
+    SUUpdater updater;
+    updater.setDelegate(&delegate);
+    updater.setFeedURL(QUrl(
+        ApplicationDelegate::feedURLString(server.host(), QStringLiteral("100"), QStringLiteral("604800"),
+                                           QStringLiteral("1.0"), QStringLiteral("120000")),
+        QUrl::StrictMode));
+    updater.checkForUpdates(nullptr);
+    EXPECT_TRUE(waitFor(closeAlert));
+    EXPECT_EQ(server.requests(),
+              QStringList{QStringLiteral("trusted /cgi-sys/cgiwrap/Corvanta/SharewareAppCast.pl"
+                                         "?bld=100&frq=604800&prd=lv&end=i386&ver=1.0&sys=120000")});
+}

@@ -1,0 +1,134 @@
+#!/usr/bin/python3
+# SPDX-License-Identifier: MIT
+"""The program's main job, as a person does it: a click on the icon, the panel's lines, a second click."""
+
+import os
+import pathlib
+import shutil
+import subprocess
+import sys
+import tempfile
+import time
+import unittest
+
+from desktop import Desktop, wait_for
+
+PROGRAM = os.path.abspath(sys.argv.pop(1))
+RESOURCES = pathlib.Path(PROGRAM).parent.parent / "share/lumivane"
+
+
+class PanelTest(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.desktop = Desktop()
+        cls.folder = tempfile.mkdtemp()
+
+    @classmethod
+    def tearDownClass(cls):
+        cls.desktop.close()
+        shutil.rmtree(cls.folder)
+
+    def tearDown(self):
+        self.assertIn(self.desktop.stop(), (0, -15, None))
+
+    def show(self, moment, zone="UTC", **keywords):
+        self.desktop.start(PROGRAM, moment, zone, **keywords)
+        self.desktop.open_panel()
+
+    def test_blue_lunation(self):
+        self.show("2009-12-20 12:00:00")
+        self.assertEqual(len(self.desktop.items()), 1)
+        lines = self.desktop.lines()
+        for line in ("Moon is a waxing crescent", "Lunation 1076", "Next full moon is a Cold Moon",
+                     "12/16/09, 12:03 PM", "12/31/09, 7:13 PM"):
+            self.assertIn(line, lines)
+        self.assertRegex(self.desktop.line("3d "), r"^3d 23h 5[67]m since new moon$")
+        # The pixels of a blue lunation are blue, those of another one grey.
+        self.desktop.picture(self.folder + "/blue.png")
+        self.assertGreater(self.blueness("blue.png"), 0.1)
+
+    def blueness(self, name):
+        return float(subprocess.run(
+            ["convert", os.path.join(self.folder, name), "-format", "%[fx:mean.b-mean.r]", "info:"],
+            check=True, capture_output=True, text=True).stdout)
+
+    def test_second_click_hides(self):
+        self.show(None)
+        self.assertTrue(self.desktop.line("Moon is "))
+        age = self.desktop.line("Lunation")
+        # Lunation 1284 begins on 2026-10-10; each lasts 29.53 days.
+        expected = 1284 + int((time.time() - 1791647400) / 86400 / 29.530588)
+        self.assertLessEqual(abs(int(age.split()[1]) - expected), 1)
+        self.desktop.click_icon()
+        wait_for("the panel to hide", lambda: not self.desktop.window())
+        self.desktop.open_panel()
+        self.desktop.key("Escape")
+        wait_for("the panel to hide", lambda: not self.desktop.window())
+
+    def test_southern_hemisphere_turns_the_picture(self):
+        self.show("2024-05-15 12:00:00", "Europe/London")
+        self.desktop.picture(self.folder + "/north.png")
+        self.desktop.stop()
+        self.show("2024-05-15 21:00:00", "Australia/Sydney")
+        self.desktop.picture(self.folder + "/south.png")
+
+        def difference(turned):
+            result = subprocess.run(
+                ["compare", "-metric", "RMSE", self.folder + "/" + turned, self.folder + "/south.png", "null:"],
+                capture_output=True, text=True)
+            return float(result.stderr.split("(")[1].rstrip(")"))
+        subprocess.run(["convert", self.folder + "/north.png", "-rotate", "180", self.folder + "/turned.png"],
+                       check=True)
+        self.assertLess(difference("turned.png"), 0.02)
+        self.assertGreater(difference("north.png"), 0.05)
+
+    def test_polar_summer_day(self):
+        self.show("2024-06-21 12:00:00", "Arctic/Longyearbyen")
+        self.assertIn("Sun: always visible", self.desktop.lines())
+        self.assertIn("Nautical Twilight: always bright", self.desktop.lines())
+
+    def test_clocks_far_off(self):
+        self.show("2045-06-01 12:00:00")
+        self.assertIn("Date out of range", self.desktop.lines())
+        self.assertIn("Lunation 1447", self.desktop.lines())
+        self.desktop.stop()
+        self.show("1970-01-01 00:00:10")
+        self.assertTrue(self.desktop.line("Moon is "))
+        self.assertIn("Lunation 581", self.desktop.lines())
+
+    def test_broken_surroundings(self):
+        broken = pathlib.Path(self.folder, "share")
+        shutil.copytree(RESOURCES, broken)
+        table = (broken / "Lunations.plist").read_bytes()
+        (broken / "Lunations.plist").write_bytes(table[:1000])
+        (broken / "M00.png").unlink()
+        (broken / "M09.png").write_bytes(b"no picture")
+        preferences = pathlib.Path(self.desktop.home, "config/lumivane/lumivane.conf")
+        preferences.parent.mkdir(parents=True, exist_ok=True)
+        garbage = bytes((i * 37 + 11) % 256 for i in range(4000))
+        preferences.write_bytes(garbage)
+        self.show("2009-12-20 12:00:00", "Nowhere/Atall", fresh=False,
+                  environment={"LUMIVANE_RESOURCES": str(broken)})
+        self.assertIn("Lunation 1076", self.desktop.lines())
+        log = self.desktop.logged()
+        for complaint in ("The lunation table Lunations.plist can't be used", "The picture M00 is missing",
+                          "The picture M09", "are damaged; kept as", 'time zone "Nowhere/Atall" is not known'):
+            self.assertIn(complaint, log)
+        self.assertEqual(preferences.with_name("lumivane.conf.damaged").read_bytes(), garbage)
+
+    def test_without_a_session_bus(self):
+        environment = {"DBUS_SESSION_BUS_ADDRESS": "unix:path=/nonexistent", "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "0"}
+        self.desktop.start(PROGRAM, environment=environment, tray=False)
+        # Without bus or tray the panel opens as a window of its own.
+        wait_for("the window", lambda: self.titles("Lumivane"))
+        self.assertIn("No D-Bus session bus", self.desktop.logged())
+        self.assertIsNone(self.desktop.program.poll())
+
+    def titles(self, name):
+        found = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", "^" + name + "$"],
+                               capture_output=True, text=True).stdout.split()
+        return found
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)

@@ -1,0 +1,293 @@
+# SPDX-License-Identifier: MIT
+"""A virtual desktop with a real panel, and the program on it as a person meets it.
+
+Xvfb, a D-Bus session, openbox and xfce4-panel; the pointer and the keys through xdotool; what the panel shows is
+read through the accessibility bus."""
+
+import os
+import pathlib
+import shutil
+import signal
+import subprocess
+import sys
+import tempfile
+import time
+
+PANEL_CONFIG = """<?xml version="1.0" encoding="UTF-8"?>
+<channel name="xfce4-panel" version="1.0">
+  <property name="configver" type="int" value="2"/>
+  <property name="panels" type="array">
+    <value type="int" value="1"/>
+    <property name="dark-mode" type="bool" value="true"/>
+    <property name="panel-1" type="empty">
+      <property name="position" type="string" value="p={position};x=640;y={y}"/>
+      <property name="length" type="uint" value="100"/>
+      <property name="position-locked" type="bool" value="true"/>
+      <property name="size" type="uint" value="28"/>
+      <property name="plugin-ids" type="array">
+        <value type="int" value="1"/><value type="int" value="2"/><value type="int" value="3"/>
+      </property>
+    </property>
+  </property>
+  <property name="plugins" type="empty">
+    <property name="plugin-1" type="string" value="separator">
+      <property name="expand" type="bool" value="true"/><property name="style" type="uint" value="0"/>
+    </property>
+    <property name="plugin-2" type="string" value="systray">
+      <property name="square-icons" type="bool" value="true"/>
+      <property name="known-items" type="array"><value type="string" value="lumivane"/></property>
+    </property>
+    <property name="plugin-3" type="string" value="clock"/>
+  </property>
+</channel>
+"""
+
+FAKETIME = "/usr/lib/{}-linux-gnu/faketime/libfaketime.so.1".format(os.uname().machine)
+
+
+def wait_for(what, condition, seconds=15.0):
+    """The first true answer of `condition`; fails with `what` after the time."""
+    end = time.monotonic() + seconds
+    while True:
+        answer = condition()
+        if answer:
+            return answer
+        if time.monotonic() > end:
+            raise AssertionError("timed out waiting for " + what)
+        time.sleep(0.05)
+
+
+class Desktop:
+    """One virtual desktop, for the life of the process."""
+
+    def __init__(self, size="1280x800", panel="top", tray=True, scale=None):
+        self.home = tempfile.mkdtemp(prefix="lumivane-desktop-")
+        self.children = []
+        self.program = None
+        runtime = os.path.join(self.home, "runtime")
+        os.mkdir(runtime, 0o700)
+        os.environ.update(
+            HOME=self.home, XDG_RUNTIME_DIR=runtime, XDG_CONFIG_HOME=self.home + "/config",
+            XDG_DATA_HOME=self.home + "/data", XDG_CACHE_HOME=self.home + "/cache",
+            XDG_CURRENT_DESKTOP="XFCE", QT_QPA_PLATFORM="xcb", QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
+            LC_ALL="C.UTF-8", NO_AT_BRIDGE="0", GTK_A11Y="atspi", GSETTINGS_BACKEND="memory")
+        for name in ("WAYLAND_DISPLAY", "LANGUAGE", "LD_PRELOAD", "TZ"):
+            os.environ.pop(name, None)
+        self.start_screen(size)
+        self.start_bus()
+        self.spawn(["openbox"])
+        if tray:
+            self.start_panel(panel)
+
+    def spawn(self, command, **keywords):
+        child = subprocess.Popen(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, **keywords)
+        self.children.append(child)
+        return child
+
+    def start_screen(self, size):
+        reader, writer = os.pipe()
+        self.spawn(["Xvfb", "-displayfd", str(writer), "-screen", "0", size + "x24", "-nolisten", "tcp"],
+                   pass_fds=[writer])
+        os.close(writer)
+        with os.fdopen(reader) as answer:
+            os.environ["DISPLAY"] = ":" + answer.readline().strip()
+
+    def start_bus(self):
+        reader, writer = os.pipe()
+        self.spawn(["dbus-daemon", "--session", "--nofork", "--print-address=" + str(writer)], pass_fds=[writer])
+        os.close(writer)
+        with os.fdopen(reader) as answer:
+            os.environ["DBUS_SESSION_BUS_ADDRESS"] = answer.readline().strip()
+
+    def start_panel(self, edge):
+        folder = pathlib.Path(self.home, "config/xfce4/xfconf/xfce-perchannel-xml")
+        folder.mkdir(parents=True, exist_ok=True)
+        position, y = ("6", "14") if edge == "top" else ("8", "786")
+        (folder / "xfce4-panel.xml").write_text(PANEL_CONFIG.format(position=position, y=y))
+        self.panel = self.spawn(["xfce4-panel", "--disable-wm-check"])
+        wait_for("the tray", lambda: self.bus_has("org.kde.StatusNotifierWatcher"), 30)
+
+    def gio(self):
+        import gi
+        gi.require_version("Gio", "2.0")
+        from gi.repository import Gio, GLib
+        return Gio, GLib
+
+    def call(self, name, path, interface, method, arguments=None):
+        Gio, _ = self.gio()
+        bus = Gio.bus_get_sync(Gio.BusType.SESSION, None)
+        return bus.call_sync(name, path, interface, method, arguments, None, Gio.DBusCallFlags.NONE, 5000, None)
+
+    def bus_has(self, name):
+        _, GLib = self.gio()
+        return self.call("org.freedesktop.DBus", "/", "org.freedesktop.DBus", "NameHasOwner",
+                         GLib.Variant("(s)", (name,))).unpack()[0]
+
+    def property(self, name, path, interface, key):
+        _, GLib = self.gio()
+        return self.call(name, path, "org.freedesktop.DBus.Properties", "Get",
+                         GLib.Variant("(ss)", (interface, key))).unpack()[0]
+
+    def items(self):
+        """The addresses of the tray's items."""
+        return self.property("org.kde.StatusNotifierWatcher", "/StatusNotifierWatcher",
+                             "org.kde.StatusNotifierWatcher", "RegisteredStatusNotifierItems")
+
+    # The program
+
+    def start(self, program, moment=None, zone="UTC", environment=None, fresh=True, tray=True):
+        """Starts the program at a moment ("2009-12-20 12:00:00", read in `zone`), by default with the preferences
+        of a first start."""
+        if fresh:
+            for folder in ("config/lumivane", "config/autostart"):
+                shutil.rmtree(os.path.join(self.home, folder), ignore_errors=True)
+        variables = dict(os.environ, **(environment or {}))
+        # As an installed program is: its desktop entry finds it.
+        variables["PATH"] = os.path.dirname(os.path.abspath(program)) + ":" + os.environ["PATH"]
+        if zone:
+            variables["TZ"] = zone
+        if moment:
+            variables.update(LD_PRELOAD=FAKETIME, FAKETIME="@" + moment, FAKETIME_DONT_FAKE_MONOTONIC="1")
+        with open(os.path.join(self.home, "log"), "wb") as log:
+            self.program = subprocess.Popen([program], env=variables, stdout=log, stderr=log)
+        if tray:
+            wait_for("the tray item", lambda: len(self.items()) == 1)
+        return self.program
+
+    def logged(self):
+        return pathlib.Path(self.home, "log").read_text(errors="replace")
+
+    def stop(self):
+        """Ends the program; its exit status."""
+        if not self.program:
+            return None
+        if self.program.poll() is None:
+            self.program.terminate()
+        try:
+            status = self.program.wait(10)
+        except subprocess.TimeoutExpired:
+            self.program.kill()
+            status = self.program.wait()
+        self.program = None
+        return status
+
+    def close(self):
+        self.stop()
+        for child in reversed(self.children):
+            child.send_signal(signal.SIGTERM)
+        for child in self.children:
+            try:
+                child.wait(5)
+            except subprocess.TimeoutExpired:
+                child.kill()
+        shutil.rmtree(self.home, ignore_errors=True)
+
+    # A person's hands
+
+    def xdotool(self, *arguments):
+        subprocess.run(["xdotool", *map(str, arguments)], check=True, stdout=subprocess.DEVNULL)
+
+    def click(self, x, y, button=1):
+        self.xdotool("mousemove", int(x), int(y), "click", button)
+
+    def key(self, *keys):
+        self.xdotool("key", *keys)
+
+    def type(self, text):
+        self.xdotool("type", "--delay", "20", text)
+
+    def screenshot(self, path):
+        subprocess.run(["import", "-window", "root", path], check=True)
+
+    # What a screen reader hears
+
+    def atspi(self):
+        import gi
+        gi.require_version("Atspi", "2.0")
+        from gi.repository import Atspi
+        if not hasattr(self, "_atspi"):
+            Atspi.init()
+            Atspi.set_timeout(4000, 4000)
+            self._atspi = Atspi
+        return Atspi
+
+    def application(self, name):
+        desktop = self.atspi().get_desktop(0)
+        for index in range(desktop.get_child_count()):
+            child = desktop.get_child_at_index(index)
+            if child and child.get_name() == name:
+                return child
+        return None
+
+    def walk(self, node):
+        if node is None:
+            return
+        yield node
+        for index in range(node.get_child_count()):
+            yield from self.walk(node.get_child_at_index(index))
+
+    def extents(self, node):
+        Atspi = self.atspi()
+        return Atspi.Component.get_extents(node, Atspi.CoordType.SCREEN)
+
+    def icon(self):
+        """The icon's rectangle on the screen: the tray is a process of its own inside the panel, whose place the panel
+        tells, and there is one icon in it."""
+        def find():
+            for node in self.walk(self.application("xfce4-panel")):
+                if node.get_role_name() == "filler":
+                    rectangle = self.extents(node)
+                    if rectangle.width >= 20:
+                        return rectangle
+            return None
+        return wait_for("the icon in the panel", find)
+
+    def click_icon(self, button=1):
+        icon = self.icon()
+        self.click(icon.x + icon.width // 2, icon.y + icon.height // 2, button)
+
+    def window(self, name="Lumivane"):
+        """The program's window of that title, or nothing while there is none on the screen."""
+        application = self.application("Lumivane")
+        for index in range(application.get_child_count() if application else 0):
+            child = application.get_child_at_index(index)
+            if child and child.get_name() == name and self.shows(child):
+                return child
+        return None
+
+    def shows(self, node):
+        return node.get_state_set().contains(self.atspi().StateType.SHOWING)
+
+    def open_panel(self):
+        """Clicks the icon and waits for the panel."""
+        self.click_icon()
+        return wait_for("the panel", self.window)
+
+    def find(self, name, root=None):
+        """The control of that accessible name."""
+        for node in self.walk(root or self.window()):
+            if node.get_name() == name:
+                return node
+        raise AssertionError("no control " + name)
+
+    def click_control(self, name, root=None):
+        box = self.extents(self.find(name, root))
+        self.click(box.x + box.width // 2, box.y + box.height // 2)
+
+    def lines(self):
+        """The texts that the panel shows, from top to bottom."""
+        return [node.get_name() for node in self.walk(self.window())
+                if node.get_role_name() == "label" and node.get_name() and self.shows(node)]
+
+    def line(self, start):
+        """The panel's line that starts so."""
+        return next((line for line in self.lines() if line.startswith(start)), None)
+
+    def picture(self, path):
+        """The Moon's picture in the panel as an image file."""
+        image = next(node for node in self.walk(self.window()) if node.get_role_name() == "image")
+        box = self.extents(image)
+        side = min(box.width, box.height)
+        x = box.x + (box.width - side) // 2
+        subprocess.run(["import", "-window", "root", "-crop",
+                        "%dx%d+%d+%d" % (side, side, x, box.y), "+repage", path], check=True)

@@ -1,0 +1,310 @@
+// SPDX-License-Identifier: MIT
+#include "platform/update/SUUpdater.h"
+
+#include "platform/foundation/NSBundle.h"
+#include "platform/foundation/NSUserDefaults.h"
+#include "platform/update/SUUpdateAlert.h"
+#include "tests/TestMain.h"
+#include "tests/platform/update/FeedServer.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QProgressDialog>
+#include <QPushButton>
+
+namespace {
+
+const SUUpdaterTiming kAtOnce{.firstCheck = std::chrono::milliseconds(0),
+                              .limits = {.time = std::chrono::seconds(5), .bytes = 1 << 16}};
+
+NSUserDefaults* defaults() {
+    return NSUserDefaults::standardUserDefaults();
+}
+
+QByteArray runningBuild() {
+    return NSBundle::mainBundle().infoString(QStringLiteral("CFBundleVersion")).toUtf8();
+}
+
+QList<SUUpdateAlert*> alerts() {
+    QList<SUUpdateAlert*> found;
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (auto* alert = qobject_cast<SUUpdateAlert*>(window); alert && alert->isVisible())
+            found.append(alert);
+    }
+    return found;
+}
+
+/// The one alert that comes up; null when none does.
+SUUpdateAlert* alert() {
+    waitFor([] { return !alerts().isEmpty(); });
+    EXPECT_EQ(alerts().size(), 1);
+    return alerts().value(0);
+}
+
+QString textOf(const SUUpdateAlert* shown, const char* name) {
+    const auto* label = shown ? shown->findChild<QLabel*>(QLatin1String(name)) : nullptr;
+    return label ? label->text() : QStringLiteral("(none)");
+}
+
+/// A text in the shape that the dialogs give it, for the running program.
+QString running(const char* format) {
+    const NSBundle& bundle = NSBundle::mainBundle();
+    return QString::fromUtf8(format)
+        .replace(QStringLiteral("NAME"), bundle.infoString(QStringLiteral("CFBundleName")))
+        .replace(QStringLiteral("VERSION"), bundle.infoString(QStringLiteral("CFBundleShortVersionString")));
+}
+
+void press(QWidget* target, Qt::Key key) {
+    QKeyEvent down(QEvent::KeyPress, key, Qt::NoModifier);
+    QApplication::sendEvent(target, &down);
+}
+
+class Delegate : public SUUpdaterDelegate {
+public:
+    QList<SUFeedParameter> feedParametersForUpdater(SUUpdater*, bool sendingSystemProfile) override {
+        EXPECT_FALSE(sendingSystemProfile);
+        ++questions;
+        return parameters;
+    }
+    bool openDownloadPage(const QUrl& page) override {
+        opened.append(page);
+        return opens;
+    }
+
+    QList<SUFeedParameter> parameters;
+    int questions = 0;
+    QList<QUrl> opened;
+    bool opens = true;
+};
+
+class SUUpdaterTest : public testing::Test {
+protected:
+    SUUpdaterTest() {
+        for (const QString& key : {SULastCheckTimeKey, SUSkippedVersionKey, SUScheduledCheckIntervalKey})
+            defaults()->removeObjectForKey(key);
+        defaults()->setBool(false, SUEnableAutomaticChecksKey);
+    }
+
+    ~SUUpdaterTest() override {
+        EXPECT_TRUE(waitFor([] { return alerts().isEmpty(); }));
+    }
+
+    void serve(const QByteArray& feed) { server_.put(QStringLiteral("feed"), feed); }
+
+    /// An updater that looks by itself as soon as it may.
+    std::unique_ptr<SUUpdater> automatic(const SUUpdaterTiming& timing = kAtOnce) {
+        defaults()->setBool(true, SUEnableAutomaticChecksKey);
+        auto updater = std::make_unique<SUUpdater>(timing);
+        updater->setDelegate(&delegate_);
+        updater->setFeedURL(server_.url(QStringLiteral("feed")));
+        return updater;
+    }
+
+    std::unique_ptr<SUUpdater> asked() {
+        auto updater = std::make_unique<SUUpdater>(kAtOnce);
+        updater->setDelegate(&delegate_);
+        updater->setFeedURL(server_.url(QStringLiteral("feed")));
+        updater->checkForUpdates(nullptr);
+        return updater;
+    }
+
+    /// Whether one check by itself comes to its end without a word to the user.
+    void expectSilence() {
+        const qsizetype before = server_.requests().size();
+        defaults()->removeObjectForKey(SULastCheckTimeKey);
+        const auto updater = automatic();
+        EXPECT_TRUE(waitFor([&] { return server_.requests().size() > before; }));
+        letPass(150);
+        EXPECT_TRUE(alerts().isEmpty());
+    }
+
+    FeedServer server_;
+    Delegate delegate_;
+};
+
+} // namespace
+
+TEST_F(SUUpdaterTest, OffersANewerVersion) {
+    serve(
+        feedWith(runningBuild() + ".1", "9 %1 &lt;b>", "https://www.example/get", "<script>notes</script>"));
+    const auto updater = asked();
+    SUUpdateAlert* offer = alert();
+    ASSERT_TRUE(offer);
+    EXPECT_EQ(textOf(offer, "headline"), running("A new version of NAME is available!"));
+    EXPECT_EQ(textOf(offer, "sentence"), running("NAME 9 %1 <b> is now available (you have VERSION)."));
+    for (const QLabel* label : offer->findChildren<QLabel*>())
+        EXPECT_TRUE(label->textFormat() == Qt::PlainText || label->text().isEmpty());
+    auto* notes = offer->findChild<QPlainTextEdit*>();
+    ASSERT_TRUE(notes);
+    EXPECT_EQ(notes->toPlainText(), u"<script>notes</script>");
+    EXPECT_TRUE(notes->isReadOnly());
+    EXPECT_FALSE(offer->isModal());
+
+    press(notes, Qt::Key_Return);
+    EXPECT_EQ(delegate_.opened, QList{QUrl(QStringLiteral("https://www.example/get"))});
+    EXPECT_EQ(delegate_.questions, 1);
+}
+
+TEST_F(SUUpdaterTest, TellsTheAskerWhenThereIsNothingNewer) {
+    for (const QByteArray& build : {runningBuild(), runningBuild() + ".0", QByteArray("0.99")}) {
+        serve(feedWith(build, "9"));
+        const auto updater = asked();
+        SUUpdateAlert* answer = alert();
+        EXPECT_EQ(textOf(answer, "headline"), u"You're up to date!");
+        EXPECT_EQ(textOf(answer, "sentence"),
+                  running("NAME VERSION is currently the newest version available."));
+        press(answer, Qt::Key_Escape);
+    }
+    expectSilence();
+}
+
+TEST_F(SUUpdaterTest, TellsOnlyTheAskerOfAFailure) {
+    const CaughtLog log;
+    serve("<rss><channel>");
+    {
+        const auto updater = asked();
+        SUUpdateAlert* answer = alert();
+        EXPECT_EQ(textOf(answer, "headline"), u"Update Error!");
+        EXPECT_TRUE(textOf(answer, "sentence").contains(u"understood"));
+        press(answer, Qt::Key_Return);
+    }
+    expectSilence();
+    EXPECT_EQ(log.lines().filter(QStringLiteral("The check for updates failed (line 1:")).size(), 2);
+
+    SUUpdater updater(kAtOnce);
+    for (const char* address : {"", "http://localhost/feed", "https:///feed"}) {
+        defaults()->setBool(true, SUEnableAutomaticChecksKey);
+        updater.setFeedURL(QUrl(QLatin1String(address)));
+        letPass(20);
+        EXPECT_TRUE(alerts().isEmpty()) << address;
+        updater.checkForUpdates(nullptr);
+        EXPECT_TRUE(textOf(alert(), "sentence").contains(u"where to look")) << address;
+        press(alert(), Qt::Key_Escape);
+    }
+}
+
+TEST_F(SUUpdaterTest, SkipsOrRemindsAsTold) {
+    const auto offered = [&](const char* button) {
+        defaults()->removeObjectForKey(SULastCheckTimeKey);
+        const auto updater = automatic();
+        SUUpdateAlert* offer = alert();
+        if (auto* pressed = offer ? offer->findChild<QPushButton*>(QLatin1String(button)) : nullptr)
+            pressed->click();
+        return offer != nullptr;
+    };
+    serve(feedWith(runningBuild() + ".1", "9.1"));
+    EXPECT_TRUE(offered("remindLater"));
+    EXPECT_TRUE(offered("skip"));
+    EXPECT_EQ(defaults()->stringForKey(SUSkippedVersionKey), QString::fromUtf8(runningBuild() + ".1"));
+    expectSilence();
+    {
+        const auto updater = asked();
+        EXPECT_TRUE(textOf(alert(), "headline").contains(u"available"))
+            << "who asks hears of a skipped one too";
+        press(alert(), Qt::Key_Escape);
+    }
+    serve(feedWith(runningBuild() + ".2", "9.2"));
+    EXPECT_TRUE(offered("remindLater"));
+    EXPECT_TRUE(delegate_.opened.isEmpty());
+}
+
+TEST_F(SUUpdaterTest, LeadsToWebPagesOnly) {
+    serve(feedWith(runningBuild() + ".1", "9", "javascript:alert(1)"));
+    {
+        const auto updater = asked();
+        SUUpdateAlert* offer = alert();
+        ASSERT_TRUE(offer);
+        EXPECT_FALSE(offer->findChild<QPushButton*>(QStringLiteral("learnMore")));
+        press(offer, Qt::Key_Return);
+        EXPECT_TRUE(delegate_.opened.isEmpty());
+    }
+    serve(feedWith(runningBuild() + ".1", "9"));
+    delegate_.opens = false;
+    const auto updater = asked();
+    press(alert(), Qt::Key_Return);
+    EXPECT_TRUE(textOf(alert(), "sentence").contains(u"https://www.example/get"));
+    press(alert(), Qt::Key_Escape);
+}
+
+TEST_F(SUUpdaterTest, ChecksByItselfOncePerInterval) {
+    serve(feedWith("0", "0"));
+    const auto checks = [&](const auto& updater) {
+        const qsizetype before = server_.requests().size();
+        waitFor([&] { return server_.requests().size() > before; }, 250);
+        EXPECT_TRUE(updater);
+        return server_.requests().size() - before;
+    };
+    const auto lastCheck = [](const QDateTime& when) {
+        defaults()->setObject(when.toUTC().toString(Qt::ISODate), SULastCheckTimeKey);
+    };
+    const QDateTime now = QDateTime::currentDateTimeUtc();
+    EXPECT_EQ(checks(automatic()), 1) << "never before";
+    const QString last = defaults()->stringForKey(SULastCheckTimeKey);
+    EXPECT_LE(now.secsTo(QDateTime::fromString(last, Qt::ISODate)), 60);
+    EXPECT_EQ(checks(automatic()), 0) << "just before the restart; an interval of 0 counts as an hour";
+
+    lastCheck(now.addSecs(-3700));
+    defaults()->setInteger(7200, SUScheduledCheckIntervalKey);
+    EXPECT_EQ(checks(automatic()), 0);
+    defaults()->setInteger(60, SUScheduledCheckIntervalKey);
+    EXPECT_EQ(checks(automatic()), 1);
+    lastCheck(now.addDays(400));
+    EXPECT_EQ(checks(automatic()), 1) << "a last check in the future is none";
+    lastCheck(now.addDays(-400));
+    EXPECT_EQ(checks(automatic({.firstCheck = std::chrono::minutes(5)})), 0) << "not so soon after the start";
+
+    // Waits are cut into pieces; the switch and the interval count as soon as they change.
+    lastCheck(now);
+    defaults()->setInteger(604800, SUScheduledCheckIntervalKey);
+    SUUpdaterTiming timing = kAtOnce;
+    timing.longestWait = std::chrono::milliseconds(30);
+    timing.shortestInterval = std::chrono::milliseconds(0);
+    const auto updater = automatic(timing);
+    EXPECT_EQ(checks(updater), 0);
+    defaults()->setBool(false, SUEnableAutomaticChecksKey);
+    lastCheck(now.addDays(-8));
+    EXPECT_EQ(checks(updater), 0);
+    defaults()->setBool(true, SUEnableAutomaticChecksKey);
+    EXPECT_EQ(checks(updater), 1);
+}
+
+TEST_F(SUUpdaterTest, KeepsToOneCheckAndOneDialog) {
+    serve(feedWith(runningBuild() + ".1", "9"));
+    delegate_.parameters = {{QStringLiteral("a b"), QStringLiteral("c&d=ä")}};
+    const auto updater = automatic();
+    ASSERT_TRUE(waitFor([&] { return delegate_.questions == 1; }));
+    updater->checkForUpdates(nullptr);
+    updater->checkForUpdates(nullptr);
+    SUUpdateAlert* offer = alert();
+    updater->checkForUpdates(nullptr);
+    letPass(100);
+    EXPECT_EQ(alert(), offer);
+    EXPECT_EQ(server_.requests(), QStringList{QStringLiteral("trusted /feed?a%20b=c%26d%3D%C3%A4")});
+    press(offer, Qt::Key_Escape);
+}
+
+TEST_F(SUUpdaterTest, LetsTheAskerGiveUpWaiting) {
+    serve(feedWith("0", "0"));
+    SUUpdater updater(kAtOnce);
+    updater.setFeedURL(server_.url(QStringLiteral("silent")));
+    updater.checkForUpdates(nullptr);
+    const auto progress = [] {
+        QProgressDialog* shown = nullptr;
+        for (QWidget* window : QApplication::topLevelWidgets()) {
+            if (auto* dialog = qobject_cast<QProgressDialog*>(window); dialog && dialog->isVisible())
+                shown = dialog;
+        }
+        return shown;
+    };
+    ASSERT_TRUE(waitFor([&] { return progress() != nullptr; }));
+    progress()->findChild<QPushButton*>()->click();
+    EXPECT_TRUE(waitFor([&] { return !progress(); }));
+    EXPECT_TRUE(alerts().isEmpty());
+
+    updater.setFeedURL(server_.url(QStringLiteral("feed")));
+    updater.checkForUpdates(nullptr);
+    EXPECT_EQ(textOf(alert(), "headline"), u"You're up to date!");
+    press(alert(), Qt::Key_Return);
+}

@@ -1,0 +1,121 @@
+#!/usr/bin/python3
+# SPDX-License-Identifier: MIT
+"""Serves a folder as an update feed's server would, well or badly. Makes its certificates in the folder, prints
+the ports as one line of JSON, then a line for every request, and ends with its standard input."""
+import http.server
+import json
+import os
+import ssl
+import subprocess
+import sys
+import threading
+import urllib.parse
+
+
+def openssl(*arguments):
+    subprocess.run(["openssl", *arguments], check=True, stderr=subprocess.DEVNULL)
+
+
+def make_certificate(name, host, signed):
+    openssl("req", "-x509", "-newkey", "ec", "-pkeyopt", "ec_paramgen_curve:P-256", "-nodes", "-days", "2",
+            "-keyout", name + ".key", "-out", name + ".pem", "-subj", "/CN=" + name,
+            *(["-addext", "subjectAltName=DNS:" + host] if host else []),
+            *(["-CA", "ca.pem", "-CAkey", "ca.key"] if signed else []))
+
+
+class Handler(http.server.BaseHTTPRequestHandler):
+    def do_GET(self):
+        print("%s %s" % (self.server.kind, self.path), flush=True)
+        path, _, query = self.path.partition("?")
+        action = getattr(self, "serve_" + path[1:].replace("-", "_"), None)
+        try:
+            action(urllib.parse.unquote(query)) if action else self.serve_file(path)
+        except OSError:
+            self.close_connection = True
+
+    def serve_file(self, path):
+        if not os.path.exists("." + path):
+            return self.answer(404, [])
+        with open("." + path, "rb") as feed:
+            self.answer(200, [("Set-Cookie", "seen=1")], feed.read())
+
+    def answer(self, status, headers, body=b""):
+        self.send_response(status)
+        for name, value in headers:
+            self.send_header(name, value)
+        self.send_header("Content-Length", str(len(body)))
+        self.end_headers()
+        self.wfile.write(body)
+
+    def serve_redirect(self, to):
+        self.answer(302, [("Location", to)])
+
+    def serve_redirect_endless(self, to):
+        self.send_response(302)
+        self.send_header("Location", to)
+        self.end_headers()
+        self.pour(b"x" * 65536)
+
+    def serve_loop(self, _):
+        self.answer(302, [("Location", "/loop")])
+
+    def serve_unavailable(self, _):
+        self.answer(503, [], b"<rss/>")
+
+    def serve_silent(self, _):
+        self.rfile.read(1)
+
+    def serve_endless(self, _):
+        self.send_response(200)
+        self.end_headers()
+        self.pour(b"<rss>" * 13107)
+
+    def serve_endless_header(self, _):
+        self.wfile.write(b"HTTP/1.1 200 OK\r\nX: ")
+        self.pour(b"x" * 65536)
+
+    def pour(self, piece):
+        for _ in range(1 << 17):
+            self.wfile.write(piece)
+
+    def log_message(self, *_):
+        pass
+
+
+class Server(http.server.ThreadingHTTPServer):
+    daemon_threads = True
+    kind = "plain"
+    context = None
+
+    def __init__(self, kind, certificate=None):
+        super().__init__(("127.0.0.1", 0), Handler)
+        self.kind = kind
+        if certificate:
+            self.context = ssl.SSLContext(ssl.PROTOCOL_TLS_SERVER)
+            self.context.load_cert_chain(certificate + ".pem", certificate + ".key")
+
+    def get_request(self):
+        connection, address = super().get_request()
+        connection.settimeout(20)
+        if self.context:
+            connection = self.context.wrap_socket(connection, server_side=True, do_handshake_on_connect=False)
+        return connection, address
+
+    def handle_error(self, request, address):
+        pass
+
+
+def main():
+    os.chdir(sys.argv[1])
+    make_certificate("ca", None, False)
+    make_certificate("trusted", "localhost", True)
+    make_certificate("elsewhere", "elsewhere.example", True)
+    make_certificate("selfsigned", "localhost", False)
+    servers = [Server("plain")] + [Server(name, name) for name in ("trusted", "elsewhere", "selfsigned")]
+    print(json.dumps({server.kind: server.server_address[1] for server in servers}), flush=True)
+    for server in servers:
+        threading.Thread(target=server.serve_forever, daemon=True).start()
+    sys.stdin.read()
+
+
+main()

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#include "shared/utilities/classes/ExtraStringUtilities.h"
+
+#include "platform/foundation/NSException.h"
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+
+using namespace ExtraStringUtilities;
+
+namespace {
+
+TEST(ExtraStringUtilitiesTest, FirstAndLastCharacters) {
+    EXPECT_EQ(firstCharacter(QStringLiteral("Moon")), QChar(u'M'));
+    EXPECT_EQ(lastCharacter(QStringLiteral("Moon")), QChar(u'n'));
+    EXPECT_THROW(firstCharacter(QString()), std::out_of_range);
+    EXPECT_THROW(lastCharacter(QString()), std::out_of_range);
+}
+
+TEST(ExtraStringUtilitiesTest, PascalStrings) {
+    const Str255 text = pascalStringWithEncoding(QStringLiteral("Mönd•"), 0);
+    EXPECT_EQ(text[0], 5);
+    EXPECT_EQ(text[2], 0x9A);
+    EXPECT_EQ(text[5], 0xA5);
+    EXPECT_EQ(stringWithPascalString(text), QStringLiteral("Mönd•"));
+
+    EXPECT_EQ(pascalStringWithEncoding(QString(200, QLatin1Char('x')), 0)[0], 127);
+    EXPECT_EQ(pascalStringWithEncoding(QString(127, QLatin1Char('x')), 0)[0], 127);
+    EXPECT_EQ(pascalStringWithEncoding(QString(127, QLatin1Char('x')) + QChar(0x6708), 0)[0], 127);
+    EXPECT_THROW(pascalStringWithEncoding(QString(100, QChar(0x6708)), kCFStringEncodingUTF8),
+                 NSInternalInconsistencyException);
+
+    EXPECT_TRUE(stringWithPascalString({}).isNull());
+    const std::uint8_t boastful[]{200, 'a', 'b'};
+    EXPECT_EQ(stringWithPascalString(boastful), QStringLiteral("ab"));
+}
+
+TEST(ExtraStringUtilitiesTest, AFailedConversionTellsItsPlace) {
+    try {
+        pascalStringWithEncoding(QStringLiteral("\u6708"), 0);
+        ADD_FAILURE() << "nothing raised";
+    } catch (const NSException& failure) {
+        EXPECT_EQ(failure.name(), QStringLiteral("NSInternalInconsistencyException"));
+        const QString reason = failure.reason();
+        EXPECT_TRUE(reason.startsWith(QStringLiteral("Unable to CFStringGetPascalString., method: ")));
+        EXPECT_TRUE(reason.contains(QStringLiteral("pascalStringWithEncoding")));
+        EXPECT_TRUE(reason.contains(QStringLiteral(", file: ExtraStringUtilities, line: ")));
+    }
+}
+
+} // namespace

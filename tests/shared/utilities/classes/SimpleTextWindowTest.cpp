@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#include "shared/utilities/classes/SimpleTextWindow.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QPushButton>
+#include <QTextBrowser>
+#include <QTextDocument>
+
+#include <gtest/gtest.h>
+
+TEST(SimpleTextWindowTest, ShowsACopyOfTheTextAndClosesWithAnyKeyForIt) {
+    QWidget panel;
+    for (const int key : {int(Qt::Key_Return), int(Qt::Key_Escape)}) {
+        auto text = std::make_unique<QTextDocument>();
+        text->setHtml(QStringLiteral("<b>Lumivane</b> <a href=\"https://www.corvanta.example\">page</a>"));
+        const QString html = text->toHtml();
+        const QPointer<SimpleTextWindow> dialog =
+            SimpleTextWindow::simpleTextWindowFromAttributedString(*text, &panel);
+        text.reset();
+        ASSERT_NE(dialog, nullptr);
+        auto* view = dialog->window()->findChild<QTextBrowser*>();
+        EXPECT_EQ(view->document()->toHtml(), html);
+        QKeyEvent down(QEvent::KeyPress, key, Qt::NoModifier);
+        QApplication::sendEvent(dialog->window()->focusWidget(), &down);
+        EXPECT_FALSE(dialog->window()->isVisible());
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        EXPECT_EQ(dialog, nullptr);
+    }
+}
+
+TEST(SimpleTextWindowTest, AShortTextIsSeenWholeAndALongOneFitsTheScreen) {
+    QWidget panel;
+    QTextDocument text;
+    QString lines = QStringLiteral("line\n").repeated(12);
+    text.setPlainText(lines);
+    const QPointer<SimpleTextWindow> shortText =
+        SimpleTextWindow::simpleTextWindowFromAttributedString(text, &panel);
+    const auto* view = shortText->window()->findChild<QTextBrowser*>();
+    EXPECT_GE(view->viewport()->height(), view->document()->size().height());
+    text.setPlainText(lines.repeated(100));
+    const QPointer<SimpleTextWindow> longText =
+        SimpleTextWindow::simpleTextWindowFromAttributedString(text, &panel);
+    EXPECT_LE(longText->window()->height(), longText->window()->screen()->availableSize().height());
+    shortText->okPushed(nullptr);
+    longText->okPushed(nullptr);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
