@@ -3,6 +3,7 @@
 
 #include "app/engine/CMoon.h"
 #include "app/engine/CMoonHelper.h"
+#include "platform/carbon/AppleEvents.h"
 #include "platform/carbon/Processes.h"
 #include "platform/foundation/NSBundle.h"
 #include "platform/foundation/NSUserDefaults.h"
@@ -73,7 +74,8 @@ void ApplicationDelegate::installNewVersion() {
     const QString bundlePath = NSBundle::mainBundle().bundlePath();
     if (!ExtraStringUtilities::contains(bundlePath, QStringLiteral("Applications")))
         warnOutsideApplicationsOnce(bundlePath);
-    ensureSetToStartup();
+    if (!AEIsQuitting()) // a newer copy, which starts at login now, may have ended the warning
+        ensureSetToStartup();
 }
 
 void ApplicationDelegate::warnOutsideApplicationsOnce(const QString& bundlePath) {
