@@ -3,6 +3,8 @@
 
 #include "app/engine/CMoon.h"
 #include "app/engine/CMoonHelper.h"
+#include "platform/carbon/AppleEvents.h"
+#include "platform/carbon/AppleEvents.h"
 #include "platform/carbon/Processes.h"
 #include "platform/foundation/NSBundle.h"
 #include "platform/foundation/NSUserDefaults.h"
@@ -63,6 +65,10 @@ void ApplicationDelegate::setupDefaultPreferences() {
 }
 
 void ApplicationDelegate::awakeFromNib() {
+    AEInstallEventHandler(kCoreEventClass, kAEReopenApplication, [this](const AppleEvent&, AppleEvent*) {
+        Q_EMIT raiseRequested();
+        return noErr;
+    });
     initCheckForUpdateURL();
     installNewVersion();
 }
@@ -73,7 +79,8 @@ void ApplicationDelegate::installNewVersion() {
     const QString bundlePath = NSBundle::mainBundle().bundlePath();
     if (!ExtraStringUtilities::contains(bundlePath, QStringLiteral("Applications")))
         warnOutsideApplicationsOnce(bundlePath);
-    ensureSetToStartup();
+    if (!AEIsQuitting()) // a newer copy, which starts at login now, may have ended the warning
+        ensureSetToStartup();
 }
 
 void ApplicationDelegate::warnOutsideApplicationsOnce(const QString& bundlePath) {

@@ -6,8 +6,10 @@
 #include "platform/carbon/Processes.h"
 
 #include <QCoreApplication>
+#include <QTimer>
 
 #include <algorithm>
+#include <chrono>
 #include <cstring>
 #include <map>
 
@@ -64,9 +66,17 @@ OSStatus sendInside(const AppleEvent& event, AppleEvent* reply, const Receiver& 
     return noErr;
 }
 
+bool isQuitting = false;
+
 OSStatus quitThisProcess() {
-    // Later, so that who asked still gets its answer.
-    QMetaObject::invokeMethod(QCoreApplication::instance(), &QCoreApplication::quit, Qt::QueuedConnection);
+    if (isQuitting)
+        return noErr;
+    isQuitting = true;
+    // Later, so that who asked still gets its answer; and again, since a dialog at the start has an event
+    // loop before the application has its own.
+    auto* timer = new QTimer(QCoreApplication::instance());
+    timer->callOnTimeout([] { QCoreApplication::exit(0); });
+    timer->start(std::chrono::milliseconds(10));
     return noErr;
 }
 
@@ -152,4 +162,8 @@ OSStatus AEProcessAppleEvent(const AppleEvent& event, AppleEvent* reply) {
     if (key == EventKey{kCoreEventClass, kAEReopenApplication})
         return bringThisProcessToFront();
     return errAEEventNotHandled;
+}
+
+bool AEIsQuitting() {
+    return isQuitting;
 }

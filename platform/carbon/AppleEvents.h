@@ -22,6 +22,7 @@ constexpr AEEventID kAEActivateAction = fourCharCode("actn");
 constexpr AEEventID kAEAnswer = fourCharCode("ansr");
 
 constexpr AEKeyword keyAddressAttr = fourCharCode("addr");
+constexpr AEKeyword keyOriginalAddressAttr = fourCharCode("from"); ///< of an event from another copy
 constexpr AEKeyword keyEventClassAttr = fourCharCode("evcl");
 constexpr AEKeyword keyEventIDAttr = fourCharCode("evid");
 constexpr AEKeyword keyReturnIDAttr = fourCharCode("rtid");
@@ -62,8 +63,13 @@ OSStatus AESendMessage(const AppleEvent& event, AppleEvent* reply, AESendMode se
 using AEEventHandler = std::function<OSStatus(const AppleEvent& event, AppleEvent* reply)>;
 
 /// Makes `handler` answer these events when they reach this process, in place of an earlier one and of the
-/// defaults: 'quit' ends the application, 'rapp' brings it to the front. An empty handler brings those back.
+/// defaults: 'quit' ends the application, whatever dialog is open, and 'rapp' brings it to the front. An
+/// empty handler brings those back.
 void AEInstallEventHandler(AEEventClass eventClass, AEEventID eventID, AEEventHandler handler);
 
 /// Hands an event that reached this process to its handler; errAEEventNotHandled when it has none.
 OSStatus AEProcessAppleEvent(const AppleEvent& event, AppleEvent* reply);
+
+/// Whether a quit event is ending the application. What follows a dialog that it closed is better left
+/// undone.
+bool AEIsQuitting();

@@ -95,11 +95,18 @@ std::optional<DesktopEntry> autostartOfEntry(const QString& path) {
     return entry;
 }
 
+/// Where a percent sign is a program's own, GLib and systemd read it right in an argument alone. An argument
+/// with an equals sign would be a variable to `env`.
+QString execOf(const QString& path) {
+    const bool asArgument = path.contains(u'%') && !path.contains(u'=');
+    return (asArgument ? QStringLiteral("env ") : QString()) + quotedForExec(path);
+}
+
 DesktopEntry autostartOfProgram(const QString& path) {
     DesktopEntry entry;
     entry.setText("Type", QStringLiteral("Application"));
     entry.setText("Name", QFileInfo(path).fileName());
-    entry.setText("Exec", quotedForExec(path));
+    entry.setText("Exec", execOf(path));
     entry.setText("TryExec", path);
     return entry;
 }

@@ -151,7 +151,7 @@ private:
             return message.createErrorReply(QDBusError::InvalidArgs, QStringLiteral("no event"));
         }
         AppleEvent reply = coreEvent(kAEAnswer);
-        const bool refused = isQuit(event) && isNewest_ && comesFromCopy(message.service());
+        const bool refused = isNewest_ && isQuit(event) && comesFromCopy(event);
         const OSStatus err = refused ? errAEEventNotHandled : AEProcessAppleEvent(event, &reply);
         if (err != noErr)
             AEPutParamPtr(&reply, keyErrorNumber, typeSInt32, &err, sizeof err);
@@ -184,12 +184,9 @@ private:
     }
 
     /// Two copies that start at the same moment tell each other to quit; the newest stays.
-    bool comesFromCopy(const QString& sender) const {
-        const QDBusReply<uint> pid = bus_.interface()->servicePid(sender);
-        const auto copies = ProcessService::announcedCopies();
-        return pid.isValid() && std::ranges::any_of(copies, [&](const auto& copy) {
-                   return copy.pid == pid.value() && copy.bundleIdentifier == identifier_;
-               });
+    static bool comesFromCopy(const AppleEvent& event) {
+        AEDesc sender;
+        return AEGetAttributeDesc(event, keyOriginalAddressAttr, typeWildCard, &sender) == noErr;
     }
 
     void nameTaken(const QString& name) { isNewest_ = isNewest_ || name == identifier_; }
@@ -206,6 +203,24 @@ private:
     QString identifier_;
     bool isNewest_ = false;
 };
+
+/// What this process has announced itself as.
+QString& ownIdentifier() {
+    static QString identifier;
+    return identifier;
+}
+
+/// The event as it goes to another copy of this program, or as it is to another program.
+AppleEvent signedFor(const QString& bundleIdentifier, const AppleEvent& event) {
+    AppleEvent result = event;
+    ProcessSerialNumber self;
+    if (bundleIdentifier != ownIdentifier() || GetCurrentProcess(&self) != noErr)
+        return result;
+    AEDesc sender;
+    AECreateDesc(typeProcessSerialNumber, &self, sizeof self, &sender);
+    AEPutAttributeDesc(&result, keyOriginalAddressAttr, sender);
+    return result;
+}
 
 OSStatus statusOf(const QDBusMessage& answer) {
     switch (QDBusError(answer).type()) {
@@ -250,6 +265,7 @@ bool ProcessService::announce(const QString& bundleIdentifier) {
         return false;
     }
     auto* service = new Service(bus, bundleIdentifier); // the application's
+    ownIdentifier() = bundleIdentifier;
     if (service->takeNames())
         return true;
     NSLog(QStringLiteral("Other copies can't find this one (%1).").arg(bus.lastError().message()));
@@ -265,7 +281,7 @@ OSStatus ProcessService::send(const AppleEvent& event, const ProcessSerialNumber
     if (copy == copies.end())
         return procNotFound;
     QByteArray bytes;
-    if (const OSStatus err = AEFlattenDesc(event, &bytes); err != noErr)
+    if (const OSStatus err = AEFlattenDesc(signedFor(copy->bundleIdentifier, event), &bytes); err != noErr)
         return err;
     auto message = QDBusMessage::createMethodCall(
         serviceName(copy->bundleIdentifier, copy->pid), objectPath(copy->bundleIdentifier),

@@ -172,8 +172,9 @@ void DesktopEntry::setText(const char* key, const QString& value) {
 
 void DesktopEntry::copy(const char* key, const DesktopEntry& from) {
     const GText value(g_key_file_get_value(from.file_.get(), kGroup, key, nullptr));
+    // A line's blank end, a carriage return too, is none of the value.
     if (value)
-        g_key_file_set_value(file_.get(), kGroup, key, value.get());
+        g_key_file_set_value(file_.get(), kGroup, key, QByteArray(value.get()).trimmed().constData());
 }
 
 QByteArray DesktopEntry::toBytes() const {
