@@ -10,6 +10,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <complex>
+#include <cstdlib>
 #include <limits>
 #include <span>
 
@@ -89,6 +91,25 @@ constexpr std::array<AdditionalTerm, 14> kAdditionalTerms{{
     {0.000035, 239.56, 25.513099},
     {0.000023, 331.55, 3.592518},
 }};
+
+/// The directions of an angle's small multiples, so that sums of such cost no further trigonometry.
+template <std::size_t Count>
+class Multiples {
+public:
+    explicit Multiples(double angle) {
+        const std::complex<double> once = std::polar(1.0, angle);
+        directions_[0] = 1.0;
+        for (std::size_t i = 1; i < Count; ++i)
+            directions_[i] = directions_[i - 1] * once;
+    }
+    std::complex<double> operator[](int multiple) const {
+        const std::complex<double>& direction = directions_[static_cast<std::size_t>(std::abs(multiple))];
+        return multiple < 0 ? std::conj(direction) : direction;
+    }
+
+private:
+    std::array<std::complex<double>, Count> directions_;
+};
 
 double radians(double degrees) {
     return std::fmod(degrees, 360.0) * kDegrees;
@@ -281,19 +302,39 @@ int CMoon::GetDescriptorIndex(std::uint32_t t) const {
     return kFullDescriptor;
 }
 
+const tLunation* CMoon::LunationOfNextFullMoon(std::uint32_t t) const {
+    const auto next = std::ranges::upper_bound(lunations, t, {}, &tLunation::fullMoon);
+    return next != lunations.end() ? &*next : nullptr;
+}
+
 int CMoon::GetAlmanacIndex(std::uint32_t t) const {
+    const tLunation* next = LunationOfNextFullMoon(t);
+    if (!FindLunationForGMTSeconds(t) || !next)
+        return kFirstAlmanacName;
+    const std::uint32_t count = next->lunationIndex - FirstLunationOfYear(t)->lunationIndex;
+    return count > kLastAlmanacName ? kFirstAlmanacName : kFirstAlmanacName + static_cast<int>(count);
+}
+
+const tLunation* CMoon::FirstLunationOfYear(std::uint32_t t) const {
+    // Clocks anywhere differ from GMT's by less than this, which seldom makes a difference to year or full
+    // moon; the default zone's rules, which cost far more than the rest, are asked only where it can.
+    constexpr std::uint32_t kWidestOffset = 26 * 3600;
+    const auto yearAtGMT = [](std::uint32_t s) {
+        return NSCalendar::components(ExtraDateUtilities::kReferenceInstant + s, 0).year;
+    };
+    if (const int year = yearAtGMT(t - kWidestOffset); year == yearAtGMT(t + kWidestOffset)) {
+        const auto newYear =
+            static_cast<std::uint32_t>(NSCalendar::dateFromComponents({.year = year, .month = 1, .day = 1}) -
+                                       ExtraDateUtilities::kReferenceInstant);
+        const tLunation* lunation = LunationOfNextFullMoon(newYear - kWidestOffset);
+        if (lunation == LunationOfNextFullMoon(newYear + kWidestOffset))
+            return lunation;
+    }
     const int year = ExtraCalendarDateUtilities::calendarDateWithCarbonSeconds1(t).year;
     const std::int64_t newYear =
         NSCalendar::dateFromComponents({.year = year, .month = 1, .day = 1}, NSTimeZone::defaultTimeZone());
-    std::array<std::uint32_t, 5> ofYear{};
-    GetUpcomingQuarters(ExtraDateUtilities::carbonSecondsGMT(QDateTime::fromSecsSinceEpoch(newYear, Qt::UTC)),
-                        ofYear.data());
-    std::array<std::uint32_t, 5> ofMoment{};
-    GetUpcomingQuarters(t, ofMoment.data());
-    if (!FindLunationForGMTSeconds(t) || ofMoment[2] == 0)
-        return kFirstAlmanacName;
-    const auto count = static_cast<std::uint32_t>(GetLunation(ofMoment[2]) - GetLunation(ofYear[2]));
-    return count > kLastAlmanacName ? kFirstAlmanacName : kFirstAlmanacName + static_cast<int>(count);
+    return LunationOfNextFullMoon(
+        ExtraDateUtilities::carbonSecondsGMT(QDateTime::fromSecsSinceEpoch(newYear, Qt::UTC)));
 }
 
 double CMoon::moonphase(double k, int phase) {
@@ -311,10 +352,14 @@ double CMoon::moonphase(double k, int phase) {
 
     double jde = 2451550.09765 + 29.530588853 * k + 0.0001337 * T2 - 0.00000015 * T3 + 0.00000000073 * T4;
     const std::array<double, 3> ePowers{1.0, E, E * E};
+    const Multiples<4> sun(M);
+    const Multiples<5> moon(Mp);
+    const Multiples<3> latitude(F);
     for (const PeriodicTerm& term : termsOfPhase(phase)) {
-        const double argument =
-            term.sunAnomaly * M + term.moonAnomaly * Mp + term.latitude * F + term.node * node;
-        jde += term.coefficient * ePowers[static_cast<std::size_t>(term.ePower)] * std::sin(argument);
+        const std::complex<double> angle =
+            term.node != 0 ? std::polar(1.0, node)
+                           : sun[term.sunAnomaly] * moon[term.moonAnomaly] * latitude[term.latitude];
+        jde += term.coefficient * ePowers[static_cast<std::size_t>(term.ePower)] * angle.imag();
     }
     if (phase == 1 || phase == 3) {
         const double W = 0.00306 - 0.00038 * E * std::cos(M) + 0.00026 * std::cos(Mp) -

@@ -111,6 +111,8 @@ public:
 
 private:
     void Compute();
+    const tLunation* LunationOfNextFullMoon(std::uint32_t t) const;
+    const tLunation* FirstLunationOfYear(std::uint32_t t) const;
 };
 
 /// The one engine of the program; read-only after its `Init` at start-up.

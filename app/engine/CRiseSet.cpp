@@ -23,6 +23,25 @@ constexpr std::array<double, 4> sinh0{0.0, 0.002327103568950269, -0.014543897651
 constexpr std::size_t kBlockBytes = offsetof(tRiseSetCalcParamBlock, year) + sizeof(std::int32_t);
 static_assert(kBlockBytes == 36);
 
+/// An angle by its cosine and sine, so that sums of angles cost no further trigonometry.
+struct Angle {
+    double cosine;
+    double sine;
+
+    explicit Angle(double radians) : cosine(std::cos(radians)), sine(std::sin(radians)) {}
+    Angle(double c, double s) : cosine(c), sine(s) {}
+    friend Angle operator+(const Angle& a, const Angle& b) {
+        return {a.cosine * b.cosine - a.sine * b.sine, a.sine * b.cosine + a.cosine * b.sine};
+    }
+    friend Angle operator-(const Angle& a, const Angle& b) {
+        return {a.cosine * b.cosine + a.sine * b.sine, a.sine * b.cosine - a.cosine * b.sine};
+    }
+};
+
+double sin(const Angle& angle) {
+    return angle.sine;
+}
+
 /// Right ascension in hours and declination in degrees of the direction (x, y, z), given its equatorial
 /// parts.
 void equatorial(double x, double y, double z, double* ra, double* dec) {
@@ -107,22 +126,24 @@ void CRiseSet::MINI_SUN(double t, double* ra, double* dec) {
 }
 
 void CRiseSet::MINI_MOON(double t, double* ra, double* dec) {
-    const double l0 = FRAC(0.606433 + 1336.855225 * t);     // mean longitude, revolutions
-    const double l = P2 * FRAC(0.374897 + 1325.552410 * t); // the Moon's mean anomaly
-    const double ls = P2 * FRAC(0.993133 + 99.997361 * t);  // the Sun's mean anomaly
-    const double d = P2 * FRAC(0.827361 + 1236.853086 * t); // elongation from the Sun
-    const double f = P2 * FRAC(0.259086 + 1342.227825 * t); // distance from the ascending node
+    const double l0 = FRAC(0.606433 + 1336.855225 * t);        // mean longitude, revolutions
+    const Angle l(P2 * FRAC(0.374897 + 1325.552410 * t));      // the Moon's mean anomaly
+    const Angle ls(P2 * FRAC(0.993133 + 99.997361 * t));       // the Sun's mean anomaly
+    const Angle d(P2 * FRAC(0.827361 + 1236.853086 * t));      // elongation from the Sun
+    const double node = P2 * FRAC(0.259086 + 1342.227825 * t); // distance from the ascending node
+    const Angle f(node);
+    const Angle l2 = l + l;
+    const Angle d2 = d + d;
+    const Angle f2 = f + f;
 
-    const double dl = 22640.0 * std::sin(l) - 4586.0 * std::sin(l - 2 * d) + 2370.0 * std::sin(2 * d) +
-                      769.0 * std::sin(2 * l) - 668.0 * std::sin(ls) - 412.0 * std::sin(2 * f) -
-                      212.0 * std::sin(2 * l - 2 * d) - 206.0 * std::sin(l + ls - 2 * d) +
-                      192.0 * std::sin(l + 2 * d) - 165.0 * std::sin(ls - 2 * d) - 125.0 * std::sin(d) -
-                      110.0 * std::sin(l + ls) + 148.0 * std::sin(l - ls) - 55.0 * std::sin(2 * f - 2 * d);
-    const double s = f + (dl + 412.0 * std::sin(2 * f) + 541.0 * std::sin(ls)) / kArc;
-    const double h = f - 2 * d;
-    const double n = -526.0 * std::sin(h) + 44.0 * std::sin(l + h) - 31.0 * std::sin(h - l) -
-                     23.0 * std::sin(ls + h) + 11.0 * std::sin(h - ls) - 25.0 * std::sin(f - 2 * l) +
-                     21.0 * std::sin(f - l);
+    const double dl = 22640.0 * sin(l) - 4586.0 * sin(l - d2) + 2370.0 * sin(d2) + 769.0 * sin(l2) -
+                      668.0 * sin(ls) - 412.0 * sin(f2) - 212.0 * sin(l2 - d2) - 206.0 * sin(l + ls - d2) +
+                      192.0 * sin(l + d2) - 165.0 * sin(ls - d2) - 125.0 * sin(d) - 110.0 * sin(l + ls) +
+                      148.0 * sin(l - ls) - 55.0 * sin(f2 - d2);
+    const double s = node + (dl + 412.0 * sin(f2) + 541.0 * sin(ls)) / kArc;
+    const Angle h = f - d2;
+    const double n = -526.0 * sin(h) + 44.0 * sin(l + h) - 31.0 * sin(h - l) - 23.0 * sin(ls + h) +
+                     11.0 * sin(h - ls) - 25.0 * sin(f - l2) + 21.0 * sin(f - l);
     const double lm = P2 * FRAC(l0 + dl / kArcPerRevolution);
     const double bm = (18520.0 * std::sin(s) + n) / kArc;
 
@@ -165,12 +186,38 @@ void CRiseSet::QUAD(double yMinus, double y0, double yPlus, double* xe, double* 
         *root1 = *root2;
 }
 
-tRiseSetPair CRiseSet::Search(tObject object, const Observer& observer) {
-    const auto altitude = [&](double hour) {
-        return SIN_ALT(object, observer.start, hour, observer.lambda, observer.cphi, observer.sphi) -
-               sinh0[static_cast<std::size_t>(object)];
+/// Sines of one body's altitude at the whole hours of a day, each computed when it is first asked for.
+class CRiseSet::AltitudeSamples {
+public:
+    AltitudeSamples(tObject body, const tRiseSetCalcParamBlock& block)
+        : body_(body), lambda_(-block.longitude), cphi_(CS(block.latitude)), sphi_(SN(block.latitude)),
+          start_(MJD(block.day, block.month, block.year, 0.0) - block.zoneHours / 24.0) {}
+
+    /// `hour` is 0 to 24.
+    double at(int hour) {
+        const auto i = static_cast<std::size_t>(hour);
+        if (!known_[i]) {
+            known_[i] = true;
+            sines_[i] = SIN_ALT(body_, start_, hour, lambda_, cphi_, sphi_);
+        }
+        return sines_[i];
+    }
+
+private:
+    tObject body_;
+    double lambda_;
+    double cphi_;
+    double sphi_;
+    double start_; ///< local midnight as a Modified Julian Date
+    std::array<double, 25> sines_{};
+    std::array<bool, 25> known_{};
+};
+
+tRiseSetPair CRiseSet::Search(tObject object, AltitudeSamples& samples) {
+    const auto altitude = [&](int hour) {
+        return samples.at(hour) - sinh0[static_cast<std::size_t>(object)];
     };
-    double yMinus = altitude(0.0);
+    double yMinus = altitude(0);
     const bool above = yMinus > 0.0;
     bool rise = false;
     bool set = false;
@@ -185,8 +232,8 @@ tRiseSetPair CRiseSet::Search(tObject object, const Observer& observer) {
         set = true;
     };
 
-    for (double hour = 1.0; hour < 25.0 && !(rise && set); hour += 2.0) {
-        const double yPlus = altitude(hour + 1.0);
+    for (int hour = 1; hour < 25 && !(rise && set); hour += 2) {
+        const double yPlus = altitude(hour + 1);
         double xe = 0.0;
         double ye = 0.0;
         double root1 = 0.0;
@@ -227,11 +274,10 @@ void CRiseSet::Calculate(const tRiseSetCalcParamBlock& block) {
     if (BlocksAreEqual(block, cached_))
         return;
     cached_ = block;
-    const Observer observer{.lambda = -block.longitude,
-                            .cphi = CS(block.latitude),
-                            .sphi = SN(block.latitude),
-                            .start = MJD(block.day, block.month, block.year, 0.0) - block.zoneHours / 24.0};
-    moon_ = Search(kRiseSetMoon, observer);
-    sun_ = Search(kRiseSetSun, observer);
-    twilight_ = Search(kRiseSetTwilight, observer);
+    AltitudeSamples moon(kRiseSetMoon, block);
+    moon_ = Search(kRiseSetMoon, moon);
+    // The Sun serves two searches, which differ in the target altitude alone.
+    AltitudeSamples sun(kRiseSetSun, block);
+    sun_ = Search(kRiseSetSun, sun);
+    twilight_ = Search(kRiseSetTwilight, sun);
 }

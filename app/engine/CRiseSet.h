@@ -87,13 +87,8 @@ public:
     static void WHM(double hours, int* hour, int* minute);
 
 private:
-    struct Observer {
-        double lambda; ///< longitude, west positive
-        double cphi;
-        double sphi;
-        double start; ///< local midnight as a Modified Julian Date
-    };
-    static tRiseSetPair Search(tObject object, const Observer& observer);
+    class AltitudeSamples;
+    static tRiseSetPair Search(tObject object, AltitudeSamples& samples);
 
     tRiseSetPair moon_{};
     tRiseSetPair sun_{};

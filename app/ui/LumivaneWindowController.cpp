@@ -162,6 +162,7 @@ void LumivaneWindowController::connectOutlets() {
     outlet("windoidButton_", windoidButton_);
     outlet("hideButton_", hideButton_);
     outlet("placeFromSystemSettings_", placeFromSystemSettings_);
+    outlet("title_", title_);
     outlet("scrollArea_", scrollArea_);
     outlet("contentView_", contentView_);
     if (!error.isEmpty()) {
@@ -176,6 +177,7 @@ void LumivaneWindowController::awakeFromNib() {
     gearButton_->setIcon(ControlIcon::icon(ControlIcon::Symbol::Gear));
     windoidButton_->setIcon(ControlIcon::icon(ControlIcon::Symbol::UtilityWindow));
     hideButton_->setIcon(ControlIcon::icon(ControlIcon::Symbol::Hide));
+    title_->setVisible(!isWindoid()); // a windoid has it in its title bar
     makeMenus();
     prepareTimeZonePopup();
     connect(NSUserDefaults::standardUserDefaults(), &NSUserDefaults::valueChanged, this,

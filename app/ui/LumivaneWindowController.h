@@ -150,6 +150,7 @@ private:
     MouseDownButton* gearButton_ = nullptr;
     QToolButton* windoidButton_ = nullptr;
     QToolButton* hideButton_ = nullptr;
+    QLabel* title_ = nullptr;
     QAction* placeFromSystemSettings_ = nullptr;
     QScrollArea* scrollArea_ = nullptr;
     QWidget* contentView_ = nullptr;

@@ -141,7 +141,7 @@ void LumivaneWindowController::windoid(QObject*) {
 }
 
 void LumivaneWindowController::hideButton(QObject*) {
-    statusItem_->makeAsHiddenMenu();
+    statusItem_->windowWillClose();
 }
 
 void LumivaneWindowController::runAtLogin(QObject*) {

@@ -93,6 +93,84 @@ std::optional<QMetaProperty> doubleValueProperty(const QObject* control) {
     return property.isValid() && property.hasNotifySignal() ? std::optional(property) : std::nullopt;
 }
 
+/// How a control's value and the preference that it is bound to become each other.
+struct Value {
+    std::function<void(NSUserDefaults&, const QString& key)> store;
+    std::function<void(const NSUserDefaults&, const QString& key)> fill;
+};
+
+template <typename Switch>
+std::optional<Value> switchValue(Switch* control) {
+    if (!control->isCheckable())
+        return std::nullopt;
+    return Value{[control](NSUserDefaults& defaults, const QString& key) {
+                     defaults.setBool(control->isChecked(), key);
+                 },
+                 [control](const NSUserDefaults& defaults, const QString& key) {
+                     control->setChecked(defaults.boolForKey(key));
+                 }};
+}
+
+Value choiceValue(QComboBox* box) {
+    return {[box](NSUserDefaults& defaults, const QString& key) {
+                if (const QVariant value = box->currentData(); value.isValid())
+                    defaults.setInteger(value.toInt(), key);
+            },
+            [box](const NSUserDefaults& defaults, const QString& key) {
+                if (const int index = box->findData(defaults.integerForKey(key)); index >= 0)
+                    box->setCurrentIndex(index);
+            }};
+}
+
+Value numberValue(QLineEdit* field) {
+    return {[field](NSUserDefaults& defaults, const QString& key) {
+                if (const auto number = numberOf(field->text()))
+                    defaults.setFloat(*number, key);
+                field->setText(textOf(defaults.floatForKey(key)));
+            },
+            [field](const NSUserDefaults& defaults, const QString& key) {
+                // What is being typed is not overwritten.
+                if (!field->isModified() || !field->hasFocus())
+                    field->setText(textOf(defaults.floatForKey(key)));
+            }};
+}
+
+Value doubleValue(QObject* control, const QMetaProperty& property) {
+    return {[=](NSUserDefaults& defaults, const QString& key) {
+                defaults.setFloat(property.read(control).toFloat(), key);
+            },
+            [=](const NSUserDefaults& defaults, const QString& key) {
+                property.write(control, static_cast<double>(defaults.floatForKey(key)));
+            }};
+}
+
+Value sliderValue(QAbstractSlider* slider) {
+    return {[slider](NSUserDefaults& defaults, const QString& key) {
+                defaults.setFloat(static_cast<float>(slider->value()), key);
+            },
+            [slider](const NSUserDefaults& defaults, const QString& key) {
+                const double value = defaults.floatForKey(key);
+                slider->setValue(static_cast<int>(
+                    std::lround(std::clamp<double>(value, slider->minimum(), slider->maximum()))));
+            }};
+}
+
+std::optional<Value> valueOf(QObject* control) {
+    if (auto* button = qobject_cast<QAbstractButton*>(control))
+        return switchValue(button);
+    if (auto* action = qobject_cast<QAction*>(control))
+        return switchValue(action);
+    if (auto* box = qobject_cast<QComboBox*>(control))
+        return choiceValue(box);
+    if (auto* field = qobject_cast<QLineEdit*>(control))
+        return numberValue(field);
+    if (const auto property = doubleValueProperty(control))
+        return doubleValue(control, *property);
+    if (auto* slider = qobject_cast<QAbstractSlider*>(control))
+        return sliderValue(slider);
+    return std::nullopt;
+}
+
 /// Carries a user's change of one control to its preference and its owner's slot, and a change of the
 /// preference to the control. Child of the control.
 class ControlTie : public QObject {
@@ -111,7 +189,8 @@ public:
     }
 
     bool setBinding(const QString& key) {
-        if (!holdsValue())
+        value_ = valueOf(control_);
+        if (!value_)
             return false;
         key_ = key;
         fill();
@@ -149,8 +228,8 @@ private Q_SLOTS:
     void changed() {
         if (filling_)
             return;
-        if (!key_.isEmpty())
-            store();
+        if (value_)
+            value_->store(*NSUserDefaults::standardUserDefaults(), key_);
         sendAction();
     }
 
@@ -167,7 +246,7 @@ private:
         if (!field->isModified())
             return;
         field->setModified(false);
-        if (!key_.isEmpty() && !numberOf(field->text()))
+        if (value_ && !numberOf(field->text()))
             fill();
         else
             changed();
@@ -178,64 +257,18 @@ private:
             slot_.invoke(owner_, Qt::DirectConnection, Q_ARG(QObject*, control_));
     }
 
-    bool holdsValue() const {
-        if (const auto* button = qobject_cast<QAbstractButton*>(control_))
-            return button->isCheckable();
-        if (const auto* action = qobject_cast<QAction*>(control_))
-            return action->isCheckable();
-        return qobject_cast<QComboBox*>(control_) || qobject_cast<QLineEdit*>(control_) ||
-               qobject_cast<QAbstractSlider*>(control_) || doubleValueProperty(control_);
-    }
-
-    void store() {
-        NSUserDefaults* defaults = NSUserDefaults::standardUserDefaults();
-        if (const auto* button = qobject_cast<QAbstractButton*>(control_)) {
-            defaults->setBool(button->isChecked(), key_);
-        } else if (const auto* action = qobject_cast<QAction*>(control_)) {
-            defaults->setBool(action->isChecked(), key_);
-        } else if (const auto* box = qobject_cast<QComboBox*>(control_)) {
-            if (const QVariant value = box->currentData(); value.isValid())
-                defaults->setInteger(value.toInt(), key_);
-        } else if (const auto* field = qobject_cast<QLineEdit*>(control_)) {
-            if (const auto number = numberOf(field->text()))
-                defaults->setFloat(*number, key_);
-            fill();
-        } else if (const auto property = doubleValueProperty(control_)) {
-            defaults->setFloat(property->read(control_).toFloat(), key_);
-        } else if (const auto* slider = qobject_cast<QAbstractSlider*>(control_)) {
-            defaults->setFloat(static_cast<float>(slider->value()), key_);
-        }
-    }
-
     void fill() {
-        if (key_.isEmpty())
+        if (!value_)
             return;
-        const NSUserDefaults* defaults = NSUserDefaults::standardUserDefaults();
         const bool before = std::exchange(filling_, true);
-        if (auto* button = qobject_cast<QAbstractButton*>(control_)) {
-            button->setChecked(defaults->boolForKey(key_));
-        } else if (auto* action = qobject_cast<QAction*>(control_)) {
-            action->setChecked(defaults->boolForKey(key_));
-        } else if (auto* box = qobject_cast<QComboBox*>(control_)) {
-            if (const int index = box->findData(defaults->integerForKey(key_)); index >= 0)
-                box->setCurrentIndex(index);
-        } else if (auto* field = qobject_cast<QLineEdit*>(control_)) {
-            // What is being typed is not overwritten.
-            if (!field->isModified() || !field->hasFocus())
-                field->setText(textOf(defaults->floatForKey(key_)));
-        } else if (const auto property = doubleValueProperty(control_)) {
-            property->write(control_, static_cast<double>(defaults->floatForKey(key_)));
-        } else if (auto* slider = qobject_cast<QAbstractSlider*>(control_)) {
-            slider->setValue(static_cast<int>(std::lround(
-                std::clamp(static_cast<double>(defaults->floatForKey(key_)),
-                           static_cast<double>(slider->minimum()), static_cast<double>(slider->maximum())))));
-        }
+        value_->fill(*NSUserDefaults::standardUserDefaults(), key_);
         filling_ = before;
     }
 
     QObject* control_;
     QPointer<QObject> owner_;
     QMetaMethod slot_;
+    std::optional<Value> value_;
     QString key_;
     bool filling_ = false;
 };
@@ -246,14 +279,14 @@ QString tie(QObject* control, QObject* owner) {
     const QString binding = control->property(kBinding).toString();
     if (action.isEmpty() && binding.isEmpty())
         return {};
-    auto* tie = new ControlTie(control, owner);
+    auto* controlTie = new ControlTie(control, owner);
     const QString name = QStringLiteral("%1 \"%2\"")
                              .arg(QLatin1String(control->metaObject()->className()), control->objectName());
-    if (!action.isEmpty() && !tie->setAction(action))
+    if (!action.isEmpty() && !controlTie->setAction(action))
         return QStringLiteral("%1 sends \"%2\", which its owner has no slot for.").arg(name, action);
-    if (!binding.isEmpty() && !tie->setBinding(binding))
+    if (!binding.isEmpty() && !controlTie->setBinding(binding))
         return QStringLiteral("%1 has no value that \"%2\" could be bound to.").arg(name, binding);
-    return tie->watch() ? QString() : QStringLiteral("%1 reports no changes.").arg(name);
+    return controlTie->watch() ? QString() : QStringLiteral("%1 reports no changes.").arg(name);
 }
 
 } // namespace

@@ -1,55 +1,191 @@
 // SPDX-License-Identifier: MIT
 #include "platform/appkit/NSStatusItem.h"
 
-#include <QCursor>
+#include "platform/appkit/StatusNotifierItem.h"
+#include "platform/appkit/XEmbedTray.h"
+#include "platform/foundation/NSLog.h"
+
+#include <QDBusConnection>
 #include <QIcon>
 #include <QMenu>
 #include <QPixmap>
+#include <QPointer>
 #include <QSystemTrayIcon>
+#include <QTimer>
+
+#include <chrono>
+
+namespace {
+
+/// A panel with both kinds of tray has brought up the second by then.
+constexpr std::chrono::milliseconds kStartPatience{1000};
+/// A panel that crashed or was restarted is back by then.
+constexpr std::chrono::milliseconds kRestartPatience{3000};
+
+} // namespace
 
 class NSStatusItem::Private {
 public:
-    QSystemTrayIcon icon;
-    std::optional<QPoint> lastClick;
+    Private(NSStatusItem* item, const QString& identifier, const QString& title, const QDBusConnection& bus);
+
+    void hostChanged();
+    void xembedTrayChanged();
+    void waitForHost();
+    void settleWithoutHost();
+    void dock();
+    void setShown(bool now);
+    QIcon icon() const;
+
+    NSStatusItem* const q;
+    StatusNotifierItem notifier;
+    /// Watched from the first time on that no host is there.
+    std::unique_ptr<XEmbedTray> xembedTray;
+    /// Lives only where there is an XEmbed tray and no host, so that Qt finds no host for an item of its own.
+    std::unique_ptr<QSystemTrayIcon> xembedIcon;
+    /// Runs while a host may yet come.
+    QTimer patience;
+    QList<QImage> images;
+    QString toolTip;
+    QPointer<QMenu> menu;
+    std::optional<bool> shown;
 };
 
-NSStatusItem::NSStatusItem(const QString&, const QString& title, QObject* parent)
-    : QObject(parent), d(std::make_unique<Private>()) {
-    d->icon.setToolTip(title);
-    connect(&d->icon, &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
-        if (reason != QSystemTrayIcon::Trigger)
-            return;
-        d->lastClick = QCursor::pos();
-        Q_EMIT clicked();
-    });
+NSStatusItem::Private::Private(NSStatusItem* item, const QString& identifier, const QString& title,
+                               const QDBusConnection& bus)
+    : q(item), notifier(identifier, title, bus), toolTip(title) {
+    patience.setSingleShot(true);
+    connect(&patience, &QTimer::timeout, q, [this] { settleWithoutHost(); });
+    connect(&notifier, &StatusNotifierItem::stateChanged, q, [this] { hostChanged(); });
+    // Queued, so that the host has its answer before the click is worked on.
+    connect(&notifier, &StatusNotifierItem::clicked, q, &NSStatusItem::clicked, Qt::QueuedConnection);
+}
+
+void NSStatusItem::Private::hostChanged() {
+    switch (notifier.state()) {
+    case StatusNotifierItem::State::Unknown:
+        break;
+    case StatusNotifierItem::State::NoHost:
+        if (!xembedTray) {
+            xembedTray = std::make_unique<XEmbedTray>();
+            connect(xembedTray.get(), &XEmbedTray::changed, q, [this] { xembedTrayChanged(); });
+        }
+        // At the start, an XEmbed tray that is up already has no host to wait for.
+        if (!shown && xembedTray->isThere())
+            settleWithoutHost();
+        else
+            waitForHost();
+        break;
+    case StatusNotifierItem::State::Registering:
+        patience.stop();
+        xembedIcon.reset();
+        break;
+    case StatusNotifierItem::State::Shown:
+        setShown(true);
+        break;
+    }
+}
+
+void NSStatusItem::Private::xembedTrayChanged() {
+    if (notifier.state() != StatusNotifierItem::State::NoHost)
+        return;
+    xembedIcon.reset();
+    waitForHost();
+}
+
+void NSStatusItem::Private::waitForHost() {
+    patience.start(shown.value_or(false) ? kRestartPatience : kStartPatience);
+}
+
+void NSStatusItem::Private::settleWithoutHost() {
+    if (xembedTray->isThere() && !xembedIcon)
+        dock();
+    setShown(xembedIcon && xembedIcon->geometry().isValid());
+}
+
+void NSStatusItem::Private::dock() {
+    xembedIcon = std::make_unique<QSystemTrayIcon>();
+    connect(xembedIcon.get(), &QSystemTrayIcon::activated, q,
+            [this](QSystemTrayIcon::ActivationReason reason) {
+                // A double click's second half is a click as well. Queued, because what a click opens may run
+                // an event loop of its own, in which this icon may have to go.
+                if (reason == QSystemTrayIcon::Trigger || reason == QSystemTrayIcon::DoubleClick)
+                    QMetaObject::invokeMethod(q, &NSStatusItem::clicked, Qt::QueuedConnection);
+            });
+    xembedIcon->setIcon(icon());
+    xembedIcon->setToolTip(toolTip);
+    xembedIcon->setContextMenu(menu);
+    xembedIcon->show();
+    if (!xembedIcon->geometry().isValid())
+        NSLog(QStringLiteral("The XEmbed tray does not take the icon."));
+}
+
+void NSStatusItem::Private::setShown(bool now) {
+    if (shown == now)
+        return;
+    shown = now;
+    Q_EMIT q->shownChanged(now);
+}
+
+QIcon NSStatusItem::Private::icon() const {
+    QIcon icon;
+    for (const QImage& image : images)
+        icon.addPixmap(QPixmap::fromImage(image));
+    return icon;
+}
+
+NSStatusItem::NSStatusItem(const QString& identifier, const QString& title, QObject* parent)
+    : NSStatusItem(identifier, title, QDBusConnection::sessionBus(), parent) {
+}
+
+NSStatusItem::NSStatusItem(const QString& identifier, const QString& title, const QDBusConnection& bus,
+                           QObject* parent)
+    : QObject(parent), d(std::make_unique<Private>(this, identifier, title, bus)) {
 }
 
 NSStatusItem::~NSStatusItem() = default;
 
 void NSStatusItem::setImages(const QList<QImage>& images) {
-    QIcon icon;
-    for (const QImage& image : images)
-        icon.addPixmap(QPixmap::fromImage(image));
-    d->icon.setIcon(icon);
-    d->icon.show();
+    QList<QImage> drawable = images;
+    drawable.removeIf([](const QImage& image) { return image.isNull(); });
+    if (drawable.isEmpty()) {
+        NSLog(QStringLiteral("No picture for the tray icon; it stays as it is."));
+        return;
+    }
+    if (drawable == d->images)
+        return;
+    const bool first = d->images.isEmpty();
+    d->images = drawable;
+    d->notifier.setImages(drawable);
+    if (d->xembedIcon)
+        d->xembedIcon->setIcon(d->icon());
+    if (first)
+        d->notifier.start();
 }
 
 void NSStatusItem::setToolTip(const QString& text) {
-    d->icon.setToolTip(text);
+    if (text == d->toolTip)
+        return;
+    d->toolTip = text;
+    d->notifier.setToolTip(text);
+    if (d->xembedIcon)
+        d->xembedIcon->setToolTip(text);
 }
 
 void NSStatusItem::setMenu(QMenu* menu) {
-    d->icon.setContextMenu(menu);
+    d->menu = menu;
+    d->notifier.setMenu(menu);
+    if (d->xembedIcon)
+        d->xembedIcon->setContextMenu(menu);
 }
 
 bool NSStatusItem::isShown() const {
-    return QSystemTrayIcon::isSystemTrayAvailable();
+    return d->shown.value_or(false);
 }
 
 std::optional<QRect> NSStatusItem::iconGeometry() const {
-    if (const QRect known = d->icon.geometry(); known.isValid())
-        return known;
-    if (d->lastClick)
-        return QRect(*d->lastClick, QSize(1, 1));
+    if (d->xembedIcon)
+        return d->xembedIcon->geometry();
+    if (const auto click = d->notifier.lastClick())
+        return QRect(*click, QSize(1, 1));
     return std::nullopt;
 }

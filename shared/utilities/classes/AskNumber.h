@@ -6,10 +6,8 @@
 #include <functional>
 #include <optional>
 
-class QDialogButtonBox;
 class QLabel;
 class QLineEdit;
-class QPushButton;
 
 /// Asks for a number. What was typed is handed over as text; whether it is a number is the caller's to judge.
 class AskNumber : public DialogOrSheetController {

@@ -76,8 +76,6 @@ void DialogOrSheetController::placeOver(const QWidget* window) {
 }
 
 bool DialogOrSheetController::eventFilter(QObject* watched, QEvent* event) {
-    if (watched != window_)
-        return QObject::eventFilter(watched, event);
     const bool escape =
         event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->matches(QKeySequence::Cancel);
     if (escape || event->type() == QEvent::Close) {

@@ -36,6 +36,8 @@ bool SimpleTextWindow::awakeFromNib(QString* error) {
 
 /// A short text is seen whole; a long one scrolls.
 void SimpleTextWindow::fitToText() {
+    constexpr double kMargin = 12;
+    text_->document()->setDocumentMargin(kMargin);
     const std::unique_ptr<QTextDocument> trial(text_->document()->clone());
     trial->setTextWidth(text_->minimumWidth() - 2 * text_->frameWidth());
     const int highest = QGuiApplication::primaryScreen()->availableSize().height() * 2 / 3;
