@@ -4,6 +4,7 @@
 #include "app/engine/CMoon.h"
 #include "app/engine/CMoonHelper.h"
 #include "platform/carbon/AppleEvents.h"
+#include "platform/carbon/AppleEvents.h"
 #include "platform/carbon/Processes.h"
 #include "platform/foundation/NSBundle.h"
 #include "platform/foundation/NSLog.h"
@@ -80,6 +81,10 @@ void ApplicationDelegate::setupDefaultPreferences() {
 }
 
 void ApplicationDelegate::awakeFromNib() {
+    AEInstallEventHandler(kCoreEventClass, kAEReopenApplication, [this](const AppleEvent&, AppleEvent*) {
+        Q_EMIT raiseRequested();
+        return noErr;
+    });
     initCheckForUpdateURL();
     answerDesktop();
     installNewVersion();
