@@ -51,6 +51,8 @@ std::unique_ptr<QTextDocument> plainCredits() {
 } // namespace
 
 void LumivaneWindowController::copyMoonToClipboard(QObject*) {
+    if (!window_->isVisible())
+        showNow(nullptr); // asked for from the icon's menu, where nothing but the present is seen
     const QDateTime date = datePicker_->dateValue();
     QString text;
     const auto append = [&text](const QString& line) { ExtraMutableStringUtilities::appendLine(text, line); };
@@ -88,5 +90,6 @@ void LumivaneWindowController::showAbout(QObject*) {
                                 bundle.infoString(QStringLiteral("CFBundleShortVersionString")));
     replaceAllAttributedStrings(*text, QStringLiteral("[BUILD]"),
                                 bundle.infoString(QStringLiteral("CFBundleVersion")));
-    SimpleTextWindow::simpleTextWindowFromAttributedString(*text, window_->isVisible() ? window_.get() : nullptr);
+    SimpleTextWindow::simpleTextWindowFromAttributedString(*text,
+                                                           window_->isVisible() ? window_.get() : nullptr);
 }
