@@ -66,6 +66,8 @@ std::unique_ptr<QTextDocument> plainCredits() {
 } // namespace
 
 void LumivaneWindowController::copyMoonToClipboard(QObject*) {
+    if (!window_->isVisible())
+        showNow(nullptr); // asked for from the icon's menu, where nothing but the present is seen
     const QDateTime date = datePicker_->dateValue();
     QString text;
     const auto append = [&text](const QString& line) { ExtraMutableStringUtilities::appendLine(text, line); };
