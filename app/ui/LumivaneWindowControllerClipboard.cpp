@@ -29,6 +29,21 @@ QString filled(const char* format, const QString& value) {
     return slot < 0 ? text : text.replace(slot, 2, value);
 }
 
+/// What the credits say in words; names and titles stay as they are.
+constexpr const char* kCreditsTexts[]{
+    QT_TRANSLATE_NOOP("Lumivane", "Version [VERSION] ([BUILD])"),
+    QT_TRANSLATE_NOOP("Lumivane",
+                      "The Moon in your tray: its phase, its age, and when it rises and sets where you are."),
+    QT_TRANSLATE_NOOP("Lumivane", "Phases of the Moon"),
+    QT_TRANSLATE_NOOP("Lumivane", "Rising and setting"),
+    QT_TRANSLATE_NOOP("Lumivane", "Oliver Montenbruck and Thomas Pfleger,"),
+    QT_TRANSLATE_NOOP("Lumivane", "Map of the Moon"),
+    QT_TRANSLATE_NOOP("Lumivane", "NASA and the USGS Astrogeology programme,"),
+    QT_TRANSLATE_NOOP("Lumivane", "in the public domain"),
+    QT_TRANSLATE_NOOP("Lumivane", "Lumivane on the web"),
+    QT_TRANSLATE_NOOP("Lumivane", "MIT licence, © The Lumivane developers"),
+};
+
 /// The credits resource; null when it is missing or unreadable.
 std::unique_ptr<QTextDocument> credits() {
     QString error;
@@ -86,6 +101,8 @@ void LumivaneWindowController::showAbout(QObject*) {
     std::unique_ptr<QTextDocument> text = credits();
     if (!text)
         text = plainCredits();
+    for (const char* words : kCreditsTexts)
+        replaceAllAttributedStrings(*text, QString::fromUtf8(words), bundle.localizedString(words));
     replaceAllAttributedStrings(*text, QStringLiteral("[VERSION]"),
                                 bundle.infoString(QStringLiteral("CFBundleShortVersionString")));
     replaceAllAttributedStrings(*text, QStringLiteral("[BUILD]"),
