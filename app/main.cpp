@@ -5,12 +5,14 @@
 #include "platform/foundation/NSBundle.h"
 
 #include <QApplication>
+#include <QIcon>
 
 int main(int argc, char** argv) {
     WindowServer::choosePlatform();
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Lumivane"));
     QApplication::setDesktopFileName(NSBundle::mainBundle().bundleIdentifier());
+    QApplication::setWindowIcon(QIcon::fromTheme(NSBundle::mainBundle().bundleIdentifier()));
     QApplication::setQuitOnLastWindowClosed(false);
     NSBundle::mainBundle().installTranslations();
 

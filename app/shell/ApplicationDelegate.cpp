@@ -4,8 +4,10 @@
 #include "app/engine/CMoon.h"
 #include "app/engine/CMoonHelper.h"
 #include "platform/carbon/AppleEvents.h"
+#include "platform/carbon/AppleEvents.h"
 #include "platform/carbon/Processes.h"
 #include "platform/foundation/NSBundle.h"
+#include "platform/foundation/NSLog.h"
 #include "platform/foundation/NSUserDefaults.h"
 #include "shared/utilities/classes/ExtraApplicationUtilities.h"
 #include "shared/utilities/classes/ExtraNumberUtilities.h"
@@ -20,6 +22,19 @@ ApplicationDelegate* theDelegate = nullptr;
 
 constexpr int kSevenDays = 604800;
 
+/// The name in a desktop entry's action.
+QString actionName(const AppleEvent& event) {
+    AEDesc name;
+    return AEGetParamDesc(event, keyDirectObject, typeUTF8Text, &name) == noErr ? QString::fromUtf8(name.data) : QString();
+}
+
+OSStatus quit(AppleEvent* reply) {
+    AppleEvent event;
+    const OSStatus err =
+        AECreateAppleEvent(kCoreEventClass, kAEQuitApplication, {}, kAutoGenerateReturnID, kAnyTransactionID, &event);
+    return err == noErr ? AEProcessAppleEvent(event, reply) : err;
+}
+
 } // namespace
 
 ApplicationDelegate::ApplicationDelegate() {
@@ -31,6 +46,8 @@ ApplicationDelegate::ApplicationDelegate() {
 }
 
 ApplicationDelegate::~ApplicationDelegate() {
+    AEInstallEventHandler(kCoreEventClass, kAEReopenApplication, {});
+    AEInstallEventHandler(kCoreEventClass, kAEActivateAction, {});
     theDelegate = nullptr;
 }
 
@@ -64,8 +81,30 @@ void ApplicationDelegate::setupDefaultPreferences() {
 }
 
 void ApplicationDelegate::awakeFromNib() {
+    AEInstallEventHandler(kCoreEventClass, kAEReopenApplication, [this](const AppleEvent&, AppleEvent*) {
+        Q_EMIT raiseRequested();
+        return noErr;
+    });
     initCheckForUpdateURL();
+    answerDesktop();
     installNewVersion();
+}
+
+void ApplicationDelegate::answerDesktop() {
+    const auto show = [this](const AppleEvent&, AppleEvent*) {
+        Q_EMIT raiseRequested();
+        return noErr;
+    };
+    AEInstallEventHandler(kCoreEventClass, kAEReopenApplication, show);
+    AEInstallEventHandler(kCoreEventClass, kAEActivateAction, [show](const AppleEvent& event, AppleEvent* reply) {
+        const QString action = actionName(event);
+        if (action == u"show")
+            return show(event, reply);
+        if (action == u"quit")
+            return quit(reply);
+        NSLog(QStringLiteral("The desktop asks for an action that is none: %1.").arg(action));
+        return errAEEventNotHandled;
+    });
 }
 
 void ApplicationDelegate::installNewVersion() {

@@ -23,7 +23,7 @@ public:
     /// The one delegate; null before it is made.
     static ApplicationDelegate* sharedDelegate();
 
-    /// The second half of the start: the update feed's address, then `installNewVersion`.
+    /// The second half of the start: the update feed's address, the desktop's requests, then `installNewVersion`.
     void awakeFromNib();
 
     /// Registers the defaults of time zone, place, brightness and update checks, and forbids the update checker to
@@ -71,6 +71,7 @@ Q_SIGNALS:
 
 private:
     void setupDefaults();
+    void answerDesktop();
     void quitOlderCopies();
     void warnOutsideApplicationsOnce(const QString& bundlePath);
     void ensureSetToStartup();

@@ -37,7 +37,8 @@ void LumivaneStatusItem::awakeFromNib() {
     statusItem_ = std::make_unique<NSStatusItem>(QStringLiteral("lumivane"), QStringLiteral("Lumivane"));
     menu_ = std::make_unique<QMenu>();
     statusItem_->setMenu(menu_.get());
-    connect(statusItem_.get(), &NSStatusItem::clicked, this, [this] { statusItemClicked(statusItem_.get()); });
+    connect(statusItem_.get(), &NSStatusItem::clicked, this,
+            [this] { statusItemClicked(statusItem_.get()); });
     connect(statusItem_.get(), &NSStatusItem::shownChanged, this, &LumivaneStatusItem::trayChanged);
     makeAsHiddenMenu();
     clock_.setTimerType(Qt::VeryCoarseTimer);
@@ -75,7 +76,8 @@ void LumivaneStatusItem::updateToolTip() {
         return;
     }
     QString phase = CMoonHelper::stringForInformation(1);
-    replaceAll(phase, QStringLiteral("^1"), CMoonHelper::stringForMoonName(gMoon.GetDescriptorIndex(present)));
+    replaceAll(phase, QStringLiteral("^1"),
+               CMoonHelper::stringForMoonName(gMoon.GetDescriptorIndex(present)));
     QString lit = CMoonHelper::stringForInformation(2);
     replaceAll(lit, QStringLiteral("^1"),
                ExtraStringUtilities::stringWithFloat(static_cast<float>(gMoon.IlluminationDisplay(present))));
@@ -105,8 +107,8 @@ void LumivaneStatusItem::replaceController(std::uint32_t styleMask) {
         keepUnderIcon(lumivaneWindow_->window());
 
     menu_->clear();
-    menu_->addAction(NSBundle::mainBundle().localizedString(QT_TRANSLATE_NOOP("Lumivane", "Show Lumivane")), this,
-                     &LumivaneStatusItem::showPanel);
+    menu_->addAction(NSBundle::mainBundle().localizedString(QT_TRANSLATE_NOOP("Lumivane", "Show Lumivane")),
+                     this, &LumivaneStatusItem::showPanel);
     menu_->addSeparator();
     menu_->addActions(lumivaneWindow_->gearMenu()->actions());
     connect(menu_.get(), &QMenu::aboutToShow, lumivaneWindow_->gearMenu(), &QMenu::aboutToShow);
@@ -132,7 +134,7 @@ void LumivaneStatusItem::showPanel() {
 }
 
 void LumivaneStatusItem::windowWillClose() {
-    if (statusItem_->isShown())
+    if (isInTray())
         makeAsHiddenMenu();
     else
         QApplication::quit(); // without a tray nothing would bring the window back
@@ -144,6 +146,10 @@ void LumivaneStatusItem::trayChanged(bool shown) {
         makeAsHiddenMenu();
     else if (!shown && !windoid)
         makeAsWindoid();
+}
+
+bool LumivaneStatusItem::isInTray() const {
+    return statusItem_->isShown();
 }
 
 std::optional<QRect> LumivaneStatusItem::globalFrame() const {

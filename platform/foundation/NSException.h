@@ -5,7 +5,6 @@
 #include <QString>
 
 #include <exception>
-#include <source_location>
 
 /// Stands for Foundation's exceptions: a name that tells the kind and a reason in words. Backed by a C++
 /// exception, whose `what()` is the reason in UTF-8.
@@ -27,5 +26,6 @@ private:
 class NSInternalInconsistencyException : public NSException {
 public:
     explicit NSInternalInconsistencyException(
-        const QString& message, const std::source_location& place = std::source_location::current());
+        const QString& message, const char* method = __builtin_FUNCTION(),
+        const char* file = __builtin_FILE(), int line = __builtin_LINE());
 };

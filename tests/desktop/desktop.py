@@ -164,6 +164,11 @@ class Desktop:
         return self.property("org.kde.StatusNotifierWatcher", "/StatusNotifierWatcher",
                              "org.kde.StatusNotifierWatcher", "RegisteredStatusNotifierItems")
 
+    def owner_pid(self, name):
+        _, GLib = self.gio()
+        return self.call("org.freedesktop.DBus", "/", "org.freedesktop.DBus", "GetConnectionUnixProcessID",
+                         GLib.Variant("(s)", (name,))).unpack()[0]
+
     # The program
 
     def start(self, program, moment=None, zone="UTC", environment=None, fresh=True, tray=True):
@@ -262,6 +267,7 @@ class Desktop:
 
     def application(self, name):
         desktop = self.atspi().get_desktop(0)
+        desktop.clear_cache()
         for index in range(desktop.get_child_count()):
             child = desktop.get_child_at_index(index)
             if child and child.get_name() == name:
@@ -271,6 +277,7 @@ class Desktop:
     def walk(self, node):
         if node is None:
             return
+        node.clear_cache()  # what was told once may be old: nobody here listens to changes
         yield node
         for index in range(node.get_child_count()):
             yield from self.walk(node.get_child_at_index(index))
@@ -280,14 +287,13 @@ class Desktop:
         return Atspi.Component.get_extents(node, Atspi.CoordType.SCREEN)
 
     def icon(self):
-        """The icon's rectangle on the screen: the tray is a process of its own inside the panel, whose place the panel
-        tells, and there is one icon in it."""
+        """The icon's rectangle on the screen: the tray is a window of its own inside the panel, with one icon in it."""
         def find():
-            for node in self.walk(self.application("xfce4-panel")):
-                if node.get_role_name() == "filler":
-                    rectangle = self.extents(node)
-                    if rectangle.width >= 20:
-                        return rectangle
+            tree = subprocess.run(["xwininfo", "-root", "-tree"], capture_output=True, text=True).stdout
+            places = re.findall(r'"Wrapper-2.0"\)\s+(\d+)x(\d+)\S+\s+\+(-?\d+)\+(-?\d+)', tree)
+            for width, height, x, y in (map(int, place) for place in places):
+                if width >= 20:
+                    return types.SimpleNamespace(x=x, y=y, width=width, height=height)
             return None
         return wait_for("the icon in the panel", find)
 
@@ -308,9 +314,16 @@ class Desktop:
         return node.get_state_set().contains(self.atspi().StateType.SHOWING)
 
     def open_panel(self):
-        """Clicks the icon and waits for the panel."""
-        self.click_icon()
-        return wait_for("the panel", self.window)
+        """Clicks the icon and waits for the panel. The tray may show a copy's icon a moment longer than the copy lives:
+        a click that it swallowed is made again."""
+        for seconds in (4, 4, 15):
+            self.click_icon()
+            try:
+                return wait_for("the panel", self.window, seconds)
+            except AssertionError:
+                if seconds == 15:
+                    raise
+        return None
 
     def find(self, name, root=None):
         """The control of that accessible name."""
@@ -340,3 +353,26 @@ class Desktop:
         x = box.x + (box.width - side) // 2
         subprocess.run(["import", "-window", "root", "-crop",
                         "%dx%d+%d+%d" % (side, side, x, box.y), "+repage", path], check=True)
+
+    def shown_text(self, text):
+        """Whether any window of the program shows this text."""
+        return any(node.get_name() == text and self.shows(node) for node in self.walk(self.application("Lumivane")))
+
+    def commands(self):
+        """The gear menu's commands as the tray's menu has them, each with its check mark (None without one)."""
+        _, GLib = self.gio()
+        address = self.items()[0]
+        name, _, path = address.partition("/")
+        menu = self.property(name, "/" + path, "org.kde.StatusNotifierItem", "Menu")
+        self.call(name, menu, "com.canonical.dbusmenu", "AboutToShow", GLib.Variant("(i)", (0,)))
+        layout = self.call(name, menu, "com.canonical.dbusmenu", "GetLayout",
+                           GLib.Variant("(iias)", (0, -1, []))).unpack()[1]
+        items = [item[1] for item in layout[2] if item[1].get("type") != "separator"]
+        return {item["label"].replace("_", ""): item.get("toggle-state") for item in items
+                if item["label"] != "Show Lumivane"}
+
+    def choose(self, command):
+        """Chooses a command from the gear menu, by the keyboard: menus are not among what a screen reader walks."""
+        self.click_control("Menu")
+        time.sleep(0.3)
+        self.key(*["Down"] * (list(self.commands()).index(command) + 1), "Return")
