@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "app/shell/ApplicationDelegate.h"
 #include "app/ui/LumivaneStatusItem.h"
+#include "platform/appkit/WindowServer.h"
 #include "platform/foundation/NSBundle.h"
 
 #include <QApplication>
 
 int main(int argc, char** argv) {
+    WindowServer::choosePlatform();
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Lumivane"));
     QApplication::setDesktopFileName(NSBundle::mainBundle().bundleIdentifier());

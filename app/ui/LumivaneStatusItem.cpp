@@ -5,7 +5,9 @@
 #include "app/engine/CMoonHelper.h"
 #include "app/ui/LumivaneWindow.h"
 #include "app/ui/LumivaneWindowController.h"
+#include "platform/appkit/NSScreen.h"
 #include "platform/appkit/NSStatusItem.h"
+#include "platform/appkit/SwayPlacement.h"
 #include "platform/carbon/GetMBarHeight.h"
 #include "platform/foundation/NSBundle.h"
 #include "platform/foundation/NSDate.h"
@@ -111,6 +113,8 @@ void LumivaneStatusItem::loadController(std::uint32_t styleMask) {
     LumivaneWindow::setNextStyleMask(styleMask);
     lumivaneWindow_ = LumivaneWindowController::lumivaneWindowController();
     lumivaneWindow_->setStatusItem(this);
+    if (!lumivaneWindow_->isWindoid())
+        keepUnderIcon(lumivaneWindow_->window());
 
     menu_->clear();
     menu_->addAction(NSBundle::mainBundle().localizedString(QT_TRANSLATE_NOOP("Lumivane", "Show Lumivane")),
@@ -193,11 +197,32 @@ QRect LumivaneStatusItem::panelFrame(const std::optional<QRect>& icon, const QSi
     return frame;
 }
 
+void LumivaneStatusItem::keepUnderIcon(LumivaneWindow* window) {
+    if (SwayPlacement::isThere()) {
+        swayPlacement_ = new SwayPlacement(window, [window](const SwayPlacement::Surroundings& at) {
+            window->setAvailableHeight(static_cast<int>(at.available.height() / at.scale));
+            // A pointer that is on no bar did not click the icon.
+            const auto icon = at.available.contains(at.pointer)
+                                  ? std::nullopt
+                                  : std::optional(QRect(at.pointer, QSize(1, 1)));
+            return panelFrame(icon, window->size() * at.scale, at.screen, at.available).topLeft();
+        });
+    }
+    connect(window, &LumivaneWindow::heightChanged, this, [this, window] {
+        if (window->isVisible())
+            placeUnderIcon();
+    });
+}
+
 void LumivaneStatusItem::placeUnderIcon() {
+    if (swayPlacement_) {
+        swayPlacement_->place();
+        return;
+    }
     const std::optional<QRect> icon = globalFrame();
     const QScreen* screen = icon ? QGuiApplication::screenAt(icon->center()) : nullptr;
     if (!screen)
         screen = QGuiApplication::primaryScreen();
     LumivaneWindow* window = lumivaneWindow_->window();
-    window->setGeometry(panelFrame(icon, window->size(), screen->geometry(), screen->availableGeometry()));
+    window->setGeometry(panelFrame(icon, window->size(), screen->geometry(), NSScreen::visibleFrame(screen)));
 }

@@ -3,14 +3,17 @@
 
 #include <QImage>
 #include <QObject>
+#include <QPointer>
 #include <QTimer>
 
 #include <memory>
 #include <optional>
 
+class LumivaneWindow;
 class LumivaneWindowController;
 class NSStatusItem;
 class QMenu;
+class SwayPlacement;
 
 /// Owns the program's one tray item, whose icon is the Moon, and the panel that a click on it opens. The
 /// panel is shown as a drop-down under the icon (hidden-menu mode) or as a small utility window (windoid
@@ -69,11 +72,14 @@ private:
     void moonClockTimer();
     void trayChanged(bool shown);
     void replaceController(std::uint32_t styleMask);
+    void keepUnderIcon(LumivaneWindow* window);
     void placeUnderIcon();
     void updateToolTip();
 
     std::unique_ptr<NSStatusItem> statusItem_;
     std::unique_ptr<QMenu> menu_;
     std::unique_ptr<LumivaneWindowController> lumivaneWindow_;
+    /// Places the panel under Sway; the panel owns it.
+    QPointer<SwayPlacement> swayPlacement_;
     QTimer clock_;
 };
