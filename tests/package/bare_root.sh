@@ -39,6 +39,7 @@ everything() { # every file that a package or its scripts can have put there, bu
 }
 
 echo "Making a bare Debian 12 in $root"
+# shellcheck disable=SC2016 # apt's own variable
 mirror=$(apt-get indextargets --format '$(REPO_URI)' 'Created-By: Packages' 'Codename: bookworm' | head -n 1)
 timeout 900 debootstrap --variant=minbase bookworm "$root" "${mirror:-http://deb.debian.org/debian}" \
   >"$root.log" 2>&1 || { tail "$root.log"; fail "no bare Debian ($root.log)"; }
