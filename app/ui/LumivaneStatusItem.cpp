@@ -35,7 +35,8 @@ void LumivaneStatusItem::awakeFromNib() {
     statusItem_ = std::make_unique<NSStatusItem>(QStringLiteral("lumivane"), QStringLiteral("Lumivane"));
     menu_ = std::make_unique<QMenu>();
     statusItem_->setMenu(menu_.get());
-    connect(statusItem_.get(), &NSStatusItem::clicked, this, [this] { statusItemClicked(statusItem_.get()); });
+    connect(statusItem_.get(), &NSStatusItem::clicked, this,
+            [this] { statusItemClicked(statusItem_.get()); });
     connect(statusItem_.get(), &NSStatusItem::shownChanged, this, &LumivaneStatusItem::trayChanged);
     makeAsHiddenMenu();
     clock_.setTimerType(Qt::VeryCoarseTimer);
@@ -73,7 +74,8 @@ void LumivaneStatusItem::updateToolTip() {
         return;
     }
     QString phase = CMoonHelper::stringForInformation(1);
-    replaceAll(phase, QStringLiteral("^1"), CMoonHelper::stringForMoonName(gMoon.GetDescriptorIndex(present)));
+    replaceAll(phase, QStringLiteral("^1"),
+               CMoonHelper::stringForMoonName(gMoon.GetDescriptorIndex(present)));
     QString lit = CMoonHelper::stringForInformation(2);
     replaceAll(lit, QStringLiteral("^1"),
                ExtraStringUtilities::stringWithFloat(static_cast<float>(gMoon.IlluminationDisplay(present))));
@@ -101,8 +103,8 @@ void LumivaneStatusItem::replaceController(std::uint32_t styleMask) {
     lumivaneWindow_->setStatusItem(this);
 
     menu_->clear();
-    menu_->addAction(NSBundle::mainBundle().localizedString(QT_TRANSLATE_NOOP("Lumivane", "Show Lumivane")), this,
-                     &LumivaneStatusItem::showPanel);
+    menu_->addAction(NSBundle::mainBundle().localizedString(QT_TRANSLATE_NOOP("Lumivane", "Show Lumivane")),
+                     this, &LumivaneStatusItem::showPanel);
     menu_->addSeparator();
     menu_->addActions(lumivaneWindow_->gearMenu()->actions());
     connect(menu_.get(), &QMenu::aboutToShow, lumivaneWindow_->gearMenu(), &QMenu::aboutToShow);
@@ -128,7 +130,7 @@ void LumivaneStatusItem::showPanel() {
 }
 
 void LumivaneStatusItem::windowWillClose() {
-    if (statusItem_->isShown())
+    if (isInTray())
         makeAsHiddenMenu();
     else
         QApplication::quit(); // without a tray nothing would bring the window back
@@ -140,6 +142,10 @@ void LumivaneStatusItem::trayChanged(bool shown) {
         makeAsHiddenMenu();
     else if (!shown && !windoid)
         makeAsWindoid();
+}
+
+bool LumivaneStatusItem::isInTray() const {
+    return statusItem_->isShown();
 }
 
 std::optional<QRect> LumivaneStatusItem::globalFrame() const {

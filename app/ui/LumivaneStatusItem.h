@@ -12,8 +12,9 @@ class LumivaneWindowController;
 class NSStatusItem;
 class QMenu;
 
-/// Owns the program's one tray item, whose icon is the Moon, and the panel that a click on it opens. The panel is
-/// shown as a drop-down under the icon (hidden-menu mode) or as a small utility window (windoid mode).
+/// Owns the program's one tray item, whose icon is the Moon, and the panel that a click on it opens. The
+/// panel is shown as a drop-down under the icon (hidden-menu mode) or as a small utility window (windoid
+/// mode).
 class LumivaneStatusItem : public QObject {
     Q_OBJECT
 
@@ -21,8 +22,8 @@ public:
     LumivaneStatusItem();
     ~LumivaneStatusItem() override;
 
-    /// Creates the tray item, a first panel and the clock. On a desktop without a tray the panel opens as a utility
-    /// window, until a tray appears.
+    /// Creates the tray item, a first panel and the clock. On a desktop without a tray the panel opens as a
+    /// utility window, until a tray appears.
     void awakeFromNib();
 
     /// Sets the icon to the Moon of the present.
@@ -37,12 +38,15 @@ public:
     /// Hides the panel, prepares a fresh one for windoid mode and shows it.
     void makeAsWindoid();
 
+    /// Whether a tray shows the icon, so that a hidden panel can be found again.
+    bool isInTray() const;
+
     /// The icon's rectangle on the screen (y downwards); nothing when neither tray nor click told.
     std::optional<QRect> globalFrame() const;
 
-    /// Where a panel of `size` goes: centred under `icon`, or above it when the icon lies in the lower half of its
-    /// screen, and shifted so that it lies within `available`. Without a known icon: in the corner of the tray, which
-    /// `screen` (the whole of it) tells by where its panel lies.
+    /// Where a panel of `size` goes: centred under `icon`, or above it when the icon lies in the lower half
+    /// of its screen, and shifted so that it lies within `available`. Without a known icon: in the corner of
+    /// the tray, which `screen` (the whole of it) tells by where its panel lies.
     static QRect panelFrame(const std::optional<QRect>& icon, const QSize& size, const QRect& screen,
                             const QRect& available);
 

@@ -23,8 +23,8 @@
 #include "shared/utilities/classes/MouseDownButton.h"
 #include "shared/utilities/classes/setStringValueHilight.h"
 
-#include <QCoreApplication>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -82,9 +82,9 @@ void registerClasses() {
     QMessageBox alert(QMessageBox::Warning, QStringLiteral("Lumivane"),
                       bundle.localizedString(QT_TRANSLATE_NOOP(
                           "Lumivane", "It appears that Lumivane.app was moved while it was running!")));
-    alert.setInformativeText(bundle.localizedString(
-        QT_TRANSLATE_NOOP("Lumivane", "Mac OS X does not support moving or renaming applications while they are "
-                                      "running.  Lumivane needs to quit now before bad things happen.")));
+    alert.setInformativeText(bundle.localizedString(QT_TRANSLATE_NOOP(
+        "Lumivane", "Mac OS X does not support moving or renaming applications while they are "
+                    "running.  Lumivane needs to quit now before bad things happen.")));
     alert.addButton(bundle.localizedString(QT_TRANSLATE_NOOP("Lumivane", "Quit")), QMessageBox::AcceptRole);
     alert.exec();
     NSLog(QStringLiteral("Quitting because the application moved while it was running."));
@@ -186,8 +186,9 @@ void LumivaneWindowController::awakeFromNib() {
     setDatePickerGMTSeconds(presentGMTSeconds());
     ExtraWindowUtilities::setAlphaValue(window_.get(), 0.0F);
     dtsSetting_->setText(NSBundle::mainBundle().localizedString(
-        CMoonHelper::DaylightSavingsIsOn() ? QT_TRANSLATE_NOOP("Lumivane", "(DST is on for this session.)")
-                                           : QT_TRANSLATE_NOOP("Lumivane", "(DST is off for this session.)")));
+        CMoonHelper::DaylightSavingsIsOn()
+            ? QT_TRANSLATE_NOOP("Lumivane", "(DST is on for this session.)")
+            : QT_TRANSLATE_NOOP("Lumivane", "(DST is off for this session.)")));
     ExtraSliderUtilities::setReverseMaxValue(lunationSlider_, static_cast<double>(kLargestFraction));
     ExtraSliderUtilities::setReverseMinValue(lunationSlider_, static_cast<double>(kSmallestFraction));
     setLunationSliderGMTSeconds(datePickerGMTSeconds());
@@ -233,7 +234,9 @@ bool LumivaneWindowController::isWindoid() const {
 
 void LumivaneWindowController::setStatusItem(LumivaneStatusItem* statusItem) {
     statusItem_ = statusItem;
-    connect(window_.get(), &LumivaneWindow::windowWillClose, statusItem, &LumivaneStatusItem::windowWillClose);
+    windoidButton_->setVisible(!isWindoid() || statusItem->isInTray()); // else there is no way back
+    connect(window_.get(), &LumivaneWindow::windowWillClose, statusItem,
+            &LumivaneStatusItem::windowWillClose);
     connect(window_.get(), &LumivaneWindow::cancelOperation, this, [this] {
         if (!isWindoid())
             hideButton(window_.get());
@@ -263,17 +266,24 @@ void LumivaneWindowController::setDatePickerGMTSeconds(std::int64_t gmtSeconds) 
 
 std::uint32_t LumivaneWindowController::datePickerGMTSeconds() const {
     const std::uint32_t wallClock = ExtraDateUtilities::carbonSecondsGMT(datePicker_->dateValue());
-    return insideTable(
-        applyDatePickerOffset(wallClock, +1) - static_cast<std::uint32_t>(CMoonHelper::GetGMTOffset()));
+    return insideTable(applyDatePickerOffset(wallClock, +1) -
+                       static_cast<std::uint32_t>(CMoonHelper::GetGMTOffset()));
 }
 
 void LumivaneWindowController::updateDateRange() {
-    datePicker_->setDateRange(pickerDate(firstMoment()), pickerDate(lastMoment()));
+    const QDateTime first = pickerDate(firstMoment());
+    const QDateTime last = pickerDate(lastMoment());
+    if (first < last)
+        datePicker_->setDateRange(first, last);
+    else // an offset of weeks, which wraps the count within the table
+        datePicker_->setDateRange(ExtraDateUtilities::dateWithCarbonSeconds1(0).addDays(-1),
+                                  ExtraDateUtilities::dateWithCarbonSeconds1(~0U).addDays(1));
 }
 
 void LumivaneWindowController::setLunationSliderGMTSeconds(std::uint32_t gmtSeconds) {
-    const tLunation* lunation = gMoon.FindLunationForGMTSeconds(insideTable(gmtSeconds));
-    const double fraction = static_cast<double>(gmtSeconds - lunation->newMoon) / lunation->length;
+    const std::uint32_t held = insideTable(gmtSeconds);
+    const tLunation* lunation = gMoon.FindLunationForGMTSeconds(held);
+    const double fraction = static_cast<double>(held - lunation->newMoon) / lunation->length;
     ExtraSliderUtilities::setReverseDoubleValue(lunationSlider_, fraction);
 }
 

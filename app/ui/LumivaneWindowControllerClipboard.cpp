@@ -29,6 +29,21 @@ QString filled(const char* format, const QString& value) {
     return slot < 0 ? text : text.replace(slot, 2, value);
 }
 
+/// What the credits say in words; names and titles stay as they are.
+constexpr const char* kCreditsTexts[]{
+    QT_TRANSLATE_NOOP("Lumivane", "Version [VERSION] ([BUILD])"),
+    QT_TRANSLATE_NOOP("Lumivane",
+                      "The Moon in your tray: its phase, its age, and when it rises and sets where you are."),
+    QT_TRANSLATE_NOOP("Lumivane", "Phases of the Moon"),
+    QT_TRANSLATE_NOOP("Lumivane", "Rising and setting"),
+    QT_TRANSLATE_NOOP("Lumivane", "Oliver Montenbruck and Thomas Pfleger,"),
+    QT_TRANSLATE_NOOP("Lumivane", "Map of the Moon"),
+    QT_TRANSLATE_NOOP("Lumivane", "NASA and the USGS Astrogeology programme,"),
+    QT_TRANSLATE_NOOP("Lumivane", "in the public domain"),
+    QT_TRANSLATE_NOOP("Lumivane", "Lumivane on the web"),
+    QT_TRANSLATE_NOOP("Lumivane", "MIT licence, © The Lumivane developers"),
+};
+
 /// The credits resource; null when it is missing or unreadable.
 std::unique_ptr<QTextDocument> credits() {
     QString error;
@@ -51,6 +66,8 @@ std::unique_ptr<QTextDocument> plainCredits() {
 } // namespace
 
 void LumivaneWindowController::copyMoonToClipboard(QObject*) {
+    if (!window_->isVisible())
+        showNow(nullptr); // asked for from the icon's menu, where nothing but the present is seen
     const QDateTime date = datePicker_->dateValue();
     QString text;
     const auto append = [&text](const QString& line) { ExtraMutableStringUtilities::appendLine(text, line); };
@@ -84,9 +101,12 @@ void LumivaneWindowController::showAbout(QObject*) {
     std::unique_ptr<QTextDocument> text = credits();
     if (!text)
         text = plainCredits();
+    for (const char* words : kCreditsTexts)
+        replaceAllAttributedStrings(*text, QString::fromUtf8(words), bundle.localizedString(words));
     replaceAllAttributedStrings(*text, QStringLiteral("[VERSION]"),
                                 bundle.infoString(QStringLiteral("CFBundleShortVersionString")));
     replaceAllAttributedStrings(*text, QStringLiteral("[BUILD]"),
                                 bundle.infoString(QStringLiteral("CFBundleVersion")));
-    SimpleTextWindow::simpleTextWindowFromAttributedString(*text, window_->isVisible() ? window_.get() : nullptr);
+    SimpleTextWindow::simpleTextWindowFromAttributedString(*text,
+                                                           window_->isVisible() ? window_.get() : nullptr);
 }

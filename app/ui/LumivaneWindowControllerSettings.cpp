@@ -17,6 +17,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QPointer>
 
 #include <array>
 
@@ -37,14 +38,16 @@ NSUserDefaults* defaults() {
 }
 
 QString webPage(const char* path) {
-    return QStringLiteral("https://%1%2").arg(NSBundle::mainBundle().infoString(QStringLiteral("LVWebHost")),
-                                              QLatin1String(path));
+    return QStringLiteral("https://%1%2")
+        .arg(NSBundle::mainBundle().infoString(QStringLiteral("LVWebHost")), QLatin1String(path));
 }
 
 /// "GMT +5.5" for a custom offset.
 QString offsetTitle(float hours) {
     return NSBundle::mainBundle().localizedString(QT_TRANSLATE_NOOP("Lumivane", "GMT ")) +
-           (hours >= 0.0F ? QStringLiteral("+") : QString()) + QString::number(static_cast<double>(hours), 'f', 1);
+           (hours >= 0.0F ? QStringLiteral("+") : QString()) +
+           QString::number(static_cast<double>(hours == 0.0F ? 0.0F : hours), 'f',
+                           1); // "-0" is no offset either
 }
 
 } // namespace
@@ -53,6 +56,8 @@ void LumivaneWindowController::prepareTimeZonePopup() {
     for (std::size_t i = 0; i < kTimeZoneEntries.size(); ++i)
         timeZonePopup_->setItemData(static_cast<int>(i), static_cast<int>(kTimeZoneEntries[i]));
     defaultsChanged(kCustomTitle);
+    // No offset that somebody types, however long, makes the panel wider.
+    timeZonePopup_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
 }
 
 void LumivaneWindowController::defaultsChanged(const QString& key) {
@@ -73,7 +78,8 @@ void LumivaneWindowController::timeZoneChanged(QObject* sender) {
         return;
     }
     const NSDate::Hold oneMoment;
-    updateDateRange();
+    // The picker keeps what it shows, unless that is now a moment outside the table.
+    setDatePickerGMTSeconds(datePickerGMTSeconds());
     setLunationSliderGMTSeconds(datePickerGMTSeconds());
     updateStaticMoonInfo();
 }
@@ -134,10 +140,10 @@ void LumivaneWindowController::brightness(QObject*) {
 }
 
 void LumivaneWindowController::windoid(QObject*) {
-    if (isWindoid())
-        statusItem_->makeAsHiddenMenu();
-    else
+    if (!isWindoid())
         statusItem_->makeAsWindoid();
+    else if (statusItem_->isInTray())
+        statusItem_->makeAsHiddenMenu();
 }
 
 void LumivaneWindowController::hideButton(QObject*) {
@@ -153,8 +159,10 @@ void LumivaneWindowController::checkForUpdate(QObject* sender) {
 }
 
 void LumivaneWindowController::lumivaneHomePage(QObject*) {
+    // An alert about the browser may stand for long; a click on the icon puts this panel away meanwhile.
+    const QPointer<LumivaneWindowController> self(this);
     InternetConfig::launchURL(webPage("/products/lumivane/mac/index.htm"));
-    if (!isWindoid())
+    if (self && !isWindoid())
         statusItem_->makeAsHiddenMenu();
 }
 

@@ -27,6 +27,8 @@ QDateTime instantOfFields(const QDateTime& shown) {
 } // namespace
 
 NSDatePicker::NSDatePicker(QWidget* parent) : QDateTimeEdit(parent) {
+    // Qt turns the fields of a right-to-left editor around one by one, which makes 12:00:05 05:00:12.
+    setLayoutDirection(Qt::LeftToRight);
     setTimeSpec(Qt::UTC);
     setLocale(NSDateFormatter::locale());
     setDisplayFormat(NSDateFormatter::editingFormat());

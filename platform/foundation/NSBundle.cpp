@@ -8,12 +8,17 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QLibraryInfo>
 #include <QLocale>
 #include <QStandardPaths>
 
 namespace {
 
 constexpr char kContext[] = "Lumivane";
+
+// Qt asks for this text as for any other: "RTL" turns every layout round, "LTR" leaves it.
+[[maybe_unused]] constexpr const char* kLayoutDirection =
+    QT_TRANSLATE_NOOP("Lumivane", "QT_LAYOUT_DIRECTION");
 
 /// The English text alone is the key, wherever it is used.
 class TextTranslator : public QTranslator {
@@ -22,6 +27,18 @@ public:
         return QTranslator::translate(kContext, sourceText, nullptr, n);
     }
 };
+
+/// The texts of the first language that there are any for; none where English, the sources' own, comes first.
+std::unique_ptr<QTranslator> translatorFor(const QStringList& languages, const QString& folder) {
+    auto translator = std::make_unique<TextTranslator>();
+    for (const QString& language : languages) {
+        const bool english = language == u"C" || language == u"en" || language.startsWith(u"en-");
+        if (english ||
+            translator->load(QLocale(language), QStringLiteral("lumivane"), QStringLiteral("_"), folder))
+            break;
+    }
+    return translator;
+}
 
 /// Not QCoreApplication's path: the engine is used without an application object too.
 QString executablePath() {
@@ -108,15 +125,13 @@ QString NSBundle::bundleIdentifier() const {
     return identifier.isEmpty() ? QStringLiteral("com.corvanta.Lumivane") : identifier;
 }
 
+QString NSBundle::translationsPath() const {
+    return resourcePath() + QStringLiteral("/translations");
+}
+
 const QTranslator* NSBundle::translations() const {
-    if (!translator_) {
-        translator_ = std::make_unique<TextTranslator>();
-        const QStringList languages = QLocale::system().uiLanguages();
-        const QString first = languages.value(0, QStringLiteral("C"));
-        if (first != u"C" && first != u"en" && !first.startsWith(u"en-"))
-            (void)translator_->load(QLocale::system(), QStringLiteral("lumivane"), QStringLiteral("_"),
-                                    resourcePath() + QStringLiteral("/translations"));
-    }
+    if (!translator_)
+        translator_ = translatorFor(QLocale::system().uiLanguages(), translationsPath());
     return translator_.get();
 }
 
@@ -125,8 +140,15 @@ QString NSBundle::localizedString(const char* key) const {
     return text.isEmpty() ? QString::fromUtf8(key) : text;
 }
 
-void NSBundle::installTranslations() {
-    (void)translations();
-    if (!translator_->isEmpty())
-        QCoreApplication::installTranslator(translator_.get());
+void NSBundle::installTranslations(const QStringList& languages) {
+    qtTranslator_ = std::make_unique<QTranslator>();
+    translator_ = translatorFor(languages, translationsPath());
+    if (translator_->isEmpty())
+        return;
+    // In the same language, so that a text field's menu doesn't differ from the panel around it. What is
+    // installed last is asked first.
+    if (qtTranslator_->load(QLocale(translator_->language()), QStringLiteral("qtbase"), QStringLiteral("_"),
+                            QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(qtTranslator_.get());
+    QCoreApplication::installTranslator(translator_.get());
 }

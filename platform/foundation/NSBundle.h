@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QLocale>
 #include <QString>
+#include <QStringList>
 #include <QTranslator>
 #include <QVariantMap>
 
@@ -37,13 +39,17 @@ public:
     /// The user's language for `key`, an English text; `key` itself where there is no translation.
     QString localizedString(const char* key) const;
 
-    /// Makes the layouts' texts follow the same translations; called once there is an application object.
-    void installTranslations();
+    /// Makes every text follow `languages` ("de", "pt-BR"), best first, by default the user's: those looked
+    /// up here, the layouts' and, where Qt's own catalogue is installed, the ones in Qt's controls. Also sets
+    /// the direction of the layouts. Called once there is an application object.
+    void installTranslations(const QStringList& languages = QLocale::system().uiLanguages());
 
 private:
     NSBundle() = default;
+    QString translationsPath() const;
     const QTranslator* translations() const;
 
     mutable std::unique_ptr<QVariantMap> info_;
     mutable std::unique_ptr<QTranslator> translator_;
+    std::unique_ptr<QTranslator> qtTranslator_;
 };

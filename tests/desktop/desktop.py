@@ -6,12 +6,14 @@ read through the accessibility bus."""
 
 import os
 import pathlib
+import re
 import shutil
 import signal
 import subprocess
 import sys
 import tempfile
 import time
+import types
 
 PANEL_CONFIG = """<?xml version="1.0" encoding="UTF-8"?>
 <channel name="xfce4-panel" version="1.0">
@@ -245,14 +247,13 @@ class Desktop:
         return Atspi.Component.get_extents(node, Atspi.CoordType.SCREEN)
 
     def icon(self):
-        """The icon's rectangle on the screen: the tray is a process of its own inside the panel, whose place the panel
-        tells, and there is one icon in it."""
+        """The icon's rectangle on the screen: the tray is a window of its own inside the panel, with one icon in it."""
         def find():
-            for node in self.walk(self.application("xfce4-panel")):
-                if node.get_role_name() == "filler":
-                    rectangle = self.extents(node)
-                    if rectangle.width >= 20:
-                        return rectangle
+            tree = subprocess.run(["xwininfo", "-root", "-tree"], capture_output=True, text=True).stdout
+            places = re.findall(r'"Wrapper-2.0"\)\s+(\d+)x(\d+)\S+\s+\+(-?\d+)\+(-?\d+)', tree)
+            for width, height, x, y in (map(int, place) for place in places):
+                if width >= 20:
+                    return types.SimpleNamespace(x=x, y=y, width=width, height=height)
             return None
         return wait_for("the icon in the panel", find)
 
@@ -273,9 +274,16 @@ class Desktop:
         return node.get_state_set().contains(self.atspi().StateType.SHOWING)
 
     def open_panel(self):
-        """Clicks the icon and waits for the panel."""
-        self.click_icon()
-        return wait_for("the panel", self.window)
+        """Clicks the icon and waits for the panel. The tray may show a copy's icon a moment longer than the copy lives:
+        a click that it swallowed is made again."""
+        for seconds in (4, 4, 15):
+            self.click_icon()
+            try:
+                return wait_for("the panel", self.window, seconds)
+            except AssertionError:
+                if seconds == 15:
+                    raise
+        return None
 
     def find(self, name, root=None):
         """The control of that accessible name."""

@@ -65,7 +65,8 @@ QImage NSImageUtilities::tintTo(const QImage& image, const QColor& colour, float
         NSLog(QStringLiteral("Couldn't get TIFFRepresentation from image."));
         return image;
     }
-    const double middle = std::isnan(brightness) ? 0.5 : std::clamp(static_cast<double>(brightness), 0.0, 1.0);
+    const double middle =
+        std::isnan(brightness) ? 0.5 : std::clamp(static_cast<double>(brightness), 0.0, 1.0);
     std::array<QRgb, 256> mapped{};
     for (int level = 0; level < 256; ++level) {
         const double grey = level / 255.0;
@@ -83,7 +84,8 @@ QImage NSImageUtilities::tintTo(const QImage& image, const QColor& colour, float
     mapped.front() = qRgb(0, 0, 0);
     mapped.back() = qRgb(255, 255, 255);
     for (int y = 0; y < result.height(); ++y) {
-        const std::span line(reinterpret_cast<QRgb*>(result.scanLine(y)), static_cast<std::size_t>(result.width()));
+        const std::span line(reinterpret_cast<QRgb*>(result.scanLine(y)),
+                             static_cast<std::size_t>(result.width()));
         for (QRgb& pixel : line)
             pixel = (mapped[static_cast<std::size_t>(qGray(pixel))] & 0x00FFFFFFU) | (pixel & 0xFF000000U);
     }
@@ -103,7 +105,8 @@ QImage NSImageUtilities::imageByRotatingDegrees(const QImage& image, float degre
     if (image.isNull())
         return result;
     QPainter painter(&result);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    // Quarter turns move whole pixels; interpolation would take a little of their light.
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, std::fmod(degrees, 90.0F) != 0.0F);
     painter.translate(image.height() / 2.0, image.width() / 2.0);
     painter.rotate(-static_cast<double>(degrees)); // Qt's y axis points down
     painter.translate(-image.width() / 2.0, -image.height() / 2.0);

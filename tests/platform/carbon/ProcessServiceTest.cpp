@@ -117,12 +117,19 @@ void stop(const std::vector<Program>& programs) {
     }
 }
 
-QByteArray flattened(AEEventID eventID) {
-    AppleEvent event;
-    AECreateAppleEvent(kCoreEventClass, eventID, {}, 0, kAnyTransactionID, &event);
+QByteArray flattened(const AppleEvent& event) {
     QByteArray bytes;
     AEFlattenDesc(event, &bytes);
     return bytes;
+}
+
+/// The status that a reply to an event carries; noErr when it carries none.
+OSStatus statusIn(const QDBusMessage& message) {
+    AppleEvent reply;
+    EXPECT_EQ(AEUnflattenDesc(message.arguments().value(0).toByteArray(), &reply), noErr);
+    OSStatus status = noErr;
+    AEGetParamPtr(reply, keyErrorNumber, typeSInt32, &status, sizeof status, nullptr);
+    return status;
 }
 
 } // namespace
@@ -193,9 +200,10 @@ TEST_F(ProcessServiceTest, TheDesktopRaisesAndOpens) {
 TEST_F(ProcessServiceTest, DamagedEventsAreRefusedAndQuitIsObeyed) {
     const Program copy = startCopy();
     ASSERT_EQ(line(copy.get()), QStringLiteral("ready"));
-    const QByteArray quit = flattened(kAEQuitApplication);
-    for (const QVariant& damaged : {QVariant(QByteArray()), QVariant(quit.chopped(1)), QVariant(QString()),
-                                    QVariant(QByteArray(2 << 20, 'x'))})
+    AppleEvent quit;
+    AECreateAppleEvent(kCoreEventClass, kAEQuitApplication, {}, 0, kAnyTransactionID, &quit);
+    for (const QVariant& damaged : {QVariant(QByteArray()), QVariant(flattened(quit).chopped(1)),
+                                    QVariant(QString()), QVariant(QByteArray(2 << 20, 'x'))})
         EXPECT_EQ(handleEvent(damaged).type(), QDBusMessage::ErrorMessage);
 
     EXPECT_EQ(ask(QStringLiteral("none"), 600), QStringLiteral("0 %1").arg(errAEEventNotHandled));
@@ -203,7 +211,10 @@ TEST_F(ProcessServiceTest, DamagedEventsAreRefusedAndQuitIsObeyed) {
     EXPECT_EQ(ask(QStringLiteral("none"), 12), QStringLiteral("%1 0").arg(errAETimeout));
     kill(static_cast<pid_t>(copy->processId()), SIGCONT);
 
-    EXPECT_EQ(handleEvent(quit).type(), QDBusMessage::ReplyMessage);
+    AppleEvent fromOlderCopy = quit;
+    AEPutAttributeDesc(&fromOlderCopy, keyOriginalAddressAttr, {});
+    EXPECT_EQ(statusIn(handleEvent(flattened(fromOlderCopy))), errAEEventNotHandled);
+    EXPECT_EQ(statusIn(handleEvent(flattened(quit))), noErr);
     EXPECT_TRUE(copy->waitForFinished(kPatience));
     EXPECT_EQ(copy->exitCode(), 0);
 }

@@ -1,0 +1,329 @@
+// SPDX-License-Identifier: MIT
+#include "app/ui/LumivaneWindowController.h"
+
+#include "app/engine/CMoon.h"
+#include "app/engine/CMoonHelper.h"
+#include "app/shell/ApplicationDelegate.h"
+#include "app/ui/LumivaneStatusItem.h"
+#include "app/ui/LumivaneWindow.h"
+#include "platform/appkit/NSDatePicker.h"
+#include "platform/appkit/NSSlider.h"
+#include "platform/foundation/NSUserDefaults.h"
+#include "shared/utilities/classes/ExtraDateUtilities.h"
+#include "shared/utilities/classes/ExtraSliderUtilities.h"
+#include "shared/utilities/classes/InternetConfig.h"
+#include "tests/FakeDesktop.h"
+#include "tests/TestMain.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QLabel>
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+namespace {
+
+std::uint32_t seconds(const QDateTime& date) {
+    return static_cast<std::uint32_t>(date.toSecsSinceEpoch() - ExtraDateUtilities::kReferenceInstant);
+}
+
+std::uint32_t firstMoment() {
+    return gMoon.FindLunationAtIndex(0)->newMoon;
+}
+
+std::uint32_t lastMoment() {
+    return gMoon.FindLunationAtIndex(kLunationCount - 1)->nextNewMoon - 1;
+}
+
+struct Zone {
+    int type;
+    float hours;
+};
+
+class LumivaneWindowControllerTest : public testing::Test {
+protected:
+    LumivaneWindowControllerTest() { load(); }
+    ~LumivaneWindowControllerTest() override {
+        for (const char* key : {"LVTimeZoneType", "LVTimeZoneCustomGMTOffset", "LVTimeZoneGMTOffsetTitle"})
+            defaults()->removeObjectForKey(QLatin1String(key));
+    }
+
+    static NSUserDefaults* defaults() { return NSUserDefaults::standardUserDefaults(); }
+
+    void load() {
+        controller_ = LumivaneWindowController::lumivaneWindowController();
+        picker_ = controller_->window()->findChild<NSDatePicker*>();
+        slider_ = controller_->window()->findChild<NSSlider*>(QStringLiteral("lunationSlider_"));
+    }
+
+    void setZone(const Zone& zone) {
+        defaults()->setFloat(zone.hours, QStringLiteral("LVTimeZoneCustomGMTOffset"));
+        defaults()->setInteger(zone.type, QStringLiteral("LVTimeZoneType"));
+        controller_->timeZoneChanged(nullptr);
+    }
+
+    /// The moment after an action of a control with `tag`.
+    std::uint32_t after(void (LumivaneWindowController::*action)(QObject*), int tag = 0) {
+        QObject sender;
+        sender.setProperty("tag", tag);
+        (controller_.get()->*action)(&sender);
+        return controller_->datePickerGMTSeconds();
+    }
+    std::uint32_t afterHours(int hours) {
+        return after(&LumivaneWindowController::addTagToDatePicker, hours);
+    }
+    std::uint32_t afterLunations(int count) {
+        return after(&LumivaneWindowController::addTagToLunation, count);
+    }
+    std::uint32_t afterPhase(int tag) { return after(&LumivaneWindowController::phaseWithTag, tag); }
+
+    QLabel* field(const char* name) const {
+        return controller_->window()->findChild<QLabel*>(QLatin1String(name));
+    }
+
+    const InZone zone_{"America/New_York"};
+    ApplicationDelegate delegate_;
+    std::unique_ptr<LumivaneWindowController> controller_;
+    NSDatePicker* picker_ = nullptr;
+    NSSlider* slider_ = nullptr;
+};
+
+} // namespace
+
+TEST_F(LumivaneWindowControllerTest, WhatIsSetComesBackAndStepsAreExactInEveryZone) {
+    std::mt19937 random(20261003);
+    std::uniform_int_distribution<std::uint32_t> inTable(firstMoment(), lastMoment());
+    // 01:30 comes twice on this night, 02:30 not at all on that one.
+    QList<std::uint32_t> moments{seconds(gmt(2026, 11, 1, 5, 30)), seconds(gmt(2026, 11, 1, 6, 30)),
+                                 seconds(gmt(2026, 3, 8, 6, 59, 59)), seconds(gmt(2026, 3, 8, 7, 30))};
+    while (moments.size() < 1000)
+        moments.append(inTable(random));
+    for (const QDateTime& now : {gmt(2026, 7, 1), gmt(2026, 12, 1)}) {
+        const NSDate::Hold present(now);
+        for (const Zone& zone :
+             {Zone{1, 0}, Zone{2, 0}, Zone{3, 5.5F}, Zone{3, -3.75F}, Zone{3, 12.75F}, Zone{3, -1000.0F}}) {
+            setZone(zone);
+            for (qsizetype i = 0; i < moments.size(); ++i) {
+                const std::uint32_t moment = moments[i];
+                controller_->setDatePickerGMTSeconds(moment);
+                ASSERT_EQ(controller_->datePickerGMTSeconds(), moment) << zone.type << ' ' << zone.hours;
+                if (i > 3 && i % 100 != 0)
+                    continue;
+                ASSERT_EQ(afterHours(1), moment + 3600);
+                ASSERT_EQ(afterHours(-1), moment);
+                ASSERT_EQ(afterHours(-24), moment - 86400);
+                ASSERT_EQ(afterHours(24), moment);
+            }
+        }
+    }
+}
+
+TEST_F(LumivaneWindowControllerTest, EveryControlStopsAtTheTablesEnds) {
+    const NSDate::Hold present(gmt(2026, 7, 1));
+    const std::uint32_t first = firstMoment();
+    const std::uint32_t last = lastMoment();
+    for (const Zone& zone : {Zone{1, 0}, Zone{2, 0}, Zone{3, 12.75F}, Zone{3, -3.75F}, Zone{3, 1000.0F},
+                             Zone{3, -1e6F}, Zone{3, 3e38F}}) {
+        SCOPED_TRACE(zone.hours);
+        setZone(zone);
+        for (const std::int64_t outside : {std::int64_t{-1}, std::int64_t{first} - 1}) {
+            controller_->setDatePickerGMTSeconds(outside);
+            EXPECT_EQ(controller_->datePickerGMTSeconds(), first);
+        }
+        EXPECT_EQ(afterHours(-1), first);
+        EXPECT_EQ(afterHours(-1000000), first);
+        EXPECT_EQ(afterPhase(0), first);
+        EXPECT_EQ(afterLunations(-1), gMoon.FindLunationAtIndex(0)->fullMoon);
+        EXPECT_EQ(afterLunations(-kLunationCount), gMoon.FindLunationAtIndex(0)->fullMoon);
+
+        for (const std::int64_t outside : {std::int64_t{last} + 1, std::int64_t{1} << 33}) {
+            controller_->setDatePickerGMTSeconds(outside);
+            EXPECT_EQ(controller_->datePickerGMTSeconds(), last);
+        }
+        EXPECT_EQ(afterHours(24), last);
+        EXPECT_EQ(afterHours(1000000), last);
+        EXPECT_EQ(afterPhase(4), last) << "its next new moon belongs to no lunation of the table";
+        EXPECT_EQ(afterLunations(1), gMoon.FindLunationAtIndex(kLunationCount - 1)->fullMoon);
+        EXPECT_EQ(afterLunations(kLunationCount), gMoon.FindLunationAtIndex(kLunationCount - 1)->fullMoon);
+        EXPECT_EQ(field("lunation_")->text(), u"Lunation 1447");
+
+        for (const std::uint32_t end : {first, last}) {
+            const tLunation* lunation = gMoon.FindLunationForGMTSeconds(end);
+            controller_->setDatePickerGMTSeconds(end);
+            controller_->setLunationSliderGMTSeconds(end);
+            for (const double fraction : {0.0, 1.0}) {
+                ExtraSliderUtilities::setReverseDoubleValue(slider_, fraction);
+                const std::uint32_t moment = after(&LumivaneWindowController::lunationSliderChanged);
+                EXPECT_EQ(gMoon.FindLunationForGMTSeconds(moment), lunation);
+                EXPECT_EQ(moment, controller_->lunationSliderGMTSeconds());
+            }
+        }
+    }
+    // The picker itself lets nobody out, whatever is typed.
+    setZone({2, 0});
+    for (const auto& [typed, end] : {std::pair{gmt(1900, 1, 1), first}, std::pair{gmt(2200, 1, 1), last}}) {
+        picker_->setDateTime(typed);
+        EXPECT_EQ(controller_->datePickerGMTSeconds(), end);
+        EXPECT_EQ(seconds(picker_->dateValue()), end);
+    }
+}
+
+TEST_F(LumivaneWindowControllerTest, QuartersAndLunationsAreThoseOfTheDisplayedDate) {
+    const NSDate::Hold present(gmt(2026, 7, 1));
+    const tLunation* lunation = gMoon.FindLunationAtIndex(1076);
+    const auto from = [&](std::uint32_t moment) { controller_->setDatePickerGMTSeconds(moment); };
+    const std::uint32_t quarters[]{lunation->newMoon, lunation->firstQuarter, lunation->fullMoon,
+                                   lunation->lastQuarter, lunation->nextNewMoon};
+    for (int tag = 0; tag < 5; ++tag) {
+        from(lunation->lastQuarter + 1);
+        EXPECT_EQ(afterPhase(tag), quarters[tag]) << tag;
+    }
+    for (const int tag : {7, -1}) {
+        from(lunation->lastQuarter);
+        EXPECT_EQ(afterPhase(tag), lunation->newMoon) << tag;
+    }
+    from(lunation->fullMoon + 100000);
+    EXPECT_EQ(afterLunations(0), lunation->fullMoon);
+    from(lunation->newMoon);
+    EXPECT_EQ(afterLunations(-1), gMoon.FindLunationAtIndex(1075)->fullMoon);
+    EXPECT_EQ(afterLunations(12), gMoon.FindLunationAtIndex(1087)->fullMoon);
+    EXPECT_NEAR(ExtraSliderUtilities::reverseDoubleValue(slider_), 0.5, 0.04) << "the slider goes along";
+    from(lunation->nextNewMoon - 9);
+    controller_->updateStaticMoonInfo();
+    EXPECT_EQ(field("daysSinceNewMoon_")->text(), u"0d 0h 0m since new moon");
+    EXPECT_EQ(field("lunation_")->text(), u"Lunation 1076");
+}
+
+TEST_F(LumivaneWindowControllerTest, AnotherZoneKeepsThePickerAndMovesTheMoment) {
+    const NSDate::Hold present(gmt(2026, 7, 1));
+    setZone({2, 0});
+    const std::uint32_t moment = seconds(gmt(2026, 2, 1, 12));
+    controller_->setDatePickerGMTSeconds(moment);
+    const QDateTime shown = picker_->dateValue();
+    for (const auto& [zone, moved] :
+         {std::pair{Zone{1, 0}, -4 * 3600}, std::pair{Zone{3, 5.5F}, -4 * 3600 - 19800},
+          std::pair{Zone{3, -3.75F}, -900}, std::pair{Zone{2, 0}, 0}}) {
+        setZone(zone);
+        EXPECT_EQ(picker_->dateValue(), shown);
+        const std::uint32_t now = controller_->datePickerGMTSeconds();
+        EXPECT_EQ(static_cast<std::int32_t>(now - moment), moved) << zone.hours;
+        EXPECT_NEAR(controller_->lunationSliderGMTSeconds(), now, 1) << "the slider follows";
+    }
+    // Where that would lead out of the table the picker gives way.
+    for (const auto& [zone, end] :
+         {std::pair{Zone{3, -12.0F}, lastMoment()}, std::pair{Zone{3, 12.0F}, firstMoment()}}) {
+        setZone({2, 0});
+        controller_->setDatePickerGMTSeconds(end);
+        setZone(zone);
+        EXPECT_EQ(controller_->datePickerGMTSeconds(), end);
+        const QDateTime held = picker_->dateValue();
+        controller_->setDatePickerGMTSeconds(end);
+        EXPECT_EQ(picker_->dateValue(), held);
+    }
+}
+
+TEST_F(LumivaneWindowControllerTest, AClockOutsideTheTableIsToldUntilTheNextMove) {
+    for (const auto& [clock, end] :
+         {std::pair{gmt(2045, 6, 1), lastMoment()}, std::pair{gmt(1910, 1, 1), firstMoment()}}) {
+        const NSDate::Hold present(clock);
+        load();
+        for (const auto move :
+             {&LumivaneWindowController::addTagToDatePicker, &LumivaneWindowController::clockChanged,
+              &LumivaneWindowController::lunationSliderChanged}) {
+            controller_->showNow(nullptr);
+            EXPECT_EQ(controller_->datePickerGMTSeconds(), end);
+            EXPECT_EQ(field("phaseName_")->text(), u"Date out of range");
+            controller_->updateStaticMoonInfo();
+            EXPECT_EQ(field("phaseName_")->text(), u"Date out of range");
+            after(move);
+            EXPECT_TRUE(field("phaseName_")->text().startsWith(u"Moon is "))
+                << field("phaseName_")->text().toStdString();
+        }
+    }
+}
+
+TEST_F(LumivaneWindowControllerTest, AChangedLineIsDarkRedForOneUpdate) {
+    const NSDate::Hold present(gmt(2026, 7, 1));
+    load();
+    const auto isRed = [this](const char* name) {
+        const QLabel* label = field(name);
+        return label->palette().color(label->foregroundRole()) == QColor::fromRgbF(0.5F, 0.0F, 0.0F);
+    };
+    controller_->showNow(nullptr);
+    for (const QLabel* label : controller_->window()->findChildren<QLabel*>())
+        EXPECT_FALSE(isRed(label->objectName().toLatin1())) << label->objectName().toStdString();
+    afterHours(1);
+    EXPECT_TRUE(isRed("illumination_") && isRed("daysSinceNewMoon_"));
+    EXPECT_FALSE(isRed("lunation_") || isRed("timeFull_"));
+    afterHours(24 * 30);
+    EXPECT_TRUE(isRed("lunation_") && isRed("timeFull_") && isRed("moonRiseSet_"));
+    controller_->updateStaticMoonInfo();
+    EXPECT_FALSE(isRed("illumination_") || isRed("lunation_") || isRed("timeFull_") || isRed("moonRiseSet_"));
+}
+
+namespace {
+
+/// The program's item without a tray around it, and the panel that it has now.
+class PanelOfTheItem : public LumivaneWindowControllerTest {
+protected:
+    PanelOfTheItem() { item_.awakeFromNib(); }
+
+    LumivaneWindow* window() const {
+        deleteDiscarded();
+        for (QWidget* widget : QApplication::topLevelWidgets()) {
+            auto* window = qobject_cast<LumivaneWindow*>(widget);
+            if (window && window != controller_->window())
+                return window;
+        }
+        return nullptr;
+    }
+
+    void choose(const char* command) const {
+        auto* action = window()->findChild<QAction*>(QLatin1String(command));
+        ASSERT_NE(action, nullptr);
+        action->trigger();
+    }
+
+    static void deleteDiscarded() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
+
+    LumivaneStatusItem item_;
+};
+
+} // namespace
+
+TEST_F(PanelOfTheItem, CopiesThePresentWhileItIsHidden) {
+    const NSDate::Hold present(NSDate::date().addDays(40));
+    choose("copyAction_");
+    const QString lunation = QStringLiteral("Lunation %1").arg(gMoon.GetLunation(seconds(NSDate::date())));
+    EXPECT_TRUE(QApplication::clipboard()->text().contains(lunation)) << "it was loaded forty days earlier";
+}
+
+TEST_F(PanelOfTheItem, MayGoWhileAnAlertStandsInItsCommand) {
+    FakeDesktop& desktop = FakeDesktop::shared();
+    QFile::remove(desktop.program(QStringLiteral("browser")));
+    item_.statusItemClicked();
+    const auto showAlert = InternetConfig::showAlert;
+    QPointer<LumivaneWindow> next;
+    InternetConfig::showAlert = [&](const QString&, const QString&) {
+        item_.statusItemClicked();
+        next = window();
+    };
+    choose("homePageAction_");
+    InternetConfig::showAlert = showAlert;
+    desktop.writeProgram(QStringLiteral("browser"));
+    ASSERT_NE(next, nullptr);
+    EXPECT_FALSE(next->isVisible());
+    EXPECT_EQ(window(), next) << "the panel that is gone hides no other";
+}
+
+TEST_F(PanelOfTheItem, StaysAWindowWhereNoTrayWouldTakeItIn) {
+    item_.makeAsWindoid();
+    auto* button = window()->findChild<QAbstractButton*>(QStringLiteral("windoidButton_"));
+    EXPECT_TRUE(button->isHidden());
+    button->click();
+    EXPECT_TRUE(window()->isVisible());
+}

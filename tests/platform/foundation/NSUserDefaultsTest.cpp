@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: MIT
+#include "platform/foundation/NSUserDefaults.h"
+
+#include "tests/TestMain.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+const QString kNumber = QStringLiteral("Number");
+const QString kText = QStringLiteral("Text");
+
+class NSUserDefaultsTest : public testing::Test {
+protected:
+    QString path(const char* suffix = "") const {
+        return folder_.filePath(QStringLiteral("trial.conf") + QLatin1String(suffix));
+    }
+
+    void write(const QByteArray& bytes) const {
+        QFile file(path());
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    }
+
+    QByteArray read(const char* suffix = "") const {
+        QFile file(path(suffix));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    std::unique_ptr<NSUserDefaults> open() const {
+        auto defaults = std::make_unique<NSUserDefaults>(path());
+        defaults->registerDefaults(
+            {{kNumber, 2.5}, {kText, QStringLiteral("GMT +0")}, {QStringLiteral("Flag"), true}});
+        return defaults;
+    }
+
+    const QTemporaryDir folder_;
+};
+
+} // namespace
+
+TEST_F(NSUserDefaultsTest, WhatIsStoredIsReadBackByTheNextRun) {
+    const QString moon = QStringLiteral("GMT \u2212 \u6708, \"a;b=c\" %41\n");
+    {
+        const auto defaults = open();
+        QStringList changes;
+        QObject::connect(defaults.get(), &NSUserDefaults::valueChanged,
+                         [&](const QString& key) { changes.append(key); });
+        defaults->setFloat(5.4F, kNumber);
+        defaults->setFloat(5.4F, kNumber);
+        defaults->setObject(moon, kText);
+        defaults->setBool(true, QStringLiteral("Flag"));
+        defaults->setInteger(-3, QStringLiteral("Other"));
+        EXPECT_EQ(changes, (QStringList{kNumber, kText, QStringLiteral("Other")}))
+            << "each that answers otherwise now";
+        EXPECT_TRUE(defaults->synchronize());
+    }
+    EXPECT_TRUE(read().contains("Number=5.4\n")) << read().toStdString();
+    const auto defaults = open();
+    EXPECT_EQ(defaults->floatForKey(kNumber), 5.4F);
+    EXPECT_EQ(defaults->stringForKey(kText), moon);
+    EXPECT_TRUE(defaults->boolForKey(QStringLiteral("Flag")));
+    EXPECT_EQ(defaults->integerForKey(QStringLiteral("Other")), -3);
+}
+
+TEST_F(NSUserDefaultsTest, RegisteredValuesAnswerAndAreNeverWritten) {
+    {
+        const auto defaults = open();
+        EXPECT_EQ(defaults->floatForKey(kNumber), 2.5F);
+        EXPECT_EQ(defaults->floatForKey(QStringLiteral("Unknown")), 0.0F);
+        EXPECT_TRUE(defaults->stringForKey(QStringLiteral("Unknown")).isEmpty());
+        defaults->setObject(QStringLiteral("own"), kText);
+        defaults->setFloat(2.5F, kNumber); // the user's choice, though it is the default
+        defaults->synchronize();
+        EXPECT_TRUE(read().contains("Number=2.5\n"));
+        QStringList changes;
+        QObject::connect(defaults.get(), &NSUserDefaults::valueChanged,
+                         [&](const QString& key) { changes.append(key); });
+        defaults->removeObjectForKey(kText);
+        defaults->removeObjectForKey(kNumber);
+        EXPECT_EQ(changes, QStringList{kText});
+        EXPECT_EQ(defaults->stringForKey(kText), u"GMT +0");
+    }
+    EXPECT_FALSE(read().contains("Number") || read().contains("Text") || read().contains("Flag"));
+}
+
+TEST_F(NSUserDefaultsTest, AValueOfAnotherKindIsLoggedOnceAndTheDefaultServes) {
+    for (const char* wrong : {"north", "nan", "1e99", "\"1, 2\"", ""}) {
+        write(QByteArray("[General]\nNumber=") + wrong + "\nFlag=maybe\nWhole=1.5\n");
+        const CaughtLog log;
+        const auto defaults = open();
+        for (int i = 0; i < 2; ++i) {
+            EXPECT_EQ(defaults->floatForKey(kNumber), 2.5F) << wrong;
+            EXPECT_TRUE(defaults->boolForKey(QStringLiteral("Flag")));
+            EXPECT_EQ(defaults->integerForKey(QStringLiteral("Whole")), 0);
+        }
+        EXPECT_EQ(log.lines().size(), 3) << wrong;
+        EXPECT_TRUE(log.lines().value(0).contains(kNumber));
+    }
+    write("[General]\nFlag=NO\nNumber=7\n");
+    EXPECT_FALSE(open()->boolForKey(QStringLiteral("Flag")));
+    EXPECT_EQ(open()->integerForKey(kNumber), 7);
+}
+
+TEST_F(NSUserDefaultsTest, ADamagedFileIsKeptAsideEveryTime) {
+    const QByteArray first("\xff\xfe\x00garbage", 10);
+    const QByteArray second("[General\nNumber", 15);
+    for (const QByteArray& damaged : {first, second}) {
+        write(damaged);
+        const CaughtLog log;
+        const auto defaults = open();
+        EXPECT_EQ(log.lines().size(), 1);
+        EXPECT_EQ(defaults->floatForKey(kNumber), 2.5F);
+        defaults->setFloat(9.0F, kNumber);
+        EXPECT_TRUE(defaults->synchronize());
+        EXPECT_EQ(open()->floatForKey(kNumber), 9.0F);
+    }
+    EXPECT_EQ(read(".damaged"), first) << "the second does not take its place";
+    EXPECT_EQ(read(".damaged-2"), second);
+}
+
+TEST_F(NSUserDefaultsTest, AFolderThatRefusesIsLogged) {
+    write("");
+    NSUserDefaults defaults(path("/inside/trial.conf"));
+    defaults.setInteger(1, kNumber);
+    const CaughtLog log;
+    EXPECT_FALSE(defaults.synchronize());
+    EXPECT_TRUE(log.lines().value(0).contains(u"can't be written"));
+    EXPECT_EQ(defaults.integerForKey(kNumber), 1) << "it serves for this run";
+}

@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: MIT
+#include "app/engine/CMoonHelper.h"
+#include "platform/appkit/RTFReader.h"
+#include "platform/foundation/NSBundle.h"
+
+#include <QDir>
+#include <QFile>
+#include <QGuiApplication>
+#include <QLibraryInfo>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTextDocument>
+#include <QXmlStreamReader>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+const QString kRoot = QStringLiteral(TESTS_SOURCE_DIR "/..");
+
+struct Message {
+    QString translation;
+    bool unfinished;
+};
+
+/// The messages of a .ts file by their source texts.
+QMap<QString, Message> messagesIn(const QString& path) {
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(path);
+    QXmlStreamReader xml(&file);
+    QMap<QString, Message> messages;
+    QString source;
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        if (xml.name() == u"source") {
+            source = xml.readElementText();
+        } else if (xml.name() == u"translation") {
+            const bool unfinished = xml.attributes().hasAttribute(QLatin1String("type"));
+            messages.insert(source, {xml.readElementText(), unfinished});
+        }
+    }
+    EXPECT_FALSE(xml.hasError()) << qPrintable(path + xml.errorString());
+    return messages;
+}
+
+/// The keys that the sources and the layouts hold now.
+QStringList sourceTexts() {
+    const QTemporaryDir folder;
+    const QString fresh = folder.filePath(QStringLiteral("fresh.ts"));
+    QProcess lupdate;
+    lupdate.setWorkingDirectory(kRoot);
+    lupdate.start(QStringLiteral(LUPDATE),
+                  QStringLiteral("-silent -locations none app platform shared resources -ts").split(u' ') +
+                      QStringList(fresh));
+    EXPECT_TRUE(lupdate.waitForFinished() && lupdate.exitCode() == 0);
+    return messagesIn(fresh).keys();
+}
+
+/// What the program fills in or what must stay at the ends, in an order that doesn't depend on the language.
+QStringList fixedParts(const QString& text) {
+    static const QRegularExpression part(QStringLiteral(R"(\^[123dhm]|%@|%d|%\d|\[[A-Z]+\]|^\s|\s$)"));
+    QStringList parts;
+    for (auto found = part.globalMatch(text); found.hasNext();)
+        parts.append(found.next().captured());
+    parts.sort();
+    return parts;
+}
+
+class TranslationsTest : public testing::Test {
+protected:
+    ~TranslationsTest() override { use("en"); }
+    static void use(const char* language) {
+        NSBundle::mainBundle().installTranslations({QLatin1String(language)});
+    }
+};
+
+} // namespace
+
+TEST_F(TranslationsTest, EveryLanguageHasEveryTextWhole) {
+    const QStringList texts = sourceTexts();
+    ASSERT_GT(texts.size(), 100);
+    const QDir folder(kRoot + QStringLiteral("/resources/translations"));
+    const QStringList files = folder.entryList({QStringLiteral("lumivane_*.ts")});
+    EXPECT_EQ(files.size(), 9);
+    for (const QString& file : files) {
+        const QMap<QString, Message> messages = messagesIn(folder.filePath(file));
+        EXPECT_EQ(messages.keys().join(u'\n'), texts.join(u'\n')) << qPrintable(file);
+        for (const auto& [source, message] : messages.toStdMap()) {
+            EXPECT_FALSE(message.unfinished || message.translation.trimmed().isEmpty())
+                << qPrintable(file + QStringLiteral(": ") + source);
+            EXPECT_EQ(fixedParts(message.translation), fixedParts(source))
+                << qPrintable(file + QStringLiteral(": ") + message.translation);
+        }
+        // The compiled catalogue tells by its language which one of Qt's goes with it.
+        const QString language = file.mid(9).chopped(3);
+        use(language.toLatin1().constData());
+        EXPECT_NE(CMoonHelper::stringForMoonName(5), QStringLiteral("a waxing crescent")) << qPrintable(file);
+        const QString qtCatalogue = QLibraryInfo::path(QLibraryInfo::TranslationsPath) +
+                                    QStringLiteral("/qtbase_%1.qm").arg(language);
+        if (QFile::exists(qtCatalogue)) {
+            EXPECT_NE(QCoreApplication::translate("QWidgetTextControl", "&Paste"), QStringLiteral("&Paste"))
+                << qPrintable(file);
+        }
+    }
+}
+
+TEST_F(TranslationsTest, TheUsersLanguagesReachTheTexts) {
+    NSBundle& bundle = NSBundle::mainBundle();
+    bundle.installTranslations({QStringLiteral("nl"), QStringLiteral("de-AT"), QStringLiteral("fr")});
+    EXPECT_EQ(CMoonHelper::stringForMoonName(5), QStringLiteral("Zunehmende Mondsichel"));
+    EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel"), QStringLiteral("Abbrechen"));
+    EXPECT_EQ(QGuiApplication::layoutDirection(), Qt::LeftToRight);
+    use("ar");
+    EXPECT_EQ(QGuiApplication::layoutDirection(), Qt::RightToLeft);
+    bundle.installTranslations({QStringLiteral("fi"), QStringLiteral("en-GB"), QStringLiteral("ar")});
+    EXPECT_EQ(CMoonHelper::stringForMoonName(5), QStringLiteral("a waxing crescent"));
+    EXPECT_EQ(QGuiApplication::layoutDirection(), Qt::LeftToRight);
+}
+
+TEST_F(TranslationsTest, TheCreditsWordsAreAmongTheTexts) {
+    const QStringList untranslated{QStringLiteral("Lumivane"),
+                                   QStringLiteral("Jean Meeus, Astronomical Algorithms"),
+                                   QStringLiteral("Astronomy on the Personal Computer")};
+    QFile file(kRoot + QStringLiteral("/resources/Credits.rtf"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    QString error;
+    const auto credits = documentFromRTF(file.readAll(), &error);
+    ASSERT_TRUE(credits) << qPrintable(error);
+    const QStringList texts = sourceTexts() + untranslated;
+    for (const QString& line : credits->toPlainText().split(u'\n', Qt::SkipEmptyParts))
+        EXPECT_TRUE(texts.contains(line)) << qPrintable(line);
+}

@@ -1,0 +1,161 @@
+// SPDX-License-Identifier: MIT
+#include "shared/utilities/classes/DisclosureTriangleWithResize.h"
+
+#include "platform/appkit/NSBox.h"
+#include "platform/foundation/NSException.h"
+#include "platform/foundation/NSUserDefaults.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QVBoxLayout>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+const QString kKey = QStringLiteral("TriangleOpen");
+
+/// Three sections, one above the other, in a window's content.
+class DisclosureTriangleWithResizeTest : public testing::Test {
+protected:
+    struct Section {
+        NSBox* box;
+        DisclosureTriangleWithResize* triangle;
+        QLineEdit* field;
+    };
+
+    DisclosureTriangleWithResizeTest() {
+        defaults()->registerDefaults({{kKey, true}});
+        for (int i = 0; i < 3; ++i)
+            sections_.append(section(i == 1));
+        int y = 0;
+        for (const Section& each : sections_) {
+            each.box->setGeometry(0, y, 200, each.box->sizeHint().height());
+            y += each.box->height();
+        }
+        content_.resize(200, y);
+        content_.show();
+        QApplication::processEvents();
+    }
+    ~DisclosureTriangleWithResizeTest() override { defaults()->removeObjectForKey(kKey); }
+
+    static NSUserDefaults* defaults() { return NSUserDefaults::standardUserDefaults(); }
+
+    Section section(bool bound) {
+        auto* box = new NSBox(&content_);
+        auto* view = new QWidget(box);
+        auto* triangle = new DisclosureTriangleWithResize;
+        if (bound)
+            triangle->setProperty("binding", kKey);
+        auto* field = new QLineEdit;
+        auto* layout = new QVBoxLayout(view);
+        layout->addWidget(triangle);
+        layout->addWidget(field);
+        layout->activate();
+        return {box, triangle, field};
+    }
+
+    void awake() {
+        for (const Section& each : sections_)
+            each.triangle->awakeFromNib();
+    }
+
+    QList<int> tops() const {
+        QList<int> result;
+        for (const Section& each : sections_)
+            result.append(each.box->y());
+        return result;
+    }
+
+    QWidget content_;
+    QList<Section> sections_;
+};
+
+} // namespace
+
+TEST_F(DisclosureTriangleWithResizeTest, FoldsItsBoxAndCarriesTheOthersAlong) {
+    awake();
+    const auto& [box, triangle, field] = sections_[0];
+    const QList<int> open = tops();
+    const int height = content_.height();
+    EXPECT_EQ(triangle->largeHeight(), static_cast<float>(box->height()));
+    EXPECT_EQ(triangle->smallHeight(), static_cast<float>(2 * triangle->y() + triangle->height() - 2));
+    const int folded = static_cast<int>(triangle->largeHeight() - triangle->smallHeight());
+    ASSERT_GT(folded, 0);
+
+    triangle->click();
+    EXPECT_EQ(triangle->currentHeight(), triangle->smallHeight());
+    EXPECT_EQ(tops(), (QList<int>{0, open[1] - folded, open[2] - folded}));
+    EXPECT_EQ(content_.height(), height - folded);
+    EXPECT_FALSE(field->isVisible()) << "what is folded away takes no focus";
+    triangle->click();
+    EXPECT_EQ(tops(), open);
+    EXPECT_EQ(content_.height(), height);
+    EXPECT_TRUE(field->isVisible());
+
+    sections_[2].triangle->click();
+    EXPECT_EQ(tops(), open) << "what is above stays";
+    EXPECT_EQ(content_.height(), height - folded);
+}
+
+TEST_F(DisclosureTriangleWithResizeTest, NeighboursAreAboveOrBelowInOrder) {
+    auto* beside = new QWidget(&content_);
+    beside->setGeometry(150, sections_[1].box->y(), 50, sections_[1].box->height());
+    const auto* middle = sections_[1].triangle;
+    EXPECT_EQ(middle->viewsInWindow(true), QList<QWidget*>{sections_[0].box});
+    EXPECT_EQ(middle->viewsInWindow(false), QList<QWidget*>{sections_[2].box});
+    EXPECT_EQ(sections_[2].triangle->viewsInWindow(true),
+              (QList<QWidget*>{sections_[0].box, sections_[1].box, beside}));
+}
+
+TEST_F(DisclosureTriangleWithResizeTest, ABoundTriangleFollowsItsPreferenceAlone) {
+    defaults()->setBool(false, kKey);
+    awake();
+    const auto* triangle = sections_[1].triangle;
+    EXPECT_FALSE(triangle->isChecked());
+    EXPECT_EQ(triangle->currentHeight(), triangle->smallHeight());
+    sections_[1].triangle->click(); // nothing here stores it
+    EXPECT_EQ(triangle->currentHeight(), triangle->smallHeight());
+    defaults()->setBool(true, kKey);
+    EXPECT_TRUE(triangle->isChecked());
+    EXPECT_EQ(triangle->currentHeight(), triangle->largeHeight());
+    defaults()->setBool(false, kKey);
+    EXPECT_EQ(triangle->currentHeight(), triangle->smallHeight());
+}
+
+TEST_F(DisclosureTriangleWithResizeTest, ALargerContentIsNeverCutOff) {
+    awake();
+    const auto& [box, triangle, field] = sections_[0];
+    const int before = box->height();
+    const auto grow = [&](int by) {
+        field->setMinimumHeight(field->sizeHint().height() + by);
+        for (int i = 0; i < 3; ++i) // from the field to its view, and from there to the box
+            QApplication::sendPostedEvents();
+    };
+    grow(30);
+    EXPECT_EQ(box->height(), before + 30);
+    EXPECT_EQ(sections_[1].box->y(), before + 30);
+    triangle->click();
+    grow(50);
+    EXPECT_EQ(triangle->currentHeight(), triangle->smallHeight());
+    triangle->click();
+    EXPECT_EQ(box->height(), before + 50);
+}
+
+TEST(DisclosureTriangleWithResize, BelongsInABox) {
+    QWidget window;
+    auto* view = new QWidget(&window);
+    const DisclosureTriangleWithResize inAView(view);
+    for (const DisclosureTriangleWithResize* triangle :
+         {&inAView,
+          static_cast<const DisclosureTriangleWithResize*>(new DisclosureTriangleWithResize(&window))}) {
+        try {
+            (void)triangle->boxView();
+            ADD_FAILURE() << "nothing raised";
+        } catch (const NSInternalInconsistencyException& failure) {
+            EXPECT_TRUE(failure.reason().startsWith(u"DisclosureTriangle needs to be in an NSBox."))
+                << failure.what();
+        }
+    }
+}
