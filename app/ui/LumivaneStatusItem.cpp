@@ -19,6 +19,7 @@
 
 #include <QApplication>
 #include <QGuiApplication>
+#include <QIcon>
 #include <QMenu>
 #include <QScreen>
 
@@ -40,7 +41,9 @@ void LumivaneStatusItem::awakeFromNib() {
     connect(statusItem_.get(), &NSStatusItem::clicked, this,
             [this] { statusItemClicked(statusItem_.get()); });
     connect(statusItem_.get(), &NSStatusItem::shownChanged, this, &LumivaneStatusItem::trayChanged);
-    makeAsHiddenMenu();
+    // The panel waits until someone asks for it or for the menu, which has its commands: the icon comes first.
+    connect(menu_.get(), &QMenu::aboutToShow, this, [this] { Q_EMIT controller().gearMenu()->aboutToShow(); });
+    showNow();
     clock_.setTimerType(Qt::VeryCoarseTimer);
     connect(&clock_, &QTimer::timeout, this, &LumivaneStatusItem::moonClockTimer);
     clock_.start(kClockInterval);
@@ -53,7 +56,7 @@ void LumivaneStatusItem::showNow() {
 }
 
 void LumivaneStatusItem::moonClockTimer() {
-    if (!lumivaneWindow_->window()->isVisible())
+    if (!isPanelVisible())
         showNow();
 }
 
@@ -100,6 +103,13 @@ void LumivaneStatusItem::replaceController(std::uint32_t styleMask) {
         // It may be one of its own controls that asks for the change.
         lumivaneWindow_.release()->deleteLater();
     }
+    loadController(styleMask);
+}
+
+void LumivaneStatusItem::loadController(std::uint32_t styleMask) {
+    // Looking through the icon theme costs more than drawing the Moon: not before there is a window.
+    if (QApplication::windowIcon().isNull())
+        QApplication::setWindowIcon(QIcon::fromTheme(NSBundle::mainBundle().bundleIdentifier()));
     LumivaneWindow::setNextStyleMask(styleMask);
     lumivaneWindow_ = LumivaneWindowController::lumivaneWindowController();
     lumivaneWindow_->setStatusItem(this);
@@ -111,18 +121,27 @@ void LumivaneStatusItem::replaceController(std::uint32_t styleMask) {
                      this, &LumivaneStatusItem::showPanel);
     menu_->addSeparator();
     menu_->addActions(lumivaneWindow_->gearMenu()->actions());
-    connect(menu_.get(), &QMenu::aboutToShow, lumivaneWindow_->gearMenu(), &QMenu::aboutToShow);
+}
+
+LumivaneWindowController& LumivaneStatusItem::controller() {
+    if (!lumivaneWindow_)
+        loadController(LumivaneWindow::kBorderlessMask);
+    return *lumivaneWindow_;
+}
+
+bool LumivaneStatusItem::isPanelVisible() const {
+    return lumivaneWindow_ && lumivaneWindow_->window()->isVisible();
 }
 
 void LumivaneStatusItem::statusItemClicked(QObject*) {
-    if (lumivaneWindow_->window()->isVisible())
+    if (isPanelVisible())
         makeAsHiddenMenu();
     else
         showPanel();
 }
 
 void LumivaneStatusItem::showPanel() {
-    LumivaneWindow* window = lumivaneWindow_->window();
+    LumivaneWindow* window = controller().window();
     if (!window->isVisible()) {
         lumivaneWindow_->showNow(nullptr);
         if (!lumivaneWindow_->isWindoid())
@@ -141,11 +160,12 @@ void LumivaneStatusItem::windowWillClose() {
 }
 
 void LumivaneStatusItem::trayChanged(bool shown) {
-    const bool windoid = lumivaneWindow_->isWindoid();
+    const bool windoid = lumivaneWindow_ && lumivaneWindow_->isWindoid();
     if (shown && windoid)
         makeAsHiddenMenu();
     else if (!shown && !windoid)
         makeAsWindoid();
+    Q_EMIT trayKnown();
 }
 
 bool LumivaneStatusItem::isInTray() const {

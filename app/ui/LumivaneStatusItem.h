@@ -25,7 +25,7 @@ public:
     LumivaneStatusItem();
     ~LumivaneStatusItem() override;
 
-    /// Creates the tray item, a first panel and the clock. On a desktop without a tray the panel opens as a
+    /// Creates the tray item and the clock; the panel is loaded when it is first needed. On a desktop without a tray the panel opens as a
     /// utility window, until a tray appears.
     void awakeFromNib();
 
@@ -61,7 +61,14 @@ public Q_SLOTS:
     /// Shows the panel if it is hidden, and brings it to the front.
     void showPanel();
 
+Q_SIGNALS:
+    /// Whether there is a tray became known, or changed: once soon after the start, with the icon in its place.
+    void trayKnown();
+
 private:
+    LumivaneWindowController& controller();
+    bool isPanelVisible() const;
+    void loadController(std::uint32_t styleMask);
     void moonClockTimer();
     void trayChanged(bool shown);
     void replaceController(std::uint32_t styleMask);

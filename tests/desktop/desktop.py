@@ -4,6 +4,7 @@
 Xvfb, a D-Bus session, openbox and xfce4-panel; the pointer and the keys through xdotool; what the panel shows is
 read through the accessibility bus."""
 
+import configparser
 import os
 import pathlib
 import re
@@ -45,6 +46,8 @@ PANEL_CONFIG = """<?xml version="1.0" encoding="UTF-8"?>
 </channel>
 """
 
+COMMANDS = ("Copy Information to Clipboard", "Open at Login", "Check for Update...", "Lumivane Home Page",
+            "About Lumivane", "Quit Lumivane")
 # Of a panel at each edge: 1 for one that stands upright, and its place in a screen of 1280 by 800.
 EDGES = {"top": (0, "p=6;x=640;y=14"), "bottom": (0, "p=8;x=640;y=786"),
          "left": (1, "p=6;x=14;y=400"), "right": (1, "p=2;x=1266;y=400")}
@@ -118,6 +121,12 @@ class Desktop:
         os.close(writer)
         with os.fdopen(reader) as answer:
             os.environ["DBUS_SESSION_BUS_ADDRESS"] = answer.readline().strip()
+
+    def start_window_manager(self):
+        # A panel that maps its window while this one starts stays off the screen.
+        self.spawn(["openbox"])
+        wait_for("the window manager", lambda: "window id" in subprocess.run(
+            ["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], capture_output=True, text=True).stdout)
 
     def start_panel(self, edge):
         folder = pathlib.Path(self.home, "config/xfce4/xfconf/xfce-perchannel-xml")
@@ -238,7 +247,49 @@ class Desktop:
         self.xdotool("key", *keys)
 
     def type(self, text):
-        self.xdotool("type", "--delay", "20", text)
+        self.xdotool("type", "--delay", "20", "--", text)
+
+    def click_at_start(self, node):
+        """Clicks a control at its leading end."""
+        box = self.extents(node)
+        self.click(box.x + 8, box.y + box.height // 2)
+
+    def choose_command(self, name):
+        """A command of the gear menu."""
+        self.click_control("Menu")
+        time.sleep(0.2)
+        self.key(*["Down"] * (COMMANDS.index(name) + 1), "Return")
+
+    def clipboard(self, target="UTF8_STRING"):
+        return subprocess.run(["xclip", "-selection", "clipboard", "-o", "-t", target], check=True,
+                              capture_output=True, timeout=10).stdout.decode()
+
+    # What the program stores and opens
+
+    def preferences(self):
+        """What the user's preference file holds now."""
+        parser = configparser.ConfigParser(interpolation=None)
+        parser.optionxform = str
+        parser.read(os.path.join(self.home, "config/lumivane/lumivane.conf"))
+        return dict(parser["General"]) if "General" in parser else {}
+
+    def install_browser(self):
+        """A browser for web pages that only notes what it is to open."""
+        self.opened_pages = pathlib.Path(self.home, "opened")
+        browser = pathlib.Path(self.home, "browser")
+        browser.write_text('#!/bin/sh\necho "$@" >> "%s"\n' % self.opened_pages)
+        browser.chmod(0o755)
+        entry = pathlib.Path(self.home, "data/applications/browser.desktop")
+        entry.parent.mkdir(parents=True)
+        entry.write_text("[Desktop Entry]\nType=Application\nName=Browser\nExec=%s %%u\n" % browser)
+        scheme = "x-scheme-handler/https=browser.desktop\n"
+        pathlib.Path(self.home, "config/mimeapps.list").write_text("[Default Applications]\n" + scheme)
+
+    def opened(self):
+        """The page that was opened since the last call."""
+        page = wait_for("the page", lambda: self.opened_pages.exists() and self.opened_pages.read_text()).strip()
+        self.opened_pages.unlink()
+        return page
 
     def screenshot(self, path):
         subprocess.run(["import", "-window", "root", path], check=True)
@@ -315,6 +366,30 @@ class Desktop:
             if child and child.get_name() == name and self.shows(child):
                 return child
         return None
+
+    def dialog(self):
+        """The dialog that is open, or nothing."""
+        application = self.application("Lumivane")
+        for index in range(application.get_child_count() if application else 0):
+            child = application.get_child_at_index(index)
+            if child and child.get_role_name() in ("dialog", "alert") and self.shows(child):
+                return child
+        return None
+
+    def text(self, node):
+        """What an editable field holds."""
+        return self.atspi().Text.get_text(node, 0, -1)
+
+    def focus(self, node):
+        """Gives a control the keyboard's focus as assistive programs do."""
+        self.atspi().Component.grab_focus(node)
+        wait_for("the focus", lambda: node.get_state_set().contains(self.atspi().StateType.FOCUSED))
+
+    def focused(self):
+        """The control of the panel that has the keyboard's focus."""
+        focused = self.atspi().StateType.FOCUSED
+        return next((node for node in self.walk(self.window()) if node.get_state_set().contains(focused)
+                     and node.get_role_name() != "list item"), None)
 
     def shows(self, node):
         return node.get_state_set().contains(self.atspi().StateType.SHOWING)
