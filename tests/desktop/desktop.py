@@ -96,12 +96,6 @@ class Desktop:
         if edge:
             self.start_panel(edge)
 
-    def start_window_manager(self):
-        # A panel that maps its window while this one starts stays off the screen.
-        self.spawn(["openbox"])
-        wait_for("the window manager", lambda: "window id" in subprocess.run(
-            ["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], capture_output=True, text=True).stdout)
-
     def spawn(self, command, **keywords):
         child = subprocess.Popen(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, **keywords)
         self.children.append(child)
