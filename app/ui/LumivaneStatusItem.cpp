@@ -215,14 +215,12 @@ void LumivaneStatusItem::keepUnderIcon(LumivaneWindow* window) {
 }
 
 void LumivaneStatusItem::placeUnderIcon() {
-    if (swayPlacement_) {
-        swayPlacement_->place();
-        return;
-    }
     const std::optional<QRect> icon = globalFrame();
     const QScreen* screen = icon ? QGuiApplication::screenAt(icon->center()) : nullptr;
     if (!screen)
         screen = QGuiApplication::primaryScreen();
     LumivaneWindow* window = lumivaneWindow_->window();
     window->setGeometry(panelFrame(icon, window->size(), screen->geometry(), NSScreen::visibleFrame(screen)));
+    if (swayPlacement_)
+        swayPlacement_->place();
 }

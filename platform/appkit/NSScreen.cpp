@@ -1,15 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "platform/appkit/NSScreen.h"
 
-#include <QGuiApplication>
-#include <QScreen>
+#include "platform/appkit/X11.h"
 
-#include <xcb/xcb.h>
+#include <QScreen>
 
 #include <algorithm>
 #include <cmath>
-#include <cstdlib>
-#include <memory>
 #include <string_view>
 #include <vector>
 
@@ -17,20 +14,15 @@ namespace {
 
 constexpr std::uint32_t kMostWindows = 4096;
 
-template <typename T>
-std::unique_ptr<T, decltype(&std::free)> owned(T* answer) {
-    return {answer, &std::free};
-}
-
 xcb_atom_t atom(xcb_connection_t* connection, std::string_view name) {
     const auto cookie =
         xcb_intern_atom(connection, true, static_cast<std::uint16_t>(name.size()), name.data());
-    const auto answer = owned(xcb_intern_atom_reply(connection, cookie, nullptr));
+    const auto answer = X11::owned(xcb_intern_atom_reply(connection, cookie, nullptr));
     return answer ? answer->atom : xcb_atom_t{XCB_ATOM_NONE};
 }
 
 std::vector<std::uint32_t> numbers(xcb_connection_t* connection, xcb_get_property_cookie_t cookie) {
-    const auto answer = owned(xcb_get_property_reply(connection, cookie, nullptr));
+    const auto answer = X11::owned(xcb_get_property_reply(connection, cookie, nullptr));
     if (!answer || answer->format != 32)
         return {};
     const auto* const first = static_cast<const std::uint32_t*>(xcb_get_property_value(answer.get()));
@@ -72,7 +64,7 @@ QRect withoutStruts(xcb_connection_t* connection, const QScreen* screen) {
     const QRect whole = screen->geometry();
     const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root;
     const auto desktop =
-        owned(xcb_get_geometry_reply(connection, xcb_get_geometry(connection, root), nullptr));
+        X11::owned(xcb_get_geometry_reply(connection, xcb_get_geometry(connection, root), nullptr));
     if (!desktop)
         return whole;
     // A scaled screen keeps its origin.
@@ -115,8 +107,8 @@ QRect NSScreen::without(const std::vector<Strut>& struts, const QRect& screen) {
 }
 
 QRect NSScreen::visibleFrame(const QScreen* screen) {
-    const auto* const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    if (x11 && QGuiApplication::screens().size() > 1)
-        return withoutStruts(x11->connection(), screen);
+    xcb_connection_t* const connection = X11::connection();
+    if (connection && QGuiApplication::screens().size() > 1)
+        return withoutStruts(connection, screen);
     return screen->availableGeometry() & screen->geometry();
 }

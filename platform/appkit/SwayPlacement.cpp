@@ -1,19 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "platform/appkit/SwayPlacement.h"
 
+#include "platform/appkit/X11.h"
 #include "platform/foundation/NSLog.h"
 
-#include <QGuiApplication>
+#include <QCoreApplication>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLocalSocket>
 #include <QWidget>
 
-#include <xcb/xcb.h>
-
 #include <algorithm>
-#include <cstdlib>
 #include <cstring>
 
 namespace {
@@ -80,19 +79,30 @@ int pointerAlong(int start, int end, int screenStart, int screenEnd) {
     return end >= screenEnd ? screenEnd : (start + end + 1) / 2;
 }
 
+SwayPlacement::Surroundings surroundingsOf(const Found& found, int height) {
+    const QRect screen = rectangleOf(found.output);
+    const QRect frame = rectangleOf(found.window);
+    return {
+        .pointer = {pointerAlong(frame.left(), frame.right(), screen.left(), screen.right()),
+                    pointerAlong(frame.top(), frame.bottom(), screen.top(), screen.bottom())},
+        .screen = screen,
+        .available = rectangleOf(found.workspace),
+        .scale = static_cast<qreal>(frame.height()) / std::max(1, height),
+    };
+}
+
 /// Has the X server pass on what it was told so far. Sway puts a window whose size changes into the middle
 /// again and must not hear of the new size after the new place.
 void flushX11() {
-    if (const auto* const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>()) {
-        xcb_connection_t* const connection = x11->connection();
-        std::free(xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
-    }
+    if (xcb_connection_t* const connection = X11::connection())
+        X11::owned(xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
 }
 
 } // namespace
 
 bool SwayPlacement::isThere() {
-    return !qEnvironmentVariableIsEmpty(kSocketVariable);
+    // The variable may be left over from another session.
+    return QFileInfo::exists(qEnvironmentVariable(kSocketVariable));
 }
 
 SwayPlacement::SwayPlacement(QWidget* window, Chooser chooser)
@@ -103,35 +113,37 @@ SwayPlacement::SwayPlacement(QWidget* window, Chooser chooser)
 }
 
 void SwayPlacement::place() {
+    const bool talking = socket_->isOpen();
+    if (!talking)
+        socket_->connectToServer(qEnvironmentVariable(kSocketVariable));
+    if (!socket_->isOpen())
+        return;
     if (surroundings_)
         move();
-    else if (!socket_->isOpen())
+    else if (!talking)
         awaitWindow();
 }
 
 void SwayPlacement::awaitWindow() {
-    // An X11 window comes up at the pointer by this, and is not seen elsewhere before; Sway knows no such
+    state_ = State::Awaiting;
+    // An X11 window comes up at the pointer by this, and is not seen elsewhere before. Sway keeps no such
     // rule twice.
     send(kRunCommand, QStringLiteral("for_window [pid=%1 window_role=\"^%2$\"] move position pointer")
                           .arg(QCoreApplication::applicationPid())
-                          .arg(kRole)
-                          .toUtf8());
-    send(kSubscribe, R"(["window"])");
+                          .arg(kRole));
+    send(kSubscribe, QStringLiteral("[\"window\"]"));
 }
 
-void SwayPlacement::send(quint32 type, const QByteArray& payload) {
-    if (!socket_->isOpen())
-        socket_->connectToServer(qEnvironmentVariable(kSocketVariable));
-    if (!socket_->isOpen())
-        return;
-    ++unanswered_;
-    socket_->write(kMark + bytesOf(static_cast<quint32>(payload.size())) + bytesOf(type) + payload);
+void SwayPlacement::send(quint32 type, const QString& payload) {
+    const QByteArray bytes = payload.toUtf8();
+    socket_->write(kMark + bytesOf(static_cast<quint32>(bytes.size())) + bytesOf(type) + bytes);
     // Before the window shows, not after its fade.
     socket_->flush();
+    ++unanswered_;
 }
 
 void SwayPlacement::runCommand(const QString& command) {
-    send(kRunCommand, QStringLiteral("[con_id=%1] %2").arg(*identifier_).arg(command).toUtf8());
+    send(kRunCommand, QStringLiteral("[con_id=%1] %2").arg(identifier_).arg(command));
 }
 
 void SwayPlacement::read() {
@@ -147,56 +159,49 @@ void SwayPlacement::read() {
         const quint32 type = numberAt(received_, kMark.size() + kNumberSize);
         const QByteArray payload = received_.mid(kHeaderSize, length);
         received_.remove(0, kHeaderSize + length);
-        receive(type, payload);
+        receive(type, QJsonDocument::fromJson(payload));
     }
 }
 
-void SwayPlacement::receive(quint32 type, const QByteArray& payload) {
-    const QJsonDocument message = QJsonDocument::fromJson(payload);
-    if (type != kWindowEvent)
-        --unanswered_;
-    switch (type) {
-    case kSubscribe:
-        send(kGetTree); // the window may be there already
-        break;
-    case kWindowEvent:
-        if (!identifier_ && message[u"change"].toString() == u"new")
+void SwayPlacement::receive(quint32 type, const QJsonDocument& message) {
+    if (type == kWindowEvent) {
+        if (state_ == State::Awaiting && message[u"change"].toString() == u"new")
             send(kGetTree);
-        break;
-    case kGetTree:
-        receiveTree(message.object());
-        break;
-    case kRunCommand:
-        if (!message[0][u"success"].toBool())
-            giveUp(message[0][u"error"].toString());
-        else if (surroundings_ && unanswered_ == 0)
-            hangUp();
-        break;
-    default:
-        break;
+        return;
     }
+    --unanswered_;
+    if (type == kSubscribe)
+        send(kGetTree); // the window may be there already
+    else if (type == kGetTree)
+        receiveTree(message.object());
+    else if (type == kRunCommand && message[0][u"success"].toBool())
+        commandDone();
+    else
+        giveUp(message[0][u"error"].toString());
 }
 
 void SwayPlacement::receiveTree(const QJsonObject& tree) {
     const std::optional<Found> found = findWindow(tree, window_->windowTitle());
-    if (!found || surroundings_)
+    if (!found)
         return;
-    if (!identifier_) {
+    if (state_ == State::Awaiting) {
+        state_ = State::GoingToPointer;
         identifier_ = found->window[u"id"].toInteger();
         runCommand(QStringLiteral("move position pointer"));
-        send(kGetTree);
-        return;
+    } else if (state_ == State::AtPointer) {
+        state_ = State::Placed;
+        surroundings_ = surroundingsOf(*found, window_->height());
+        move();
     }
-    const QRect screen = rectangleOf(found->output);
-    const QRect frame = rectangleOf(found->window);
-    surroundings_ = {
-        .pointer = {pointerAlong(frame.left(), frame.right(), screen.left(), screen.right()),
-                    pointerAlong(frame.top(), frame.bottom(), screen.top(), screen.bottom())},
-        .screen = screen,
-        .available = rectangleOf(found->workspace),
-        .scale = static_cast<qreal>(frame.height()) / std::max(1, window_->height()),
-    };
-    move();
+}
+
+void SwayPlacement::commandDone() {
+    if (state_ == State::GoingToPointer) {
+        state_ = State::AtPointer;
+        send(kGetTree);
+    } else if (state_ == State::Placed && unanswered_ == 0) {
+        hangUp();
+    }
 }
 
 void SwayPlacement::move() {

@@ -8,6 +8,7 @@
 #include <functional>
 #include <optional>
 
+class QJsonDocument;
 class QJsonObject;
 class QLocalSocket;
 class QWidget;
@@ -30,7 +31,7 @@ public:
     /// The place for the window's upper left corner.
     using Chooser = std::function<QPoint(const Surroundings&)>;
 
-    /// Whether the program runs under Sway.
+    /// Whether Sway runs the session.
     static bool isThere();
 
     /// `window`, which is not shown yet, becomes the owner.
@@ -41,12 +42,20 @@ public:
     void place();
 
 private:
+    enum class State {
+        Awaiting,       ///< The window is not there yet.
+        GoingToPointer, ///< Sway was told to put it there, which also tells where that is.
+        AtPointer,
+        Placed,
+    };
+
     void awaitWindow();
-    void send(quint32 type, const QByteArray& payload = {});
+    void send(quint32 type, const QString& payload = {});
     void read();
-    void receive(quint32 type, const QByteArray& payload);
+    void receive(quint32 type, const QJsonDocument& message);
     void receiveTree(const QJsonObject& tree);
     void runCommand(const QString& command);
+    void commandDone();
     void move();
     void hangUp();
     void giveUp(const QString& reason);
@@ -55,7 +64,8 @@ private:
     const Chooser chooser_;
     QLocalSocket* const socket_;
     QByteArray received_;
-    std::optional<qint64> identifier_; ///< Sway's number of the window.
-    std::optional<Surroundings> surroundings_;
+    State state_ = State::Awaiting;
     int unanswered_ = 0;
+    qint64 identifier_ = 0; ///< Sway's number of the window.
+    std::optional<Surroundings> surroundings_;
 };

@@ -50,7 +50,9 @@ class SwayTest(PlacementCase):
         self.check("xdg_shell")
 
     def test_without_answer(self):
-        self.desktop.start(self.program, environment={"SWAYSOCK": "/nonexistent"})
+        nobody = os.path.join(self.desktop.home, "nobody")
+        open(nobody, "w").close()
+        self.desktop.start(self.program, environment={"SWAYSOCK": nobody})
         self.desktop.open_panel()
         wait_for("the complaint", lambda: "Sway does not place the panel" in self.desktop.logged())
         self.hide()
