@@ -23,7 +23,8 @@ PANEL_CONFIG = """<?xml version="1.0" encoding="UTF-8"?>
     <value type="int" value="1"/>
     <property name="dark-mode" type="bool" value="true"/>
     <property name="panel-1" type="empty">
-      <property name="position" type="string" value="p={position};x=640;y={y}"/>
+      <property name="mode" type="uint" value="{mode}"/>
+      <property name="position" type="string" value="{position}"/>
       <property name="length" type="uint" value="100"/>
       <property name="position-locked" type="bool" value="true"/>
       <property name="size" type="uint" value="28"/>
@@ -45,6 +46,10 @@ PANEL_CONFIG = """<?xml version="1.0" encoding="UTF-8"?>
 </channel>
 """
 
+# Of a panel at each edge: 1 for one that stands upright, and its place in a screen of 1280 by 800.
+EDGES = {"top": (0, "p=6;x=640;y=14"), "bottom": (0, "p=8;x=640;y=786"),
+         "left": (1, "p=6;x=14;y=400"), "right": (1, "p=2;x=1266;y=400")}
+
 FAKETIME = "/usr/lib/{}-linux-gnu/faketime/libfaketime.so.1".format(os.uname().machine)
 
 
@@ -58,6 +63,10 @@ def wait_for(what, condition, seconds=15.0):
         if time.monotonic() > end:
             raise AssertionError("timed out waiting for " + what)
         time.sleep(0.05)
+
+
+def rectangle(x, y, width, height):
+    return types.SimpleNamespace(x=x, y=y, width=width, height=height)
 
 
 class Desktop:
@@ -78,9 +87,12 @@ class Desktop:
             os.environ.pop(name, None)
         self.start_screen(size)
         self.start_bus()
-        self.spawn(["openbox"])
-        if tray:
-            self.start_panel(panel)
+        self.start_session(panel if tray else None)
+
+    def start_session(self, edge):
+        self.start_window_manager()
+        if edge:
+            self.start_panel(edge)
 
     def spawn(self, command, **keywords):
         child = subprocess.Popen(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, **keywords)
@@ -102,19 +114,27 @@ class Desktop:
         with os.fdopen(reader) as answer:
             os.environ["DBUS_SESSION_BUS_ADDRESS"] = answer.readline().strip()
 
+    def start_window_manager(self):
+        # A panel that maps its window while this one starts stays off the screen.
+        self.spawn(["openbox"])
+        wait_for("the window manager", lambda: "window id" in subprocess.run(
+            ["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], capture_output=True, text=True).stdout)
+
     def start_panel(self, edge):
         folder = pathlib.Path(self.home, "config/xfce4/xfconf/xfce-perchannel-xml")
         folder.mkdir(parents=True, exist_ok=True)
-        position, y = ("6", "14") if edge == "top" else ("8", "786")
-        (folder / "xfce4-panel.xml").write_text(PANEL_CONFIG.format(position=position, y=y))
-        # On a busy machine the panel's window now and then stays off the screen; another try brings it up.
+        mode, position = EDGES[edge]
+        (folder / "xfce4-panel.xml").write_text(PANEL_CONFIG.format(mode=mode, position=position))
+        self.run_panel()
+
+    def run_panel(self):
+        # Even so, on a busy machine, its window now and then stays away; another try brings it up.
         for _ in range(3):
             self.panel = self.spawn(["xfce4-panel", "--disable-wm-check"])
             wait_for("the tray", lambda: self.bus_has("org.kde.StatusNotifierWatcher"), 30)
             if self.panel_is_up():
                 return
-            self.panel.terminate()
-            self.panel.wait(10)
+            self.crash_panel()
         raise AssertionError("the panel stays off the screen")
 
     def panel_is_up(self):
@@ -123,6 +143,20 @@ class Desktop:
                 ["xdotool", "search", "--onlyvisible", "--class", "xfce4-panel"], capture_output=True).stdout, 4)
         except AssertionError:
             return False
+
+    def crash_panel(self):
+        """Ends the panel without a chance to say so, and with it the tray in it."""
+        self.panel.kill()
+        self.panel.wait()
+        self.children.remove(self.panel)
+        wait_for("the tray to go", lambda: not self.bus_has("org.kde.StatusNotifierWatcher"))
+
+    def move_panel(self, edge):
+        """Puts the running panel to another edge."""
+        mode, position = EDGES[edge]
+        for key, kind, value in (("mode", "uint", mode), ("position", "string", position)):
+            subprocess.run(["xfconf-query", "-c", "xfce4-panel", "-p", "/panels/panel-1/" + key,
+                            "-n", "-t", kind, "-s", str(value)], check=True)
 
     def gio(self):
         import gi
@@ -264,6 +298,13 @@ class Desktop:
         return subprocess.run(["xdotool", "search", "--onlyvisible", "--name", "^" + name + "$"],
                               capture_output=True, text=True).stdout.split()
 
+    def rectangle(self, name="Lumivane"):
+        """Where the X window of that title is, in the screen's pixels."""
+        window = wait_for("the window", lambda: self.titled(name))[0]
+        shown = subprocess.run(["xwininfo", "-id", window], check=True, capture_output=True, text=True).stdout
+        return rectangle(*(int(re.search(key + r":\s+(-?\d+)", shown).group(1))
+                           for key in ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height")))
+
     # What a screen reader hears
 
     def atspi(self):
@@ -274,6 +315,10 @@ class Desktop:
             Atspi.init()
             Atspi.set_timeout(4000, 4000)
             self._atspi = Atspi
+        # What changed since is heard of only here.
+        _, GLib = self.gio()
+        while GLib.MainContext.default().iteration(False):
+            pass
         return Atspi
 
     def application(self, name):

@@ -1,0 +1,79 @@
+#!/usr/bin/python3
+# SPDX-License-Identifier: MIT
+"""An install that was moved to another folder, and what the desktop's menu does with it."""
+
+import os
+import pathlib
+import shutil
+import subprocess
+import sys
+import tempfile
+import unittest
+
+from desktop import Desktop, wait_for
+
+PROGRAM = pathlib.Path(sys.argv.pop(1)).resolve()
+IDENTIFIER = "com.corvanta.Lumivane"
+
+
+class InstallTest(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        folder = tempfile.mkdtemp(prefix="moved install ")
+        cls.addClassCleanup(shutil.rmtree, folder)
+        cls.prefix = pathlib.Path(folder, "Applications")
+        shutil.copytree(PROGRAM.parent.parent, cls.prefix)
+        # Tells the moved resources from those it was installed with.
+        layout = cls.prefix / "share/lumivane/LumivaneWindow.ui"
+        layout.write_text(layout.read_text().replace("<string>Latitude:", "<string>Moved:"))
+        # The session's bus starts what the menu asks for.
+        os.environ["PATH"] = "{}:{}".format(cls.prefix / "bin", os.environ["PATH"])
+        os.environ["XDG_DATA_DIRS"] = "{}:/usr/local/share:/usr/share".format(cls.prefix / "share")
+        cls.desktop = Desktop()
+        cls.addClassCleanup(cls.desktop.close)
+
+    def pid(self):
+        _, GLib = self.desktop.gio()
+        answer = self.desktop.call("org.freedesktop.DBus", "/", "org.freedesktop.DBus", "GetConnectionUnixProcessID",
+                                   GLib.Variant("(s)", (IDENTIFIER,)))
+        return answer.unpack()[0]
+
+    def action(self, name):
+        subprocess.run(["gapplication", "action", IDENTIFIER, name], check=True, timeout=30)
+
+    def menu(self):
+        """As the desktop's menu starts it."""
+        from gi.repository import Gio
+        Gio.DesktopAppInfo.new(IDENTIFIER + ".desktop").launch([], None)
+
+    def test_runs_where_it_was_moved(self):
+        here = os.getcwd()
+        os.chdir("/")
+        self.addCleanup(os.chdir, here)
+        self.desktop.start(self.prefix / "bin/Lumivane")
+        self.addCleanup(self.desktop.stop)
+        self.desktop.open_panel()
+        wait_for("the moved layout", lambda: "Moved:" in self.desktop.lines())
+        self.assertTrue(self.desktop.line("Moon is "))
+        self.assertEqual(self.desktop.logged(), "")
+
+    def test_menu_starts_shows_and_quits(self):
+        self.menu()
+        wait_for("the panel of a new copy", self.desktop.window)
+        first = self.pid()
+        self.desktop.click_icon()
+        wait_for("the panel to go", lambda: not self.desktop.window())
+        self.menu()
+        wait_for("the panel of the running copy", self.desktop.window)
+        self.assertEqual(self.pid(), first)
+        self.desktop.click_icon()
+        wait_for("the panel to go", lambda: not self.desktop.window())
+        self.action("show")
+        wait_for("the panel after the action", self.desktop.window)
+        self.action("quit")
+        wait_for("the program to end", lambda: not self.desktop.bus_has(IDENTIFIER))
+        wait_for("the item to go", lambda: not self.desktop.items())
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)

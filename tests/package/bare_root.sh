@@ -1,0 +1,118 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+# bare_root.sh PACKAGE: installs the package in a bare Debian 12 of its own, starts the program there on a virtual
+# desktop, uses it over the session bus, and removes it again. Needs root and debootstrap; takes Debian from where this
+# machine has it from.
+set -euo pipefail
+export LC_ALL=C.UTF-8 DEBIAN_FRONTEND=noninteractive
+package=$(realpath "$1")
+identifier=com.corvanta.Lumivane
+
+if [ "$(id -u)" -ne 0 ]; then
+  echo "Skipped: a bare root is made by root alone."
+  exit 0
+fi
+
+fail() {
+  echo "FAILED: $*" >&2
+  exit 1
+}
+
+root=$(mktemp -d /var/tmp/lumivane-root.XXXXXX)
+chmod 755 "$root"
+discard() {
+  for mounted in dev/pts dev/shm dev proc; do
+    if mountpoint -q "$root/$mounted"; then umount -l "$root/$mounted"; fi
+  done
+  rm -rf --one-file-system "$root"
+}
+trap discard EXIT
+
+inside() { # command...
+  timeout --kill-after=10 600 chroot "$root" /usr/bin/env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/root \
+    LC_ALL=C.UTF-8 DEBIAN_FRONTEND=noninteractive "$@"
+}
+
+everything() { # every file that a package or its scripts can have put there, but not what they say of themselves
+  (cd "$root" && find . -xdev \( -path ./proc -o -path ./dev -o -path ./tmp -o -path ./var/log -o -path ./var/cache \
+    -o -path ./var/lib/dpkg -o -path ./var/lib/apt \) -prune -o -print | sort)
+}
+
+echo "Making a bare Debian 12 in $root"
+# shellcheck disable=SC2016 # apt's own variable
+mirror=$(apt-get indextargets --format '$(REPO_URI)' 'Created-By: Packages' 'Codename: bookworm' | head -n 1)
+timeout 900 debootstrap --variant=minbase bookworm "$root" "${mirror:-http://deb.debian.org/debian}" \
+  >"$root.log" 2>&1 || { tail "$root.log"; fail "no bare Debian ($root.log)"; }
+rm -f "$root.log"
+rm -rf "$root/etc/apt"
+cp -a /etc/apt "$root/etc/apt"
+cp -a /usr/share/keyrings/. "$root/usr/share/keyrings/"
+cp -L /etc/resolv.conf /etc/hosts "$root/etc/"
+mount -t proc proc "$root/proc"
+mount --bind /dev "$root/dev"
+mount -t tmpfs tmpfs "$root/dev/shm"
+mount -t devpts devpts "$root/dev/pts"
+# Nothing that comes along starts a service.
+printf '#!/bin/sh\nexit 101\n' >"$root/usr/sbin/policy-rc.d"
+chmod +x "$root/usr/sbin/policy-rc.d"
+
+echo "Installing what the test itself needs"
+inside apt-get update -qq
+inside apt-get install -y -qq --no-install-recommends xvfb xauth dbus libglib2.0-bin >/dev/null 2>&1 ||
+  fail "no virtual display"
+
+echo "Installing $(basename "$package"), with what it depends on and no more"
+cp "$package" "$root/tmp/lumivane.deb"
+# Its dependencies first: what is there after it is removed again must be what was there before it.
+dependencies=$(dpkg-deb --field "$package" Depends | sed 's/([^)]*)//g; s/,/ /g')
+# shellcheck disable=SC2086 # one word for each package
+inside apt-get install -y -qq --no-install-recommends $dependencies >/dev/null 2>&1 || fail "a dependency is missing"
+everything >"$root/tmp/before"
+inside apt-get install -y -qq --no-install-recommends /tmp/lumivane.deb >"$root/tmp/log" 2>&1 ||
+  { cat "$root/tmp/log"; fail "it does not install"; }
+
+echo "Starting it under Xvfb"
+cat >"$root/tmp/session" <<SESSION
+set -eu
+says() { gdbus call --session --dest "\$@"; }
+owner() { says org.freedesktop.DBus --object-path / --method org.freedesktop.DBus.GetConnectionUnixProcessID $identifier; }
+await() { # seconds command...
+  end=\$((\$(date +%s) + \$1)); shift
+  until "\$@" >/dev/null 2>&1; do
+    [ "\$(date +%s)" -lt "\$end" ] || { echo "timed out waiting for: \$*"; exit 1; }
+    sleep 0.2
+  done
+}
+gone() { ! owner; }
+
+Lumivane >/tmp/log 2>&1 &
+program=\$!
+await 30 owner
+sleep 10
+kill -0 \$program || { echo "it ended by itself"; exit 1; }
+# The menu's click and the action reach the running copy; then the bus starts one by itself.
+gapplication launch $identifier
+owner | grep -qw \$program || { echo "the menu's click does not reach the copy that runs"; exit 1; }
+gapplication action $identifier quit
+wait \$program || { echo "it ended with status \$?"; exit 1; }
+await 10 gone
+gapplication launch $identifier
+await 30 owner
+gapplication action $identifier quit
+await 10 gone
+SESSION
+mkdir -m 700 "$root/tmp/runtime"
+inside env XDG_RUNTIME_DIR=/tmp/runtime xvfb-run -a -s "-screen 0 1280x800x24" dbus-run-session -- sh /tmp/session ||
+  { cat "$root/tmp/log"; fail "it does not run"; }
+if grep -v "^$" "$root/tmp/log"; then
+  fail "it logs what is above"
+fi
+[ -s "$root/root/.config/autostart/$identifier.desktop" ] || fail "it does not start with the session"
+
+echo "Removing it"
+rm -rf "$root/root/.config" "$root/root/.cache" "$root/root/.local" # the user's, which stays
+inside dpkg -P lumivane >/dev/null || fail "it can't be removed"
+everything >"$root/tmp/after"
+diff "$root/tmp/before" "$root/tmp/after" || fail "it leaves files behind"
+if inside dpkg-query -W lumivane >/dev/null 2>&1; then fail "it is still known to dpkg"; fi
+echo "The package installs, runs and goes without a trace."
