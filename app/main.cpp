@@ -1,23 +1,25 @@
 // SPDX-License-Identifier: MIT
 #include "app/shell/ApplicationDelegate.h"
 #include "app/ui/LumivaneStatusItem.h"
+#include "platform/appkit/WindowServer.h"
 #include "platform/foundation/NSBundle.h"
 
 #include <QApplication>
-#include <QIcon>
 
 int main(int argc, char** argv) {
+    WindowServer::choosePlatform();
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Lumivane"));
     QApplication::setDesktopFileName(NSBundle::mainBundle().bundleIdentifier());
-    QApplication::setWindowIcon(QIcon::fromTheme(NSBundle::mainBundle().bundleIdentifier()));
     QApplication::setQuitOnLastWindowClosed(false);
     NSBundle::mainBundle().installTranslations();
 
     ApplicationDelegate delegate;
     LumivaneStatusItem statusItem;
     QObject::connect(&delegate, &ApplicationDelegate::raiseRequested, &statusItem, &LumivaneStatusItem::showPanel);
+    // The icon comes first, then what takes its time.
+    QObject::connect(&statusItem, &LumivaneStatusItem::trayKnown, &delegate, &ApplicationDelegate::awakeFromNib,
+                     Qt::SingleShotConnection);
     statusItem.awakeFromNib();
-    delegate.awakeFromNib();
     return QApplication::exec();
 }

@@ -5,7 +5,9 @@
 #include "app/engine/CMoonHelper.h"
 #include "app/ui/LumivaneWindow.h"
 #include "app/ui/LumivaneWindowController.h"
+#include "platform/appkit/NSScreen.h"
 #include "platform/appkit/NSStatusItem.h"
+#include "platform/appkit/SwayPlacement.h"
 #include "platform/carbon/GetMBarHeight.h"
 #include "platform/foundation/NSBundle.h"
 #include "platform/foundation/NSDate.h"
@@ -17,6 +19,7 @@
 
 #include <QApplication>
 #include <QGuiApplication>
+#include <QIcon>
 #include <QMenu>
 #include <QScreen>
 
@@ -38,7 +41,9 @@ void LumivaneStatusItem::awakeFromNib() {
     connect(statusItem_.get(), &NSStatusItem::clicked, this,
             [this] { statusItemClicked(statusItem_.get()); });
     connect(statusItem_.get(), &NSStatusItem::shownChanged, this, &LumivaneStatusItem::trayChanged);
-    makeAsHiddenMenu();
+    // The panel waits until someone asks for it or for the menu, which has its commands: the icon comes first.
+    connect(menu_.get(), &QMenu::aboutToShow, this, [this] { Q_EMIT controller().gearMenu()->aboutToShow(); });
+    showNow();
     clock_.setTimerType(Qt::VeryCoarseTimer);
     connect(&clock_, &QTimer::timeout, this, &LumivaneStatusItem::moonClockTimer);
     clock_.start(kClockInterval);
@@ -51,7 +56,7 @@ void LumivaneStatusItem::showNow() {
 }
 
 void LumivaneStatusItem::moonClockTimer() {
-    if (!lumivaneWindow_->window()->isVisible())
+    if (!isPanelVisible())
         showNow();
 }
 
@@ -98,27 +103,45 @@ void LumivaneStatusItem::replaceController(std::uint32_t styleMask) {
         // It may be one of its own controls that asks for the change.
         lumivaneWindow_.release()->deleteLater();
     }
+    loadController(styleMask);
+}
+
+void LumivaneStatusItem::loadController(std::uint32_t styleMask) {
+    // Looking through the icon theme costs more than drawing the Moon: not before there is a window.
+    if (QApplication::windowIcon().isNull())
+        QApplication::setWindowIcon(QIcon::fromTheme(NSBundle::mainBundle().bundleIdentifier()));
     LumivaneWindow::setNextStyleMask(styleMask);
     lumivaneWindow_ = LumivaneWindowController::lumivaneWindowController();
     lumivaneWindow_->setStatusItem(this);
+    if (!lumivaneWindow_->isWindoid())
+        keepUnderIcon(lumivaneWindow_->window());
 
     menu_->clear();
     menu_->addAction(NSBundle::mainBundle().localizedString(QT_TRANSLATE_NOOP("Lumivane", "Show Lumivane")),
                      this, &LumivaneStatusItem::showPanel);
     menu_->addSeparator();
     menu_->addActions(lumivaneWindow_->gearMenu()->actions());
-    connect(menu_.get(), &QMenu::aboutToShow, lumivaneWindow_->gearMenu(), &QMenu::aboutToShow);
+}
+
+LumivaneWindowController& LumivaneStatusItem::controller() {
+    if (!lumivaneWindow_)
+        loadController(LumivaneWindow::kBorderlessMask);
+    return *lumivaneWindow_;
+}
+
+bool LumivaneStatusItem::isPanelVisible() const {
+    return lumivaneWindow_ && lumivaneWindow_->window()->isVisible();
 }
 
 void LumivaneStatusItem::statusItemClicked(QObject*) {
-    if (lumivaneWindow_->window()->isVisible())
+    if (isPanelVisible())
         makeAsHiddenMenu();
     else
         showPanel();
 }
 
 void LumivaneStatusItem::showPanel() {
-    LumivaneWindow* window = lumivaneWindow_->window();
+    LumivaneWindow* window = controller().window();
     if (!window->isVisible()) {
         lumivaneWindow_->showNow(nullptr);
         if (!lumivaneWindow_->isWindoid())
@@ -137,11 +160,12 @@ void LumivaneStatusItem::windowWillClose() {
 }
 
 void LumivaneStatusItem::trayChanged(bool shown) {
-    const bool windoid = lumivaneWindow_->isWindoid();
+    const bool windoid = lumivaneWindow_ && lumivaneWindow_->isWindoid();
     if (shown && windoid)
         makeAsHiddenMenu();
     else if (!shown && !windoid)
         makeAsWindoid();
+    Q_EMIT trayKnown();
 }
 
 bool LumivaneStatusItem::isInTray() const {
@@ -173,11 +197,30 @@ QRect LumivaneStatusItem::panelFrame(const std::optional<QRect>& icon, const QSi
     return frame;
 }
 
+void LumivaneStatusItem::keepUnderIcon(LumivaneWindow* window) {
+    if (SwayPlacement::isThere()) {
+        swayPlacement_ = new SwayPlacement(window, [window](const SwayPlacement::Surroundings& at) {
+            window->setAvailableHeight(static_cast<int>(at.available.height() / at.scale));
+            // A pointer that is on no bar did not click the icon.
+            const auto icon = at.available.contains(at.pointer)
+                                  ? std::nullopt
+                                  : std::optional(QRect(at.pointer, QSize(1, 1)));
+            return panelFrame(icon, window->size() * at.scale, at.screen, at.available).topLeft();
+        });
+    }
+    connect(window, &LumivaneWindow::heightChanged, this, [this, window] {
+        if (window->isVisible())
+            placeUnderIcon();
+    });
+}
+
 void LumivaneStatusItem::placeUnderIcon() {
     const std::optional<QRect> icon = globalFrame();
     const QScreen* screen = icon ? QGuiApplication::screenAt(icon->center()) : nullptr;
     if (!screen)
         screen = QGuiApplication::primaryScreen();
     LumivaneWindow* window = lumivaneWindow_->window();
-    window->setGeometry(panelFrame(icon, window->size(), screen->geometry(), screen->availableGeometry()));
+    window->setGeometry(panelFrame(icon, window->size(), screen->geometry(), NSScreen::visibleFrame(screen)));
+    if (swayPlacement_)
+        swayPlacement_->place();
 }

@@ -3,14 +3,17 @@
 
 #include <QImage>
 #include <QObject>
+#include <QPointer>
 #include <QTimer>
 
 #include <memory>
 #include <optional>
 
+class LumivaneWindow;
 class LumivaneWindowController;
 class NSStatusItem;
 class QMenu;
+class SwayPlacement;
 
 /// Owns the program's one tray item, whose icon is the Moon, and the panel that a click on it opens. The
 /// panel is shown as a drop-down under the icon (hidden-menu mode) or as a small utility window (windoid
@@ -22,7 +25,7 @@ public:
     LumivaneStatusItem();
     ~LumivaneStatusItem() override;
 
-    /// Creates the tray item, a first panel and the clock. On a desktop without a tray the panel opens as a
+    /// Creates the tray item and the clock; the panel is loaded when it is first needed. On a desktop without a tray the panel opens as a
     /// utility window, until a tray appears.
     void awakeFromNib();
 
@@ -58,15 +61,25 @@ public Q_SLOTS:
     /// Shows the panel if it is hidden, and brings it to the front.
     void showPanel();
 
+Q_SIGNALS:
+    /// Whether there is a tray became known, or changed: once soon after the start, with the icon in its place.
+    void trayKnown();
+
 private:
+    LumivaneWindowController& controller();
+    bool isPanelVisible() const;
+    void loadController(std::uint32_t styleMask);
     void moonClockTimer();
     void trayChanged(bool shown);
     void replaceController(std::uint32_t styleMask);
+    void keepUnderIcon(LumivaneWindow* window);
     void placeUnderIcon();
     void updateToolTip();
 
     std::unique_ptr<NSStatusItem> statusItem_;
     std::unique_ptr<QMenu> menu_;
     std::unique_ptr<LumivaneWindowController> lumivaneWindow_;
+    /// Places the panel under Sway; the panel owns it.
+    QPointer<SwayPlacement> swayPlacement_;
     QTimer clock_;
 };

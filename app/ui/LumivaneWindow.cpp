@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/ui/LumivaneWindow.h"
 
+#include "platform/appkit/NSScreen.h"
+
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QLayout>
@@ -69,12 +71,20 @@ void LumivaneWindow::fitToContent() {
     const int around = layout()->sizeHint().height() - area_->sizeHint().height();
     const int wanted = around + content_->height();
     const int titleBar = std::max(0, frameGeometry().height() - geometry().height());
-    const int available = screen()->availableGeometry().height() - titleBar;
+    const int available = std::min(NSScreen::visibleFrame(screen()).height(), availableHeight_) - titleBar;
     const bool scrolls = wanted > available;
     area_->setVerticalScrollBarPolicy(scrolls ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
     const int bar = scrolls ? area_->verticalScrollBar()->sizeHint().width() : 0;
     area_->setMinimumHeight(0);
+    const int before = height();
     setFixedSize(content_->width() + bar + margins.left() + margins.right(), std::min(wanted, available));
+    if (height() != before)
+        Q_EMIT heightChanged();
+}
+
+void LumivaneWindow::setAvailableHeight(int height) {
+    availableHeight_ = height;
+    fitToContent();
 }
 
 void LumivaneWindow::closeEvent(QCloseEvent* event) {

@@ -27,7 +27,13 @@ public:
     /// follow the content's size from then on. `area` shows the content.
     void setContent(QScrollArea* area, QWidget* content);
 
+    /// Keeps the window to a screen's height that Qt doesn't know of.
+    void setAvailableHeight(int height);
+
 Q_SIGNALS:
+    /// The window follows its content's height.
+    void heightChanged();
+
     /// The user closed the window by its close box.
     void windowWillClose();
 
@@ -47,4 +53,5 @@ private:
     std::uint32_t styleMask_;
     QScrollArea* area_ = nullptr;
     QWidget* content_ = nullptr;
+    int availableHeight_ = QWIDGETSIZE_MAX;
 };

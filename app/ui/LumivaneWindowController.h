@@ -25,22 +25,24 @@ class QScrollArea;
 class QToolButton;
 class QWidget;
 
-/// Runs the information panel, which shows the Moon for one chosen moment, the displayed date. The moment exists only
-/// in the date picker and the lunation slider; it is GMT seconds everywhere else and always inside the lunation table.
+/// Runs the information panel, which shows the Moon for one chosen moment, the displayed date. The moment
+/// exists only in the date picker and the lunation slider; it is GMT seconds everywhere else and always
+/// inside the lunation table.
 class LumivaneWindowController : public QObject {
     Q_OBJECT
 
 public:
-    /// A new controller with its panel loaded and not visible. When the layout can't be loaded, which is taken as a
-    /// sign that the program was moved while it runs, the user is told and the program ends with status 1.
+    /// A new controller with its panel loaded and not visible. When the layout can't be loaded, which is
+    /// taken as a sign that the program was moved while it runs, the user is told and the program ends with
+    /// status 1.
     static std::unique_ptr<LumivaneWindowController> lumivaneWindowController();
     ~LumivaneWindowController() override;
 
     /// The name of the picture for a moment: "M07".
     static QString moonImageNameFor(std::uint32_t gmtSeconds);
 
-    /// The picture for a moment, tinted grey or, in a blue moon's lunation, blue by LVBrightness, and turned for a
-    /// place south of the equator. Empty when the resource is missing.
+    /// The picture for a moment, tinted grey or, in a blue moon's lunation, blue by LVBrightness, and turned
+    /// for a place south of the equator. Empty when the resource is missing.
     static QImage moonImageFor(std::uint32_t gmtSeconds);
 
     /// The present in GMT seconds, held inside the lunation table; `outOfRange` tells whether it had to be.
@@ -55,8 +57,8 @@ public:
     void updateMoonImage();
     void updateQuarterButtons();
 
-    /// The displayed date. What is set comes back to the second for every zone type; a moment outside the table is
-    /// held at its nearest end.
+    /// The displayed date. What is set comes back to the second for every zone type; a moment outside the
+    /// table is held at its nearest end.
     std::uint32_t datePickerGMTSeconds() const;
     void setDatePickerGMTSeconds(std::int64_t gmtSeconds);
 
@@ -64,8 +66,8 @@ public:
     std::uint32_t lunationSliderGMTSeconds() const;
     void setLunationSliderGMTSeconds(std::uint32_t gmtSeconds);
 
-    /// The picker shows the system's zone; this shifts `seconds` by how far the chosen zone lies behind it, times
-    /// `withMultiplier`.
+    /// The picker shows the system's zone; this shifts `seconds` by how far the chosen zone lies behind it,
+    /// times `withMultiplier`.
     static std::uint32_t applyDatePickerOffset(std::uint32_t seconds, int withMultiplier);
 
     /// Brings a command's check mark and title up to date. Every command may be used.
@@ -110,6 +112,7 @@ private:
     void defaultsChanged(const QString& key);
     void askTimeZoneDidEnd(const QString& text, AskNumber* dialog);
     void selectTimeZoneEntry(int type);
+    void cancelEditing();
     void updateDateRange();
     void moveTo(std::int64_t gmtSeconds);
     void updateQuarterTimes(std::uint32_t t);

@@ -20,6 +20,7 @@
 #include <QPointer>
 
 #include <array>
+#include <utility>
 
 namespace {
 
@@ -128,6 +129,16 @@ void LumivaneWindowController::latitudeAndLongitudeFromWeb(QObject*) {
 
 void LumivaneWindowController::latitudeOrLongitudeChange(QObject*) {
     updateStaticMoonInfo();
+}
+
+void LumivaneWindowController::cancelEditing() {
+    for (const auto& [field, key] :
+         {std::pair{latitude_, "LVLatitude"}, std::pair{longitude_, "LVLongitude"}}) {
+        if (!field->isModified())
+            continue;
+        field->setModified(false);
+        field->setText(ExtraNumberUtilities::stringValue(defaults()->floatForKey(QLatin1String(key))));
+    }
 }
 
 void LumivaneWindowController::brightness(QObject*) {

@@ -1,18 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "platform/appkit/XEmbedTray.h"
 
+#include "platform/appkit/X11.h"
+
 #include <QGuiApplication>
 
 #include <cstdlib>
-#include <memory>
 
 namespace {
-
-/// An answer of the X server, which is the caller's to free.
-template <typename T>
-std::unique_ptr<T, decltype(&std::free)> owned(T* answer) {
-    return {answer, &std::free};
-}
 
 QByteArray selectionName() {
     char* host = nullptr;
@@ -26,9 +21,7 @@ QByteArray selectionName() {
 } // namespace
 
 XEmbedTray::XEmbedTray(QObject* parent) : QObject(parent) {
-    // Not only Qt's X11 platform answers here, but no other has a connection.
-    const auto* const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    connection_ = x11 ? x11->connection() : nullptr;
+    connection_ = X11::connection();
     if (!connection_)
         return;
     manager_ = atom("MANAGER");
@@ -41,20 +34,20 @@ XEmbedTray::~XEmbedTray() = default;
 
 xcb_atom_t XEmbedTray::atom(const QByteArray& name) const {
     const auto cookie = xcb_intern_atom(connection_, false, name.size(), name.constData());
-    const auto answer = owned(xcb_intern_atom_reply(connection_, cookie, nullptr));
+    const auto answer = X11::owned(xcb_intern_atom_reply(connection_, cookie, nullptr));
     return answer ? answer->atom : xcb_atom_t{XCB_ATOM_NONE};
 }
 
 void XEmbedTray::findOwner() {
     const auto cookie = xcb_get_selection_owner(connection_, selection_);
-    const auto answer = owned(xcb_get_selection_owner_reply(connection_, cookie, nullptr));
+    const auto answer = X11::owned(xcb_get_selection_owner_reply(connection_, cookie, nullptr));
     owner_ = answer ? answer->owner : xcb_window_t{XCB_NONE};
     if (!isThere())
         return;
     // Asks for word of the window's end; an error says that it has come already.
     const std::uint32_t mask = XCB_EVENT_MASK_STRUCTURE_NOTIFY;
     const auto selected = xcb_change_window_attributes_checked(connection_, owner_, XCB_CW_EVENT_MASK, &mask);
-    if (owned(xcb_request_check(connection_, selected)))
+    if (X11::owned(xcb_request_check(connection_, selected)))
         owner_ = XCB_NONE;
 }
 

@@ -68,12 +68,25 @@ QByteArray canonicalName(const QByteArray& zoneId) {
     return zoneId;
 }
 
-std::optional<Place> placeOfZone(const QByteArray& zoneId) {
+std::optional<Place> placeInTables(const QByteArray& zoneId) {
     for (const char* table : {"zone1970.tab", "zone.tab"}) {
         if (const auto place = placeInTable(QString::fromLatin1(table), zoneId))
             return place;
     }
     return std::nullopt;
+}
+
+/// The place of a zone's city. The last answer is kept: the tables don't change under a running program.
+std::optional<Place> placeOfZone(const QByteArray& zoneId) {
+    static QByteArray lastZone;
+    static std::optional<Place> lastPlace;
+    if (zoneId != lastZone) {
+        lastZone = zoneId;
+        lastPlace = placeInTables(zoneId);
+        if (!lastPlace)
+            lastPlace = placeInTables(canonicalName(zoneId));
+    }
+    return lastPlace;
 }
 
 } // namespace
@@ -90,10 +103,7 @@ Fract X2Frac(double value) {
 void ReadLocation(MachineLocation* location) {
     *location = {};
     const QTimeZone zone = NSTimeZone::systemTimeZone();
-    auto place = placeOfZone(zone.id());
-    if (!place)
-        place = placeOfZone(canonicalName(zone.id()));
-    if (place) {
+    if (const auto place = placeOfZone(zone.id())) {
         location->latitude = X2Frac(place->latitude / 90.0);
         location->longitude = X2Frac(place->longitude / 90.0);
     }

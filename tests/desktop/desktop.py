@@ -4,6 +4,7 @@
 Xvfb, a D-Bus session, openbox and xfce4-panel; the pointer and the keys through xdotool; what the panel shows is
 read through the accessibility bus."""
 
+import configparser
 import os
 import pathlib
 import re
@@ -22,7 +23,8 @@ PANEL_CONFIG = """<?xml version="1.0" encoding="UTF-8"?>
     <value type="int" value="1"/>
     <property name="dark-mode" type="bool" value="true"/>
     <property name="panel-1" type="empty">
-      <property name="position" type="string" value="p={position};x=640;y={y}"/>
+      <property name="mode" type="uint" value="{mode}"/>
+      <property name="position" type="string" value="{position}"/>
       <property name="length" type="uint" value="100"/>
       <property name="position-locked" type="bool" value="true"/>
       <property name="size" type="uint" value="28"/>
@@ -44,6 +46,10 @@ PANEL_CONFIG = """<?xml version="1.0" encoding="UTF-8"?>
 </channel>
 """
 
+# Of a panel at each edge: 1 for one that stands upright, and its place in a screen of 1280 by 800.
+EDGES = {"top": (0, "p=6;x=640;y=14"), "bottom": (0, "p=8;x=640;y=786"),
+         "left": (1, "p=6;x=14;y=400"), "right": (1, "p=2;x=1266;y=400")}
+
 FAKETIME = "/usr/lib/{}-linux-gnu/faketime/libfaketime.so.1".format(os.uname().machine)
 
 
@@ -57,6 +63,10 @@ def wait_for(what, condition, seconds=15.0):
         if time.monotonic() > end:
             raise AssertionError("timed out waiting for " + what)
         time.sleep(0.05)
+
+
+def rectangle(x, y, width, height):
+    return types.SimpleNamespace(x=x, y=y, width=width, height=height)
 
 
 class Desktop:
@@ -77,9 +87,12 @@ class Desktop:
             os.environ.pop(name, None)
         self.start_screen(size)
         self.start_bus()
-        self.spawn(["openbox"])
-        if tray:
-            self.start_panel(panel)
+        self.start_session(panel if tray else None)
+
+    def start_session(self, edge):
+        self.start_window_manager()
+        if edge:
+            self.start_panel(edge)
 
     def spawn(self, command, **keywords):
         child = subprocess.Popen(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, **keywords)
@@ -101,13 +114,49 @@ class Desktop:
         with os.fdopen(reader) as answer:
             os.environ["DBUS_SESSION_BUS_ADDRESS"] = answer.readline().strip()
 
+    def start_window_manager(self):
+        # A panel that maps its window while this one starts stays off the screen.
+        self.spawn(["openbox"])
+        wait_for("the window manager", lambda: "window id" in subprocess.run(
+            ["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], capture_output=True, text=True).stdout)
+
     def start_panel(self, edge):
         folder = pathlib.Path(self.home, "config/xfce4/xfconf/xfce-perchannel-xml")
         folder.mkdir(parents=True, exist_ok=True)
-        position, y = ("6", "14") if edge == "top" else ("8", "786")
-        (folder / "xfce4-panel.xml").write_text(PANEL_CONFIG.format(position=position, y=y))
-        self.panel = self.spawn(["xfce4-panel", "--disable-wm-check"])
-        wait_for("the tray", lambda: self.bus_has("org.kde.StatusNotifierWatcher"), 30)
+        mode, position = EDGES[edge]
+        (folder / "xfce4-panel.xml").write_text(PANEL_CONFIG.format(mode=mode, position=position))
+        self.run_panel()
+
+    def run_panel(self):
+        # Even so, on a busy machine, its window now and then stays away; another try brings it up.
+        for _ in range(3):
+            self.panel = self.spawn(["xfce4-panel", "--disable-wm-check"])
+            wait_for("the tray", lambda: self.bus_has("org.kde.StatusNotifierWatcher"), 30)
+            if self.panel_is_up():
+                return
+            self.crash_panel()
+        raise AssertionError("the panel stays off the screen")
+
+    def panel_is_up(self):
+        try:
+            return wait_for("the panel's window", lambda: subprocess.run(
+                ["xdotool", "search", "--onlyvisible", "--class", "xfce4-panel"], capture_output=True).stdout, 4)
+        except AssertionError:
+            return False
+
+    def crash_panel(self):
+        """Ends the panel without a chance to say so, and with it the tray in it."""
+        self.panel.kill()
+        self.panel.wait()
+        self.children.remove(self.panel)
+        wait_for("the tray to go", lambda: not self.bus_has("org.kde.StatusNotifierWatcher"))
+
+    def move_panel(self, edge):
+        """Puts the running panel to another edge."""
+        mode, position = EDGES[edge]
+        for key, kind, value in (("mode", "uint", mode), ("position", "string", position)):
+            subprocess.run(["xfconf-query", "-c", "xfce4-panel", "-p", "/panels/panel-1/" + key,
+                            "-n", "-t", kind, "-s", str(value)], check=True)
 
     def gio(self):
         import gi
@@ -203,7 +252,43 @@ class Desktop:
         self.xdotool("key", *keys)
 
     def type(self, text):
-        self.xdotool("type", "--delay", "20", text)
+        self.xdotool("type", "--delay", "20", "--", text)
+
+    def click_at_start(self, node):
+        """Clicks a control at its leading end."""
+        box = self.extents(node)
+        self.click(box.x + 8, box.y + box.height // 2)
+
+    def clipboard(self, target="UTF8_STRING"):
+        return subprocess.run(["xclip", "-selection", "clipboard", "-o", "-t", target], check=True,
+                              capture_output=True, timeout=10).stdout.decode()
+
+    # What the program stores and opens
+
+    def preferences(self):
+        """What the user's preference file holds now."""
+        parser = configparser.ConfigParser(interpolation=None)
+        parser.optionxform = str
+        parser.read(os.path.join(self.home, "config/lumivane/lumivane.conf"))
+        return dict(parser["General"]) if "General" in parser else {}
+
+    def install_browser(self):
+        """A browser for web pages that only notes what it is to open."""
+        self.opened_pages = pathlib.Path(self.home, "opened")
+        browser = pathlib.Path(self.home, "browser")
+        browser.write_text('#!/bin/sh\necho "$@" >> "%s"\n' % self.opened_pages)
+        browser.chmod(0o755)
+        entry = pathlib.Path(self.home, "data/applications/browser.desktop")
+        entry.parent.mkdir(parents=True)
+        entry.write_text("[Desktop Entry]\nType=Application\nName=Browser\nExec=%s %%u\n" % browser)
+        scheme = "x-scheme-handler/https=browser.desktop\n"
+        pathlib.Path(self.home, "config/mimeapps.list").write_text("[Default Applications]\n" + scheme)
+
+    def opened(self):
+        """The page that was opened since the last call."""
+        page = wait_for("the page", lambda: self.opened_pages.exists() and self.opened_pages.read_text()).strip()
+        self.opened_pages.unlink()
+        return page
 
     def screenshot(self, path):
         subprocess.run(["import", "-window", "root", path], check=True)
@@ -212,6 +297,13 @@ class Desktop:
         """The X windows of that title which are on the screen."""
         return subprocess.run(["xdotool", "search", "--onlyvisible", "--name", "^" + name + "$"],
                               capture_output=True, text=True).stdout.split()
+
+    def rectangle(self, name="Lumivane"):
+        """Where the X window of that title is, in the screen's pixels."""
+        window = wait_for("the window", lambda: self.titled(name))[0]
+        shown = subprocess.run(["xwininfo", "-id", window], check=True, capture_output=True, text=True).stdout
+        return rectangle(*(int(re.search(key + r":\s+(-?\d+)", shown).group(1))
+                           for key in ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height")))
 
     # What a screen reader hears
 
@@ -223,6 +315,10 @@ class Desktop:
             Atspi.init()
             Atspi.set_timeout(4000, 4000)
             self._atspi = Atspi
+        # What changed since is heard of only here.
+        _, GLib = self.gio()
+        while GLib.MainContext.default().iteration(False):
+            pass
         return Atspi
 
     def application(self, name):
@@ -270,16 +366,48 @@ class Desktop:
                 return child
         return None
 
+    def dialog(self):
+        """The dialog that is open and takes the keys, or nothing."""
+        active = self.atspi().StateType.ACTIVE
+        application = self.application("Lumivane")
+        for index in range(application.get_child_count() if application else 0):
+            child = application.get_child_at_index(index)
+            if child and child.get_role_name() in ("dialog", "alert") and self.shows(child) and (
+                    child.get_state_set().contains(active)):
+                return child
+        return None
+
+    def text(self, node):
+        """What an editable field holds."""
+        return self.atspi().Text.get_text(node, 0, -1)
+
+    def focus(self, node):
+        """Gives a control the keyboard's focus as assistive programs do."""
+        self.atspi().Component.grab_focus(node)
+        wait_for("the focus", lambda: node.get_state_set().contains(self.atspi().StateType.FOCUSED))
+
+    def focused(self):
+        """The control of the panel that has the keyboard's focus."""
+        focused = self.atspi().StateType.FOCUSED
+        return next((node for node in self.walk(self.window()) if node.get_state_set().contains(focused)
+                     and node.get_role_name() != "list item"), None)
+
     def shows(self, node):
         return node.get_state_set().contains(self.atspi().StateType.SHOWING)
 
     def open_panel(self):
         """Clicks the icon and waits for the panel. The tray may show a copy's icon a moment longer than the copy lives:
         a click that it swallowed is made again."""
+        def in_place():
+            # Told as being there before it is told where.
+            window = self.window()
+            box = window and self.extents(window)
+            return window if box and box.width > 1 and (box.x, box.y) != (0, 0) else None
+
         for seconds in (4, 4, 15):
             self.click_icon()
             try:
-                return wait_for("the panel", self.window, seconds)
+                return wait_for("the panel", in_place, seconds)
             except AssertionError:
                 if seconds == 15:
                     raise

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shared/utilities/classes/ExtraWindowUtilities.h"
 
+#include <QGuiApplication>
 #include <QVariant>
 #include <QWidget>
 
@@ -30,7 +31,9 @@ float ExtraWindowUtilities::alphaValue(const QWidget* window) {
 void ExtraWindowUtilities::setAlphaValue(QWidget* window, float alpha) {
     const float held = std::clamp(alpha, 0.0F, 1.0F);
     window->setProperty(kAlphaProperty, held);
-    window->setWindowOpacity(static_cast<double>(held));
+    // Wayland has no such thing, and Qt would say so at every step.
+    if (!QGuiApplication::platformName().startsWith(u"wayland"))
+        window->setWindowOpacity(static_cast<double>(held));
 }
 
 void ExtraWindowUtilities::fadeShowSynchronous(QWidget* window) {

@@ -1,0 +1,103 @@
+#!/usr/bin/python3
+# SPDX-License-Identifier: MIT
+"""The panel opens at the icon, whichever edge of the screen the tray is at, and the icon outlives the tray."""
+
+import os
+import subprocess
+import sys
+import unittest
+
+from desktop import Desktop, rectangle, wait_for
+from placement import PlacementCase
+
+PROGRAM = os.path.abspath(sys.argv.pop(1))
+BAR = 29
+ROOM = {"top": rectangle(0, BAR, 1280, 800 - BAR), "bottom": rectangle(0, 0, 1280, 800 - BAR),
+        "left": rectangle(BAR, 0, 1280 - BAR, 800), "right": rectangle(0, 0, 1280 - BAR, 800)}
+
+
+class PlacementTest(PlacementCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.desktop = Desktop()
+        cls.addClassCleanup(cls.desktop.close)
+
+    def tearDown(self):
+        self.assertIn(self.desktop.stop(), (0, -15))
+
+    def move_panel(self, edge):
+        """Moves the tray with the program's icon in it."""
+        self.desktop.move_panel(edge)
+
+        def is_there():
+            icon = self.desktop.icon()
+            return {"top": icon.y < 9, "bottom": icon.y > 763 and icon.x > 999, "left": icon.x < 9,
+                    "right": icon.x > 1243}[edge]
+        wait_for("the tray at the %s edge" % edge, is_there)
+
+    def hide(self):
+        self.desktop.click_icon()
+        wait_for("the panel to hide", lambda: not self.desktop.titled("Lumivane"))
+
+    def test_every_edge(self):
+        self.desktop.start(PROGRAM)
+        for edge in ("right", "left", "bottom", "top"):
+            with self.subTest(edge=edge):
+                self.move_panel(edge)
+                self.desktop.open_panel()
+                self.assert_at_icon(self.desktop.icon(), self.desktop.rectangle, ROOM[edge])
+                self.hide()
+
+    def test_folding_keeps_the_panel_at_the_icon(self):
+        self.desktop.start(PROGRAM)
+        self.move_panel("bottom")
+        self.desktop.open_panel()
+        high = self.desktop.rectangle().height
+        for section in ("Moon", "Settings"):
+            self.desktop.click_control(section)
+        wait_for("the panel to shrink", lambda: self.desktop.rectangle().height < high - 100)
+        self.assert_at_icon(self.desktop.icon(), self.desktop.rectangle, ROOM["bottom"])
+        # One that opens low and grows would leave the screen.
+        self.hide()
+        self.desktop.open_panel()
+        for section in ("Moon", "Settings"):
+            self.desktop.click_control(section)
+        wait_for("the panel to grow", lambda: self.desktop.rectangle().height == high)
+        self.assert_at_icon(self.desktop.icon(), self.desktop.rectangle, ROOM["bottom"])
+
+    def test_scaled_screen(self):
+        self.desktop.start(PROGRAM, environment={"QT_SCALE_FACTOR": "2"})
+        self.move_panel("top")
+        self.desktop.open_panel()
+        # Twice as wide, and no higher than the screen.
+        self.assert_at_icon(self.desktop.icon(), self.desktop.rectangle, ROOM["top"])
+        self.assertGreater(self.desktop.rectangle().width, 600)
+
+    def test_two_monitors(self):
+        # One above the other, and both too low for the panel.
+        rooms = {"top": rectangle(0, BAR, 1280, 300 - BAR), "bottom": rectangle(0, 300, 1280, 500 - BAR)}
+        for name, size, outputs in (("upper", "1280/340x300/80+0+0", "screen"),
+                                    ("lower", "1280/340x500/140+0+300", "none")):
+            subprocess.run(["xrandr", "--setmonitor", name, size, outputs], check=True, stdout=subprocess.DEVNULL)
+            self.addCleanup(subprocess.run, ["xrandr", "--delmonitor", name], check=True)
+        self.desktop.start(PROGRAM)
+        for edge, room in rooms.items():
+            with self.subTest(edge=edge):
+                self.move_panel(edge)
+                self.desktop.open_panel()
+                self.assert_at_icon(self.desktop.icon(), self.desktop.rectangle, room)
+                self.hide()
+
+    def test_twenty_restarts_of_the_panel(self):
+        self.desktop.start(PROGRAM)
+        for restart in range(20):
+            self.desktop.crash_panel()
+            self.desktop.run_panel()
+            wait_for("the item after restart %d" % restart, lambda: self.desktop.items())
+            self.assertEqual(len(self.desktop.items()), 1)
+        self.desktop.open_panel()
+        self.assert_at_icon(self.desktop.icon(), self.desktop.rectangle, rectangle(0, 0, 1280, 800))
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)

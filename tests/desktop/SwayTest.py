@@ -1,0 +1,73 @@
+#!/usr/bin/python3
+# SPDX-License-Identifier: MIT
+"""The panel opens at the icon under Sway, which places windows itself and whose bars tell a click's place in their own
+coordinates."""
+
+import os
+import sys
+import unittest
+
+import sway
+from desktop import rectangle, wait_for
+from placement import PlacementCase
+
+PROGRAM = os.path.abspath(sys.argv.pop(1))
+# The whole panel is higher than either.
+ROOM = {"top": rectangle(0, sway.BAR, 1280, 720 - sway.BAR), "bottom": rectangle(0, 0, 1280, 720 - sway.BAR)}
+
+
+@unittest.skipIf(sway.MISSING, "needs " + ", ".join(sway.MISSING))
+class SwayTest(PlacementCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.program = sway.leave_root(PROGRAM)
+        cls.desktop = sway.SwayDesktop("top")
+        cls.addClassCleanup(cls.desktop.close)
+
+    def tearDown(self):
+        self.assertIn(self.desktop.stop(), (0, -15))
+
+    def hide(self):
+        self.desktop.key("Escape")
+        wait_for("the panel to hide", lambda: not self.desktop.windows())
+
+    def check(self, shell):
+        self.desktop.open_panel()
+        self.assertEqual(wait_for("the panel", self.desktop.windows)[0]["shell"], shell)
+        self.assert_at_icon(self.desktop.icon(), self.desktop.rectangle, ROOM[self.desktop.edge])
+        whole = self.desktop.rectangle().height
+        self.desktop.click_control("Moon")
+        wait_for("the panel to shrink", lambda: self.desktop.rectangle().height < whole - 100)
+        self.assert_at_icon(self.desktop.icon(), self.desktop.rectangle, ROOM[self.desktop.edge])
+        self.hide()
+
+    def test_x11(self):
+        self.desktop.start(self.program)
+        self.check("xwayland")
+
+    def test_wayland(self):
+        self.desktop.start(self.program, environment={"QT_QPA_PLATFORM": "wayland"})
+        self.check("xdg_shell")
+
+    def test_without_answer(self):
+        nobody = os.path.join(self.desktop.home, "nobody")
+        open(nobody, "w").close()
+        self.desktop.start(self.program, environment={"SWAYSOCK": nobody})
+        self.desktop.open_panel()
+        wait_for("the complaint", lambda: "Sway does not place the panel" in self.desktop.logged())
+        self.hide()
+
+    def test_bar_comes_back_at_the_bottom(self):
+        self.desktop.start(self.program)
+        self.addCleanup(self.restart_bar, "top")
+        self.restart_bar("bottom")
+        wait_for("the item", lambda: len(self.desktop.items()) == 1)
+        self.check("xwayland")
+
+    def restart_bar(self, edge):
+        self.desktop.crash_panel()
+        self.desktop.start_panel(edge)
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)
