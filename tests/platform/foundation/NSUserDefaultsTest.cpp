@@ -156,7 +156,7 @@ TEST_F(NSUserDefaultsTest, AKillAtAnyMomentLeavesAWholeFile) {
         const pid_t pid = fork();
         if (pid == 0)
             child(round);
-        usleep(3000 + random.bounded(6000));
+        usleep(random.bounded(130000)); // a lock that a killed child leaves takes a tenth of a second to break
         kill(pid, SIGKILL);
         waitpid(pid, nullptr, 0);
 
