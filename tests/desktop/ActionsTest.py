@@ -280,7 +280,7 @@ class ActionsTest(unittest.TestCase):
 
     def test_windoid_and_back(self):
         desktop = self.desktop
-        dropped = desktop.extents(self.show())
+        dropped = desktop.placed(self.show())
 
         def windoid():
             desktop.click_control("Utility window")
@@ -289,7 +289,7 @@ class ActionsTest(unittest.TestCase):
 
         def dropped_again():
             self.hidden()
-            box = desktop.extents(desktop.open_panel())
+            box = desktop.placed(desktop.open_panel())
             self.assertEqual((box.x, box.y), (dropped.x, dropped.y))
 
         windoid()

@@ -398,20 +398,21 @@ class Desktop:
     def open_panel(self):
         """Clicks the icon and waits for the panel. The tray may show a copy's icon a moment longer than the copy lives:
         a click that it swallowed is made again."""
-        def in_place():
-            # Told as being there before it is told where.
-            window = self.window()
-            box = window and self.extents(window)
-            return window if box and box.width > 1 and (box.x, box.y) != (0, 0) else None
-
         for seconds in (4, 4, 15):
             self.click_icon()
             try:
-                return wait_for("the panel", in_place, seconds)
+                return wait_for("the panel", self.window, seconds)
             except AssertionError:
                 if seconds == 15:
                     raise
         return None
+
+    def placed(self, window):
+        """A window's rectangle: it is told as being there before it is told where."""
+        def box():
+            found = self.extents(window)
+            return found if (found.x, found.y) != (0, 0) else None
+        return wait_for("the window's place", box)
 
     def find(self, name, root=None):
         """The control of that accessible name."""
