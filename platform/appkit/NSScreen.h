@@ -17,7 +17,7 @@ QRect visibleFrame(const QScreen* screen);
 /// What a bar takes of the desktop at one of its edges. It reaches to the edge over what other screens lie
 /// between.
 struct Strut {
-    Qt::Edge edge;
+    Qt::Edge edge = Qt::TopEdge;
     QRect taken;
 };
 
