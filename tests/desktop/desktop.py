@@ -103,7 +103,8 @@ class Desktop:
 
     def start_screen(self, size):
         reader, writer = os.pipe()
-        self.spawn(["Xvfb", "-displayfd", str(writer), "-screen", "0", size + "x24", "-nolisten", "tcp"],
+        # When its first client leaves before the second has come, a server that resets drops that one.
+        self.spawn(["Xvfb", "-displayfd", str(writer), "-screen", "0", size + "x24", "-nolisten", "tcp", "-noreset"],
                    pass_fds=[writer])
         os.close(writer)
         with os.fdopen(reader) as answer:
