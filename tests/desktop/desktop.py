@@ -87,9 +87,13 @@ class Desktop:
             LC_ALL="C.UTF-8", NO_AT_BRIDGE="0", GTK_A11Y="atspi", GSETTINGS_BACKEND="memory")
         for name in ("WAYLAND_DISPLAY", "LANGUAGE", "LD_PRELOAD", "TZ"):
             os.environ.pop(name, None)
-        self.start_screen(size)
-        self.start_bus()
-        self.start_session(panel if tray else None)
+        try:
+            self.start_screen(size)
+            self.start_bus()
+            self.start_session(panel if tray else None)
+        except BaseException:
+            self.close()
+            raise
 
     def start_session(self, edge):
         self.start_window_manager()
