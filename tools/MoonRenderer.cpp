@@ -78,7 +78,8 @@ public:
         const double a = degrees(std::acos(z_));
         lommelSeeliger_ = std::clamp(1 + a * (-0.019 + a * (2.42e-4 - a * 1.46e-6)), 0.0, 1.0);
         dusk_ = 0.05 * (z_ > 0 ? 1 : std::abs(x_));
-        for (double longitude = -90; longitude <= 90; longitude += 0.25) {
+        for (int step = -360; step <= 360; ++step) {
+            const double longitude = step * 0.25;
             const double normalX = std::sin(radians(longitude));
             const double normalZ = std::cos(radians(longitude));
             brightest_ = std::max(brightest_, light(height(normalX, normalZ), normalZ));

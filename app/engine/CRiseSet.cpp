@@ -92,6 +92,7 @@ double CRiseSet::FRAC(double x) {
 void CRiseSet::WHM(double hours, int* hour, int* minute) {
     const double rounded = std::trunc(hours * 60.0 + 0.5) / 60.0;
     *hour = static_cast<int>(rounded);
+    // NOLINTNEXTLINE(bugprone-incorrect-roundings): never negative
     *minute = static_cast<int>((rounded - *hour) * 60.0 + 0.5);
 }
 

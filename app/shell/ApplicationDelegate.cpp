@@ -4,7 +4,6 @@
 #include "app/engine/CMoon.h"
 #include "app/engine/CMoonHelper.h"
 #include "platform/carbon/AppleEvents.h"
-#include "platform/carbon/AppleEvents.h"
 #include "platform/carbon/Processes.h"
 #include "platform/foundation/NSBundle.h"
 #include "platform/foundation/NSLog.h"
@@ -25,13 +24,14 @@ constexpr int kSevenDays = 604800;
 /// The name in a desktop entry's action.
 QString actionName(const AppleEvent& event) {
     AEDesc name;
-    return AEGetParamDesc(event, keyDirectObject, typeUTF8Text, &name) == noErr ? QString::fromUtf8(name.data) : QString();
+    return AEGetParamDesc(event, keyDirectObject, typeUTF8Text, &name) == noErr ? QString::fromUtf8(name.data)
+                                                                                : QString();
 }
 
 OSStatus quit(AppleEvent* reply) {
     AppleEvent event;
-    const OSStatus err =
-        AECreateAppleEvent(kCoreEventClass, kAEQuitApplication, {}, kAutoGenerateReturnID, kAnyTransactionID, &event);
+    const OSStatus err = AECreateAppleEvent(kCoreEventClass, kAEQuitApplication, {}, kAutoGenerateReturnID,
+                                            kAnyTransactionID, &event);
     return err == noErr ? AEProcessAppleEvent(event, reply) : err;
 }
 
@@ -81,10 +81,6 @@ void ApplicationDelegate::setupDefaultPreferences() {
 }
 
 void ApplicationDelegate::awakeFromNib() {
-    AEInstallEventHandler(kCoreEventClass, kAEReopenApplication, [this](const AppleEvent&, AppleEvent*) {
-        Q_EMIT raiseRequested();
-        return noErr;
-    });
     initCheckForUpdateURL();
     answerDesktop();
     installNewVersion();
@@ -96,15 +92,16 @@ void ApplicationDelegate::answerDesktop() {
         return noErr;
     };
     AEInstallEventHandler(kCoreEventClass, kAEReopenApplication, show);
-    AEInstallEventHandler(kCoreEventClass, kAEActivateAction, [show](const AppleEvent& event, AppleEvent* reply) {
-        const QString action = actionName(event);
-        if (action == u"show")
-            return show(event, reply);
-        if (action == u"quit")
-            return quit(reply);
-        NSLog(QStringLiteral("The desktop asks for an action that is none: %1.").arg(action));
-        return errAEEventNotHandled;
-    });
+    AEInstallEventHandler(
+        kCoreEventClass, kAEActivateAction, [show](const AppleEvent& event, AppleEvent* reply) {
+            const QString action = actionName(event);
+            if (action == u"show")
+                return show(event, reply);
+            if (action == u"quit")
+                return quit(reply);
+            NSLog(QStringLiteral("The desktop asks for an action that is none: %1.").arg(action));
+            return errAEEventNotHandled;
+        });
 }
 
 void ApplicationDelegate::installNewVersion() {

@@ -23,7 +23,8 @@ public:
     /// The one delegate; null before it is made.
     static ApplicationDelegate* sharedDelegate();
 
-    /// The second half of the start: the update feed's address, the desktop's requests, then `installNewVersion`.
+    /// The second half of the start: the update feed's address, the desktop's requests, then
+    /// `installNewVersion`.
     void awakeFromNib();
 
     /// Registers the defaults of time zone, place, brightness and update checks, and forbids the update checker to

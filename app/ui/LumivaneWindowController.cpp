@@ -63,16 +63,18 @@ QDateTime pickerDate(std::uint32_t gmtSeconds) {
         LumivaneWindowController::applyDatePickerOffset(wallClock, -1));
 }
 
+template <typename T>
+void registerClass(const char* name) {
+    NSNib::registerClass(QLatin1String(name), [](QWidget* parent) -> QWidget* { return new T(parent); });
+}
+
 void registerClasses() {
-    const auto registerClass = []<typename T>(const char* name, std::type_identity<T>) {
-        NSNib::registerClass(QLatin1String(name), [](QWidget* parent) -> QWidget* { return new T(parent); });
-    };
-    registerClass("LumivaneWindow", std::type_identity<LumivaneWindow>{});
-    registerClass("NSBox", std::type_identity<NSBox>{});
-    registerClass("NSSlider", std::type_identity<NSSlider>{});
-    registerClass("NSDatePicker", std::type_identity<NSDatePicker>{});
-    registerClass("MouseDownButton", std::type_identity<MouseDownButton>{});
-    registerClass("DisclosureTriangleWithResize", std::type_identity<DisclosureTriangleWithResize>{});
+    registerClass<LumivaneWindow>("LumivaneWindow");
+    registerClass<NSBox>("NSBox");
+    registerClass<NSSlider>("NSSlider");
+    registerClass<NSDatePicker>("NSDatePicker");
+    registerClass<MouseDownButton>("MouseDownButton");
+    registerClass<DisclosureTriangleWithResize>("DisclosureTriangleWithResize");
 }
 
 [[noreturn]] void quitBecauseMoved(const QString& reason) {

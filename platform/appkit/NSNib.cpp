@@ -292,7 +292,7 @@ QString tie(QObject* control, QObject* owner) {
 } // namespace
 
 void NSNib::registerClass(const QString& className, Factory factory) {
-    factories().insert(className, std::move(factory));
+    factories().emplace(className, std::move(factory));
 }
 
 std::unique_ptr<QWidget> NSNib::load(const QString& name, QObject* owner, QString* error) {

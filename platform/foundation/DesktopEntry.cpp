@@ -16,7 +16,7 @@
 namespace {
 
 constexpr char kGroup[] = G_KEY_FILE_DESKTOP_GROUP;
-constexpr qint64 kLargestFile = 256 * 1024;
+constexpr qint64 kLargestFile = 256LL * 1024;
 
 struct GFree {
     void operator()(void* memory) const { g_free(memory); }

@@ -8,7 +8,7 @@
 #include <memory>
 #include <optional>
 
-struct _GKeyFile;
+struct _GKeyFile; // NOLINT(bugprone-reserved-identifier): GLib's own name
 
 /// The "Desktop Entry" group of a desktop entry file, as the Desktop Entry Specification of freedesktop.org
 /// has it. Backed by GKeyFile.

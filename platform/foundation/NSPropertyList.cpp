@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr qint64 kLargestFile = 16 * 1024 * 1024;
+constexpr qint64 kLargestFile = 16LL * 1024 * 1024;
 constexpr int kDeepest = 64;
 
 struct PlistFree {

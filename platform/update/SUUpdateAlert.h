@@ -25,7 +25,7 @@ public:
     /// a page.
     static SUUpdateAlert* updateAvailable(const SUAppcastItem& item, const QString& currentVersion);
     static SUUpdateAlert* upToDate(const QString& currentVersion);
-    static SUUpdateAlert* checkFailed(SUFailure failure);
+    static SUUpdateAlert* checkFailed(SUFailure reason);
     /// For a download page that no program would open.
     static SUUpdateAlert* pageNotOpened(const QUrl& page);
 

@@ -45,7 +45,7 @@ void DialogOrSheetController::showOnWindow(QWidget* window) {
     }
     window_->setWindowModality(Qt::ApplicationModal);
     QEventLoop loop;
-    modalLoop_ = &loop;
+    modalLoop_ = &loop; // cppcheck-suppress danglingLifetime ; a QPointer, which forgets it in time
     window_->show();
     window_->activateWindow();
     loop.exec(QEventLoop::DialogExec);

@@ -133,7 +133,7 @@ InternetConfig::~InternetConfig() {
 }
 
 QString InternetConfig::defaultBrowserForScheme(const QString& scheme) {
-    ICAppSpec application;
+    ICAppSpec application{};
     const OSStatus status = ICGetPref(instance_, preferenceKey(scheme), &application);
     if (status != noErr) {
         NSLog(QStringLiteral("-[InternetConfig defaultBrowserForScheme:] %1 error=%2")

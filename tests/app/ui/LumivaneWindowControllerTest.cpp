@@ -270,7 +270,10 @@ namespace {
 /// The program's item without a tray around it, and the panel that it has now.
 class PanelOfTheItem : public LumivaneWindowControllerTest {
 protected:
-    PanelOfTheItem() { item_.awakeFromNib(); }
+    PanelOfTheItem() {
+        item_.awakeFromNib();
+        item_.makeAsHiddenMenu();
+    }
 
     LumivaneWindow* window() const {
         deleteDiscarded();

@@ -4,9 +4,16 @@
 #include "tests/TestMain.h"
 
 #include <QFile>
+#include <QRandomGenerator>
+#include <QRegularExpression>
+#include <QSet>
 #include <QTemporaryDir>
 
+#include <csignal>
+
 #include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace {
 
@@ -130,4 +137,36 @@ TEST_F(NSUserDefaultsTest, AFolderThatRefusesIsLogged) {
     EXPECT_FALSE(defaults.synchronize());
     EXPECT_TRUE(log.lines().value(0).contains(u"can't be written"));
     EXPECT_EQ(defaults.integerForKey(kNumber), 1) << "it serves for this run";
+}
+
+TEST_F(NSUserDefaultsTest, AKillAtAnyMomentLeavesAWholeFile) {
+    const auto child = [this](int round) {
+        NSUserDefaults defaults(path());
+        for (int number = round * 1000;; ++number) {
+            defaults.setInteger(number, kNumber);
+            defaults.setObject(QStringLiteral("text %1").arg(number), kText);
+            defaults.synchronize();
+        }
+    };
+    static const QRegularExpression whole(
+        QStringLiteral("^\\[General\\]\nNumber=(\\d+)\nText=text (\\d+)\n$"));
+    QSet<QString> seen;
+    QRandomGenerator random(20240101);
+    for (int round = 0; round < 200; ++round) {
+        const pid_t pid = fork();
+        if (pid == 0)
+            child(round);
+        usleep(random.bounded(130000)); // a lock that a killed child leaves takes a tenth of a second to break
+        kill(pid, SIGKILL);
+        waitpid(pid, nullptr, 0);
+
+        const auto match = whole.match(QString::fromUtf8(read()));
+        if (read().isEmpty() && seen.isEmpty())
+            continue; // killed before its first writing
+        ASSERT_TRUE(match.hasMatch()) << "round " << round << ": " << read().constData();
+        ASSERT_EQ(match.captured(1), match.captured(2));
+        seen.insert(match.captured(1));
+    }
+    EXPECT_GT(seen.size(), 5) << "the kills fell into the work";
+    EXPECT_FALSE(QFile::exists(path(".damaged")));
 }

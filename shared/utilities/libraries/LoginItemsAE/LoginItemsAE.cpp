@@ -36,7 +36,7 @@ constexpr AEKeyword keyAEObjectClass = fourCharCode("kocl");
 constexpr AEKeyword keyAEPropData = fourCharCode("prdt");
 constexpr AEKeyword keyAEInsertHere = fourCharCode("insh");
 
-constexpr long kSystemEventsTimeout = 5 * 60; // ticks
+constexpr long kSystemEventsTimeout = 5L * 60; // ticks
 constexpr std::size_t kPathBufferSize = 1024;
 
 [[noreturn]] void assertionFailed(const char* function, const char* condition) {

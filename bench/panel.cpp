@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+// The panel: one refresh of everything that it shows, and making one.
+#include "app/shell/ApplicationDelegate.h"
+#include "app/ui/LumivaneStatusItem.h"
+#include "app/ui/LumivaneWindow.h"
+#include "app/ui/LumivaneWindowController.h"
+#include "platform/appkit/NSSlider.h"
+
+#include <QApplication>
+#include <QTemporaryDir>
+
+#include <benchmark/benchmark.h>
+
+namespace {
+
+/// The slider from end to end: lines, picture and icon each time, and their painting.
+void Refresh(benchmark::State& state) {
+    LumivaneStatusItem item;
+    item.awakeFromNib();
+    const auto controller = LumivaneWindowController::lumivaneWindowController();
+    controller->setStatusItem(&item);
+    controller->window()->show();
+    auto* slider = controller->window()->findChild<NSSlider*>(QStringLiteral("lunationSlider_"));
+    int step = 0;
+    for (auto _ : state) {
+        step = (step + 97) % (slider->maximum() + 1);
+        slider->setValue(step); // as the knob does under the pointer
+        controller->window()->repaint();
+    }
+}
+BENCHMARK(Refresh)->Unit(benchmark::kMillisecond);
+
+void MakePanel(benchmark::State& state) {
+    for (auto _ : state)
+        benchmark::DoNotOptimize(LumivaneWindowController::lumivaneWindowController());
+}
+BENCHMARK(MakePanel)->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const QTemporaryDir home; // nobody's preferences
+    qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
+    const QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    const ApplicationDelegate delegate;
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
