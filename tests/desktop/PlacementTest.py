@@ -3,6 +3,7 @@
 """The panel opens at the icon, whichever edge of the screen the tray is at, and the icon outlives the tray."""
 
 import os
+import shutil
 import subprocess
 import sys
 import unittest
@@ -73,6 +74,7 @@ class PlacementTest(PlacementCase):
         self.assert_at_icon(self.desktop.icon(), self.desktop.rectangle, ROOM["top"])
         self.assertGreater(self.desktop.rectangle().width, 600)
 
+    @unittest.skipUnless(shutil.which("xrandr"), "needs xrandr")
     def test_two_monitors(self):
         # One above the other, and both too low for the panel.
         rooms = {"top": rectangle(0, BAR, 1280, 300 - BAR), "bottom": rectangle(0, 300, 1280, 500 - BAR)}

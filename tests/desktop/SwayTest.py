@@ -4,6 +4,8 @@
 coordinates."""
 
 import os
+import pathlib
+import shutil
 import sys
 import unittest
 
@@ -21,6 +23,8 @@ class SwayTest(PlacementCase):
     @classmethod
     def setUpClass(cls):
         cls.program = sway.leave_root(PROGRAM)
+        if cls.program != PROGRAM:
+            cls.addClassCleanup(shutil.rmtree, pathlib.Path(cls.program).parent.parent)
         cls.desktop = sway.SwayDesktop("top")
         cls.addClassCleanup(cls.desktop.close)
 

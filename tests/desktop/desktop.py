@@ -85,9 +85,13 @@ class Desktop:
             LC_ALL="C.UTF-8", NO_AT_BRIDGE="0", GTK_A11Y="atspi", GSETTINGS_BACKEND="memory")
         for name in ("WAYLAND_DISPLAY", "LANGUAGE", "LD_PRELOAD", "TZ"):
             os.environ.pop(name, None)
-        self.start_screen(size)
-        self.start_bus()
-        self.start_session(panel if tray else None)
+        try:
+            self.start_screen(size)
+            self.start_bus()
+            self.start_session(panel if tray else None)
+        except BaseException:
+            self.close()
+            raise
 
     def start_session(self, edge):
         self.start_window_manager()
@@ -101,7 +105,8 @@ class Desktop:
 
     def start_screen(self, size):
         reader, writer = os.pipe()
-        self.spawn(["Xvfb", "-displayfd", str(writer), "-screen", "0", size + "x24", "-nolisten", "tcp"],
+        # When its first client leaves before the second has come, a server that resets drops that one.
+        self.spawn(["Xvfb", "-displayfd", str(writer), "-screen", "0", size + "x24", "-nolisten", "tcp", "-noreset"],
                    pass_fds=[writer])
         os.close(writer)
         with os.fdopen(reader) as answer:

@@ -106,7 +106,8 @@ class SwayDesktop(Desktop):
             if node.get_role_name() == "icon":
                 icon = self.extents(node)
                 top = 0 if self.edge == "top" else SCREEN[1] - BAR
-                return rectangle(icon.x, icon.y + top, icon.width, icon.height)
+                if icon.x >= 0:  # the bar has given it a place
+                    return rectangle(icon.x, icon.y + top, icon.width, icon.height)
         return None
 
     def icon(self):
