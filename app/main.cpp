@@ -16,10 +16,11 @@ int main(int argc, char** argv) {
 
     ApplicationDelegate delegate;
     LumivaneStatusItem statusItem;
-    QObject::connect(&delegate, &ApplicationDelegate::raiseRequested, &statusItem, &LumivaneStatusItem::showPanel);
+    QObject::connect(&delegate, &ApplicationDelegate::raiseRequested, &statusItem,
+                     &LumivaneStatusItem::showPanel);
     // The icon comes first, then what takes its time.
-    QObject::connect(&statusItem, &LumivaneStatusItem::trayKnown, &delegate, &ApplicationDelegate::awakeFromNib,
-                     Qt::SingleShotConnection);
+    QObject::connect(&statusItem, &LumivaneStatusItem::trayKnown, &delegate,
+                     &ApplicationDelegate::awakeFromNib, Qt::SingleShotConnection);
     statusItem.awakeFromNib();
     return QApplication::exec();
 }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The least that a Qt program in the tray can be, with the UI loader linked: what Lumivane is measured beside.
+// The least that a Qt program in the tray can be, with the UI loader linked: what Lumivane is measured
+// beside.
 #include <QApplication>
 #include <QMenu>
 #include <QSystemTrayIcon>

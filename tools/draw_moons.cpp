@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Draws the pictures of the Moon's phases, M00.png to M28.png, and the program's icons in the layout of an icon theme:
-// draw_moons <albedo map> <folder of the pictures> <folder of the icon theme> <name of the icon>
+// Draws the pictures of the Moon's phases, M00.png to M28.png, and the program's icons in the layout of an
+// icon theme: draw_moons <albedo map> <folder of the pictures> <folder of the icon theme> <name of the icon>
 #include "app/engine/CMoon.h"
 #include "tools/MoonRenderer.h"
 
@@ -35,8 +35,8 @@ bool drawPictures(const QImage& albedo, const QDir& folder) {
 bool drawIcons(const QImage& albedo, const QDir& theme, const QString& name) {
     for (const int side : {16, 22, 24, 32, 48, 64, 128, 256, 512}) {
         const QString folder = theme.filePath(QStringLiteral("%1x%1/apps").arg(side));
-        if (!QDir().mkpath(folder) ||
-            !write(MoonRenderer(albedo, side).picture(kIconPhase), folder + QLatin1Char('/') + name + QStringLiteral(".png")))
+        if (!QDir().mkpath(folder) || !write(MoonRenderer(albedo, side).picture(kIconPhase),
+                                             folder + QLatin1Char('/') + name + QStringLiteral(".png")))
             return false;
     }
     return true;
@@ -55,7 +55,8 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "draw_moons: %s: %s\n", argv[1], qPrintable(reader.errorString()));
         return 1;
     }
-    const bool drawn = drawPictures(albedo, QDir(QString::fromLocal8Bit(argv[2]))) &&
-                       drawIcons(albedo, QDir(QString::fromLocal8Bit(argv[3])), QString::fromLocal8Bit(argv[4]));
+    const bool drawn =
+        drawPictures(albedo, QDir(QString::fromLocal8Bit(argv[2]))) &&
+        drawIcons(albedo, QDir(QString::fromLocal8Bit(argv[3])), QString::fromLocal8Bit(argv[4]));
     return drawn ? 0 : 1;
 }

@@ -122,12 +122,13 @@ void ApplicationDelegate::warnOutsideApplicationsOnce(const QString& bundlePath)
     ExtraApplicationUtilities::bringToFront();
     const NSBundle& bundle = NSBundle::mainBundle();
     QMessageBox alert(QMessageBox::Warning, QStringLiteral("Lumivane"),
-                      bundle.localizedString(QT_TRANSLATE_NOOP(
-                          "Lumivane", "Lumivane is not inside your Applications folder.")));
+                      bundle.localizedString(
+                          QT_TRANSLATE_NOOP("Lumivane", "Lumivane is not inside your Applications folder.")));
     alert.setInformativeText(bundle.localizedString(QT_TRANSLATE_NOOP(
-        "Lumivane", "We highly recommend you install Lumivane in to your Applications folder.  (This warning will only "
-                    "be shown once for the current install location.)  Please quit Lumivane before moving it, if you "
-                    "do so.")));
+        "Lumivane",
+        "We highly recommend you install Lumivane in to your Applications folder.  (This warning will only "
+        "be shown once for the current install location.)  Please quit Lumivane before moving it, if you "
+        "do so.")));
     alert.addButton(bundle.localizedString(QT_TRANSLATE_NOOP("Lumivane", "OK")), QMessageBox::AcceptRole);
     defaults->setObject(bundlePath, key);
     defaults->synchronize();

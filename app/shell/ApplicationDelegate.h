@@ -27,13 +27,14 @@ public:
     /// `installNewVersion`.
     void awakeFromNib();
 
-    /// Registers the defaults of time zone, place, brightness and update checks, and forbids the update checker to
-    /// install anything by itself.
+    /// Registers the defaults of time zone, place, brightness and update checks, and forbids the update
+    /// checker to install anything by itself.
     static void setupDefaultPreferences();
 
     // Launch at login
 
-    /// The login items in order, each {"URL": QUrl, "Hidden": bool}; nothing, with a log line, when they can't be had.
+    /// The login items in order, each {"URL": QUrl, "Hidden": bool}; nothing, with a log line, when they
+    /// can't be had.
     std::optional<QList<QVariantMap>> allLoginItems() const;
 
     /// Whether `url` (nothing: this program) is a login item.
@@ -45,8 +46,8 @@ public:
     /// Switches launch at login for `url` (nothing: this program).
     void toggleSetToStartup(const std::optional<QUrl>& url);
 
-    /// Tells older copies to quit, warns once for a place outside the Applications folders, and makes sure that this
-    /// copy starts at login.
+    /// Tells older copies to quit, warns once for a place outside the Applications folders, and makes sure
+    /// that this copy starts at login.
     void installNewVersion();
 
     // Update check

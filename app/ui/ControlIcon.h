@@ -3,7 +3,8 @@
 
 #include <QIcon>
 
-/// The panel's own small symbols, drawn in the text colour of whatever palette they are shown in and at any scale.
+/// The panel's own small symbols, drawn in the text colour of whatever palette they are shown in and at any
+/// scale.
 namespace ControlIcon {
 
 enum class Symbol { Gear, UtilityWindow, Hide };

@@ -41,8 +41,10 @@ void LumivaneStatusItem::awakeFromNib() {
     connect(statusItem_.get(), &NSStatusItem::clicked, this,
             [this] { statusItemClicked(statusItem_.get()); });
     connect(statusItem_.get(), &NSStatusItem::shownChanged, this, &LumivaneStatusItem::trayChanged);
-    // The panel waits until someone asks for it or for the menu, which has its commands: the icon comes first.
-    connect(menu_.get(), &QMenu::aboutToShow, this, [this] { Q_EMIT controller().gearMenu()->aboutToShow(); });
+    // The panel waits until someone asks for it or for the menu, which has its commands: the icon comes
+    // first.
+    connect(menu_.get(), &QMenu::aboutToShow, this,
+            [this] { Q_EMIT controller().gearMenu()->aboutToShow(); });
     showNow();
     clock_.setTimerType(Qt::VeryCoarseTimer);
     connect(&clock_, &QTimer::timeout, this, &LumivaneStatusItem::moonClockTimer);

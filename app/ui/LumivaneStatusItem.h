@@ -25,8 +25,8 @@ public:
     LumivaneStatusItem();
     ~LumivaneStatusItem() override;
 
-    /// Creates the tray item and the clock; the panel is loaded when it is first needed. On a desktop without a tray the panel opens as a
-    /// utility window, until a tray appears.
+    /// Creates the tray item and the clock; the panel is loaded when it is first needed. On a desktop without
+    /// a tray the panel opens as a utility window, until a tray appears.
     void awakeFromNib();
 
     /// Sets the icon to the Moon of the present.
@@ -62,7 +62,8 @@ public Q_SLOTS:
     void showPanel();
 
 Q_SIGNALS:
-    /// Whether there is a tray became known, or changed: once soon after the start, with the icon in its place.
+    /// Whether there is a tray became known, or changed: once soon after the start, with the icon in its
+    /// place.
     void trayKnown();
 
 private:

@@ -30,7 +30,8 @@ void LumivaneWindow::setNextStyleMask(std::uint32_t mask) {
     nextStyleMask = mask;
 }
 
-LumivaneWindow::LumivaneWindow(QWidget* parent) : QWidget(parent, flagsOf(nextStyleMask)), styleMask_(nextStyleMask) {
+LumivaneWindow::LumivaneWindow(QWidget* parent)
+    : QWidget(parent, flagsOf(nextStyleMask)), styleMask_(nextStyleMask) {
     // A panel that is put away must not end the program.
     setAttribute(Qt::WA_QuitOnClose, false);
 }

@@ -7,8 +7,9 @@
 
 class QScrollArea;
 
-/// The panel's window: borderless above other windows in hidden-menu mode, a small titled utility window in windoid
-/// mode. Its height follows its content's, as far as the screen allows; beyond that the content scrolls.
+/// The panel's window: borderless above other windows in hidden-menu mode, a small titled utility window in
+/// windoid mode. Its height follows its content's, as far as the screen allows; beyond that the content
+/// scrolls.
 class LumivaneWindow : public QWidget {
     Q_OBJECT
 
@@ -23,8 +24,8 @@ public:
 
     std::uint32_t styleMask() const { return styleMask_; }
 
-    /// Stacks the views of `content` from top to bottom, each at the height of its size hint, and lets the window
-    /// follow the content's size from then on. `area` shows the content.
+    /// Stacks the views of `content` from top to bottom, each at the height of its size hint, and lets the
+    /// window follow the content's size from then on. `area` shows the content.
     void setContent(QScrollArea* area, QWidget* content);
 
     /// Keeps the window to a screen's height that Qt doesn't know of.

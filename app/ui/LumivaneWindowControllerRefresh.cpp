@@ -73,10 +73,9 @@ void LumivaneWindowController::updateStaticMoonInfo() {
     updateMoonImage();
     const std::uint32_t t = datePickerGMTSeconds();
 
-    const QString phase =
-        presentIsOutOfRange_
-            ? CMoonHelper::stringForInformation(6)
-            : information(1, CMoonHelper::stringForMoonName(gMoon.GetDescriptorIndex(t)));
+    const QString phase = presentIsOutOfRange_
+                              ? CMoonHelper::stringForInformation(6)
+                              : information(1, CMoonHelper::stringForMoonName(gMoon.GetDescriptorIndex(t)));
     setStringValueHilight(phaseName_, phase);
     moonImageView_->setAccessibleName(phase);
     const auto illumination = static_cast<float>(gMoon.IlluminationDisplay(t));

@@ -6,7 +6,8 @@
 
 #include <algorithm>
 
-NSBox::NSBox(QWidget* parent) : QFrame(parent) {}
+NSBox::NSBox(QWidget* parent) : QFrame(parent) {
+}
 
 QWidget* NSBox::contentView() const {
     for (QObject* child : children()) {

@@ -3,8 +3,8 @@
 
 #include <QFrame>
 
-/// Stands for a box around a content view. Backed by a frame that shows the upper part of its content view when it is
-/// lower than that, as a folded section is, under a hairline that sets it off from what is above.
+/// Stands for a box around a content view. Backed by a frame that shows the upper part of its content view
+/// when it is lower than that, as a folded section is, under a hairline that sets it off from what is above.
 class NSBox : public QFrame {
     Q_OBJECT
 

@@ -20,8 +20,8 @@ QDateTime shownFields(const QDateTime& instant) {
 
 QDateTime instantOfFields(const QDateTime& shown) {
     const NSDateComponents fields = NSCalendar::components(shown.toSecsSinceEpoch(), 0);
-    return QDateTime::fromSecsSinceEpoch(NSCalendar::dateFromComponents(fields, NSTimeZone::defaultTimeZone()),
-                                         Qt::UTC);
+    return QDateTime::fromSecsSinceEpoch(
+        NSCalendar::dateFromComponents(fields, NSTimeZone::defaultTimeZone()), Qt::UTC);
 }
 
 } // namespace

@@ -3,9 +3,9 @@
 
 #include <QDateTimeEdit>
 
-/// Stands for a date picker that holds an instant and shows it in the default time zone. Backed by QDateTimeEdit in
-/// the format of LC_TIME. The instant is kept beside the shown fields, so that an hour which comes twice in autumn
-/// is not lost in the display.
+/// Stands for a date picker that holds an instant and shows it in the default time zone. Backed by
+/// QDateTimeEdit in the format of LC_TIME. The instant is kept beside the shown fields, so that an hour which
+/// comes twice in autumn is not lost in the display.
 class NSDatePicker : public QDateTimeEdit {
     Q_OBJECT
 

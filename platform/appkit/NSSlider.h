@@ -3,8 +3,8 @@
 
 #include <QSlider>
 
-/// Stands for a slider with a value in double precision. Backed by QSlider, whose whole steps only place the knob: a
-/// value that was set comes back exactly, until the user moves the knob.
+/// Stands for a slider with a value in double precision. Backed by QSlider, whose whole steps only place the
+/// knob: a value that was set comes back exactly, until the user moves the knob.
 class NSSlider : public QSlider {
     Q_OBJECT
     Q_PROPERTY(double minValue READ minValue WRITE setMinValue)

@@ -23,7 +23,7 @@ public:
     /// The locale of LC_TIME for Qt's own date widgets.
     static QLocale locale();
 
-    /// The Qt format for editing a date with a four-digit year and a time of day with seconds, in the locale's order
-    /// and the user's hour cycle.
+    /// The Qt format for editing a date with a four-digit year and a time of day with seconds, in the
+    /// locale's order and the user's hour cycle.
     static QString editingFormat();
 };

@@ -25,7 +25,8 @@ private:
 /// operation, the source file (without folder and extension) and the line it was raised at.
 class NSInternalInconsistencyException : public NSException {
 public:
-    explicit NSInternalInconsistencyException(
-        const QString& message, const char* method = __builtin_FUNCTION(),
-        const char* file = __builtin_FILE(), int line = __builtin_LINE());
+    explicit NSInternalInconsistencyException(const QString& message,
+                                              const char* method = __builtin_FUNCTION(),
+                                              const char* file = __builtin_FILE(),
+                                              int line = __builtin_LINE());
 };

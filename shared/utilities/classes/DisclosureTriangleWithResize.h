@@ -7,9 +7,10 @@
 
 class NSBox;
 
-/// A triangle that folds and unfolds the box it sits in and lets the window follow. It sits in the content view of an
-/// NSBox; the box and the views beside it share one superview, which has no layout of its own. A triangle with a
-/// `binding` is tied to that boolean preference: the box follows the preference, wherever a change comes from.
+/// A triangle that folds and unfolds the box it sits in and lets the window follow. It sits in the content
+/// view of an NSBox; the box and the views beside it share one superview, which has no layout of its own. A
+/// triangle with a `binding` is tied to that boolean preference: the box follows the preference, wherever a
+/// change comes from.
 class DisclosureTriangleWithResize : public QToolButton {
     Q_OBJECT
     Q_PROPERTY(QString binding MEMBER valueBindingKeyPath_)
@@ -23,7 +24,8 @@ public:
     /// The box's neighbours whose bottom edge lies above (or below) the box's own, in the superview's order.
     QList<QWidget*> viewsInWindow(bool above) const;
 
-    float smallHeight() const;   ///< of the folded box: down to the triangle's bottom, and the gap above it once more
+    float
+    smallHeight() const; ///< of the folded box: down to the triangle's bottom, and the gap above it once more
     float currentHeight() const; ///< of the box as it is
     float largeHeight() const;   ///< of the unfolded box
 
@@ -33,8 +35,8 @@ public:
     /// Brings the box to the height of the triangle's state.
     void sizeToState();
 
-    /// To be called once, when the layout is loaded and the box has its unfolded height: folds the box as the bound
-    /// preference says, and follows it from then on.
+    /// To be called once, when the layout is loaded and the box has its unfolded height: folds the box as the
+    /// bound preference says, and follows it from then on.
     void awakeFromNib();
 
     QSize sizeHint() const override;

@@ -156,7 +156,8 @@ TEST_F(NSUserDefaultsTest, AKillAtAnyMomentLeavesAWholeFile) {
         const pid_t pid = fork();
         if (pid == 0)
             child(round);
-        usleep(random.bounded(130000)); // a lock that a killed child leaves takes a tenth of a second to break
+        usleep(
+            random.bounded(130000)); // a lock that a killed child leaves takes a tenth of a second to break
         kill(pid, SIGKILL);
         waitpid(pid, nullptr, 0);
 
