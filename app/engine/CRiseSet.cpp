@@ -42,12 +42,61 @@ double sin(const Angle& angle) {
     return angle.sine;
 }
 
-/// Right ascension in hours and declination in degrees of the direction (x, y, z), given its equatorial
-/// parts.
-void equatorial(double x, double y, double z, double* ra, double* dec) {
-    const double rho = std::sqrt(1.0 - z * z);
-    *dec = kDegrees * std::atan(z / rho);
-    *ra = kHours * std::atan(y / (x + rho));
+/// A unit vector in the equator's frame: x to the equinox, z to the north pole.
+struct Direction {
+    double x;
+    double y;
+    double z;
+};
+
+/// t as in MINI_SUN.
+Direction sunDirection(double t) {
+    const double m = P2 * CRiseSet::FRAC(0.993133 + 99.997361 * t);
+    const double dl = 6893.0 * std::sin(m) + 72.0 * std::sin(2 * m);
+    const double l = P2 * CRiseSet::FRAC(0.7859453 + m / P2 + (6191.2 * t + dl) / kArcPerRevolution);
+    const double sl = std::sin(l);
+    return {std::cos(l), kCosEps * sl, kSinEps * sl};
+}
+
+/// t as in MINI_MOON.
+Direction moonDirection(double t) {
+    const double l0 = CRiseSet::FRAC(0.606433 + 1336.855225 * t);        // mean longitude, revolutions
+    const Angle l(P2 * CRiseSet::FRAC(0.374897 + 1325.552410 * t));      // the Moon's mean anomaly
+    const Angle ls(P2 * CRiseSet::FRAC(0.993133 + 99.997361 * t));       // the Sun's mean anomaly
+    const Angle d(P2 * CRiseSet::FRAC(0.827361 + 1236.853086 * t));      // elongation from the Sun
+    const double node = P2 * CRiseSet::FRAC(0.259086 + 1342.227825 * t); // distance from the ascending node
+    const Angle f(node);
+    const Angle l2 = l + l;
+    const Angle d2 = d + d;
+    const Angle f2 = f + f;
+
+    const double dl = 22640.0 * sin(l) - 4586.0 * sin(l - d2) + 2370.0 * sin(d2) + 769.0 * sin(l2) -
+                      668.0 * sin(ls) - 412.0 * sin(f2) - 212.0 * sin(l2 - d2) - 206.0 * sin(l + ls - d2) +
+                      192.0 * sin(l + d2) - 165.0 * sin(ls - d2) - 125.0 * sin(d) - 110.0 * sin(l + ls) +
+                      148.0 * sin(l - ls) - 55.0 * sin(f2 - d2);
+    const double s = node + (dl + 412.0 * sin(f2) + 541.0 * sin(ls)) / kArc;
+    const Angle h = f - d2;
+    const double n = -526.0 * sin(h) + 44.0 * sin(l + h) - 31.0 * sin(h - l) - 23.0 * sin(ls + h) +
+                     11.0 * sin(h - ls) - 25.0 * sin(f - l2) + 21.0 * sin(f - l);
+    const double lm = P2 * CRiseSet::FRAC(l0 + dl / kArcPerRevolution);
+    const double bm = (18520.0 * std::sin(s) + n) / kArc;
+
+    const double cb = std::cos(bm);
+    const double v = cb * std::sin(lm);
+    const double w = std::sin(bm);
+    return {cb * std::cos(lm), kCosEps * v - kSinEps * w, kSinEps * v + kCosEps * w};
+}
+
+Direction directionOf(std::int32_t object, double mjd) {
+    const double t = (mjd - kJ2000) / 36525.0;
+    return object == CRiseSet::kRiseSetMoon ? moonDirection(t) : sunDirection(t);
+}
+
+/// Right ascension in hours and declination in degrees.
+void equatorial(const Direction& direction, double* ra, double* dec) {
+    const double rho = std::sqrt(1.0 - direction.z * direction.z);
+    *dec = kDegrees * std::atan(direction.z / rho);
+    *ra = kHours * std::atan(direction.y / (direction.x + rho));
     if (*ra < 0.0)
         *ra += 24.0;
 }
@@ -119,53 +168,20 @@ double CRiseSet::LMST(double mjd, double lambda) {
 }
 
 void CRiseSet::MINI_SUN(double t, double* ra, double* dec) {
-    const double m = P2 * FRAC(0.993133 + 99.997361 * t);
-    const double dl = 6893.0 * std::sin(m) + 72.0 * std::sin(2 * m);
-    const double l = P2 * FRAC(0.7859453 + m / P2 + (6191.2 * t + dl) / kArcPerRevolution);
-    const double sl = std::sin(l);
-    equatorial(std::cos(l), kCosEps * sl, kSinEps * sl, ra, dec);
+    equatorial(sunDirection(t), ra, dec);
 }
 
 void CRiseSet::MINI_MOON(double t, double* ra, double* dec) {
-    const double l0 = FRAC(0.606433 + 1336.855225 * t);        // mean longitude, revolutions
-    const Angle l(P2 * FRAC(0.374897 + 1325.552410 * t));      // the Moon's mean anomaly
-    const Angle ls(P2 * FRAC(0.993133 + 99.997361 * t));       // the Sun's mean anomaly
-    const Angle d(P2 * FRAC(0.827361 + 1236.853086 * t));      // elongation from the Sun
-    const double node = P2 * FRAC(0.259086 + 1342.227825 * t); // distance from the ascending node
-    const Angle f(node);
-    const Angle l2 = l + l;
-    const Angle d2 = d + d;
-    const Angle f2 = f + f;
-
-    const double dl = 22640.0 * sin(l) - 4586.0 * sin(l - d2) + 2370.0 * sin(d2) + 769.0 * sin(l2) -
-                      668.0 * sin(ls) - 412.0 * sin(f2) - 212.0 * sin(l2 - d2) - 206.0 * sin(l + ls - d2) +
-                      192.0 * sin(l + d2) - 165.0 * sin(ls - d2) - 125.0 * sin(d) - 110.0 * sin(l + ls) +
-                      148.0 * sin(l - ls) - 55.0 * sin(f2 - d2);
-    const double s = node + (dl + 412.0 * sin(f2) + 541.0 * sin(ls)) / kArc;
-    const Angle h = f - d2;
-    const double n = -526.0 * sin(h) + 44.0 * sin(l + h) - 31.0 * sin(h - l) - 23.0 * sin(ls + h) +
-                     11.0 * sin(h - ls) - 25.0 * sin(f - l2) + 21.0 * sin(f - l);
-    const double lm = P2 * FRAC(l0 + dl / kArcPerRevolution);
-    const double bm = (18520.0 * std::sin(s) + n) / kArc;
-
-    const double cb = std::cos(bm);
-    const double v = cb * std::sin(lm);
-    const double w = std::sin(bm);
-    equatorial(cb * std::cos(lm), kCosEps * v - kSinEps * w, kSinEps * v + kCosEps * w, ra, dec);
+    equatorial(moonDirection(t), ra, dec);
 }
 
 double CRiseSet::SIN_ALT(std::int32_t object, double mjd0, double hour, double lambda, double cphi,
                          double sphi) {
     const double mjd = mjd0 + hour / 24.0;
-    const double t = (mjd - kJ2000) / 36525.0;
-    double ra = 0.0;
-    double dec = 0.0;
-    if (object == kRiseSetMoon)
-        MINI_MOON(t, &ra, &dec);
-    else
-        MINI_SUN(t, &ra, &dec);
-    const double tau = 15.0 * (LMST(mjd, lambda) - ra);
-    return cphi * CS(dec) * CS(tau) + sphi * SN(dec);
+    // From the direction itself: cos(dec) cos(tau) without a way through ra and dec and back.
+    const Direction to = directionOf(object, mjd);
+    const Angle meridian(15.0 * kRadians * LMST(mjd, lambda));
+    return cphi * (to.x * meridian.cosine + to.y * meridian.sine) + sphi * to.z;
 }
 
 void CRiseSet::QUAD(double yMinus, double y0, double yPlus, double* xe, double* ye, double* root1,

@@ -9,6 +9,7 @@
 #include <QAbstractSlider>
 #include <QAction>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QDateTimeEdit>
 #include <QFile>
 #include <QHash>
@@ -43,9 +44,21 @@ void addReason(QString* error, const QString& reason) {
         *error += (error->isEmpty() ? QString() : QStringLiteral(" ")) + reason;
 }
 
+/// A new QUiLoader loads every widget plugin that Qt Designer has on this machine, and their libraries with
+/// them. While one of these lives it finds none.
+class NoPlugins {
+public:
+    NoPlugins() { QCoreApplication::setLibraryPaths({}); }
+    ~NoPlugins() { QCoreApplication::setLibraryPaths(paths_); }
+    Q_DISABLE_COPY_MOVE(NoPlugins)
+
+private:
+    const QStringList paths_ = QCoreApplication::libraryPaths();
+};
+
 class Loader : public QUiLoader {
 public:
-    Loader() { clearPluginPaths(); }
+    explicit Loader(const NoPlugins& = {}) {}
 
     QWidget* createWidget(const QString& className, QWidget* parent, const QString& name) override {
         QWidget* widget = nullptr;

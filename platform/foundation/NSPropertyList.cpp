@@ -113,6 +113,10 @@ PlistPtr toPlist(const QVariant& value) {
     case QMetaType::LongLong:
     case QMetaType::ULongLong:
         return PlistPtr(plist_new_uint(value.toULongLong()));
+    case QMetaType::QByteArray: {
+        const QByteArray bytes = value.toByteArray();
+        return PlistPtr(plist_new_data(bytes.constData(), static_cast<std::uint64_t>(bytes.size())));
+    }
     default:
         return PlistPtr(plist_new_string(value.toString().toUtf8().constData()));
     }
@@ -120,17 +124,7 @@ PlistPtr toPlist(const QVariant& value) {
 
 } // namespace
 
-QVariant NSPropertyList::read(const QString& path, QString* error) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        *error = file.errorString();
-        return {};
-    }
-    if (file.size() > kLargestFile) {
-        *error = QStringLiteral("the file is too large");
-        return {};
-    }
-    const QByteArray bytes = file.readAll();
+QVariant NSPropertyList::fromBytes(const QByteArray& bytes, QString* error) {
     plist_t rawRoot = nullptr;
     if (!bytes.isEmpty())
         plist_from_memory(bytes.constData(), static_cast<std::uint32_t>(bytes.size()), &rawRoot);
@@ -142,15 +136,32 @@ QVariant NSPropertyList::read(const QString& path, QString* error) {
     return fromPlist(root.get(), 0);
 }
 
-bool NSPropertyList::write(const QVariant& root, const QString& path, QString* error) {
+QByteArray NSPropertyList::toBytes(const QVariant& root) {
     const PlistPtr node = toPlist(root);
     char* bytes = nullptr;
     std::uint32_t size = 0;
     plist_to_bin(node.get(), &bytes, &size);
     const std::unique_ptr<char, decltype(&free)> owned(bytes, &free);
+    return QByteArray(bytes, static_cast<qsizetype>(size));
+}
+
+QVariant NSPropertyList::read(const QString& path, QString* error) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        *error = file.errorString();
+        return {};
+    }
+    if (file.size() > kLargestFile) {
+        *error = QStringLiteral("the file is too large");
+        return {};
+    }
+    return fromBytes(file.readAll(), error);
+}
+
+bool NSPropertyList::write(const QVariant& root, const QString& path, QString* error) {
+    const QByteArray bytes = toBytes(root);
     QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes, size) != static_cast<qint64>(size) ||
-        !file.commit()) {
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit()) {
         *error = file.errorString();
         return false;
     }
