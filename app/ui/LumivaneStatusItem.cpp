@@ -28,7 +28,17 @@
 
 namespace {
 constexpr std::chrono::seconds kClockInterval{300};
+
+/// The theme's icon in the sizes that window lists draw; every window keeps all that it is given, and the
+/// large ones take more than the rest of the program's pictures.
+QIcon windowIcon() {
+    const QIcon whole = QIcon::fromTheme(NSBundle::mainBundle().bundleIdentifier());
+    QIcon icon;
+    for (const int size : {16, 32, 48, 64})
+        icon.addPixmap(whole.pixmap(size));
+    return icon;
 }
+} // namespace
 
 LumivaneStatusItem::LumivaneStatusItem() = default;
 
@@ -58,8 +68,10 @@ void LumivaneStatusItem::showNow() {
 }
 
 void LumivaneStatusItem::moonClockTimer() {
-    if (!isPanelVisible())
+    if (!isPanelVisible()) {
         showNow();
+        ExtraApplicationUtilities::returnFreedMemory();
+    }
 }
 
 void LumivaneStatusItem::setImage(const QImage& image) {
@@ -92,6 +104,8 @@ void LumivaneStatusItem::updateToolTip() {
 void LumivaneStatusItem::makeAsHiddenMenu() {
     showNow();
     replaceController(LumivaneWindow::kBorderlessMask);
+    // When the old panel is gone.
+    QMetaObject::invokeMethod(this, &ExtraApplicationUtilities::returnFreedMemory, Qt::QueuedConnection);
 }
 
 void LumivaneStatusItem::makeAsWindoid() {
@@ -111,7 +125,7 @@ void LumivaneStatusItem::replaceController(std::uint32_t styleMask) {
 void LumivaneStatusItem::loadController(std::uint32_t styleMask) {
     // Looking through the icon theme costs more than drawing the Moon: not before there is a window.
     if (QApplication::windowIcon().isNull())
-        QApplication::setWindowIcon(QIcon::fromTheme(NSBundle::mainBundle().bundleIdentifier()));
+        QApplication::setWindowIcon(windowIcon());
     LumivaneWindow::setNextStyleMask(styleMask);
     lumivaneWindow_ = LumivaneWindowController::lumivaneWindowController();
     lumivaneWindow_->setStatusItem(this);

@@ -9,7 +9,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QRegularExpression>
 #include <QSet>
 #include <QStandardPaths>
 
@@ -68,10 +67,11 @@ Entry entryOf(const QString& file, const DesktopEntry& desktopEntry) {
 /// All entries of the folder in the list's order, the ones that aren't started too.
 std::vector<Entry> allEntries() {
     const QDir folder(AutostartFolder::path());
-    const QStringList files = folder.entryList(
-        {QStringLiteral("*.desktop")}, QDir::AllEntries | QDir::System | QDir::CaseSensitive, QDir::Name);
+    const QStringList files = folder.entryList(QDir::AllEntries | QDir::System, QDir::Name);
     std::vector<Entry> entries;
     for (const QString& file : files) {
+        if (!file.endsWith(u".desktop"))
+            continue;
         QString error;
         if (const auto desktopEntry = DesktopEntry::fromFile(filePath(file), &error))
             entries.push_back(entryOf(file, *desktopEntry));
@@ -129,12 +129,15 @@ std::optional<DesktopEntry> autostartEntry(const QString& path, bool hidden, qui
 
 /// A name for a new entry that nothing in the folder has, a dangling link neither.
 QString freeFileName(const QString& path) {
-    static const QRegularExpression unfit(QStringLiteral("[^A-Za-z0-9._-]"));
+    const auto isUnfit = [](QChar c) {
+        return c.unicode() > 127 || !(c.isLetterOrNumber() || c == u'.' || c == u'_' || c == u'-');
+    };
     QString stem = QFileInfo(path).fileName();
     if (stem.endsWith(u".desktop"))
         stem.chop(8);
     // Long names leave room for a number; a leading dot would hide the entry from some sessions.
-    stem = stem.replace(unfit, QStringLiteral("_")).left(100);
+    std::ranges::replace_if(stem, isUnfit, QChar(u'_'));
+    stem.truncate(100);
     if (stem.isEmpty() || stem.startsWith(u'.'))
         stem.prepend(QStringLiteral("item"));
     QString file = stem + QStringLiteral(".desktop");
@@ -149,12 +152,14 @@ constexpr char kDraftPattern[] = ".login-item-XXXXXX";
 /// Drafts are left behind by a copy that was killed while it wrote.
 void clearOldDrafts() {
     const QDir folder(AutostartFolder::path());
-    const QFileInfoList drafts =
-        folder.entryInfoList({QStringLiteral(".login-item-??????")}, QDir::Files | QDir::Hidden);
+    const QFileInfoList files = folder.entryInfoList(QDir::Files | QDir::Hidden);
     const QDateTime aMinuteAgo = QDateTime::currentDateTimeUtc().addSecs(-60);
-    for (const QFileInfo& draft : drafts) {
-        if (draft.lastModified() < aMinuteAgo)
-            QFile::remove(draft.filePath());
+    const auto pattern = QLatin1String(kDraftPattern);
+    for (const QFileInfo& file : files) {
+        const bool isDraft =
+            file.fileName().size() == pattern.size() && file.fileName().startsWith(pattern.chopped(6));
+        if (isDraft && file.lastModified() < aMinuteAgo)
+            QFile::remove(file.filePath());
     }
 }
 

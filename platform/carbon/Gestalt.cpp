@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/carbon/Gestalt.h"
 
-#include <QRegularExpression>
 #include <QSysInfo>
+#include <QVersionNumber>
 
 #include <algorithm>
 #include <array>
@@ -10,15 +10,10 @@
 namespace {
 
 std::array<int, 3> leadingNumbers(const QString& text) {
-    static const QRegularExpression dotted(QStringLiteral("^(\\d+)(?:\\.(\\d+))?(?:\\.(\\d+))?"));
-    const auto match = dotted.match(text);
+    const QVersionNumber version = QVersionNumber::fromString(text);
     std::array<int, 3> numbers{};
-    for (std::size_t i = 0; i < numbers.size(); ++i) {
-        const QString digits = match.captured(static_cast<int>(i) + 1);
-        bool fits = true;
-        const int number = digits.isEmpty() ? 0 : digits.toInt(&fits);
-        numbers[i] = fits ? std::min(number, 99) : 99;
-    }
+    for (int i = 0; i < 3; ++i)
+        numbers[static_cast<std::size_t>(i)] = std::min(version.segmentAt(i), 99);
     return numbers;
 }
 

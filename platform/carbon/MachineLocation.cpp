@@ -5,7 +5,6 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QRegularExpression>
 
 #include <algorithm>
 #include <cmath>
@@ -21,20 +20,33 @@ QString zoneInfoFolder() {
     return named.isEmpty() ? QStringLiteral("/usr/share/zoneinfo") : named;
 }
 
-/// Degrees of one half of an ISO 6709 place, with digits DDMM, DDDMM, DDMMSS or DDDMMSS.
-double degrees(const QString& sign, const QString& digits) {
-    const bool hasSeconds = digits.size() > 5;
-    const qsizetype degreeDigits = digits.size() - (hasSeconds ? 4 : 2);
-    double value = digits.left(degreeDigits).toDouble() + digits.mid(degreeDigits, 2).toDouble() / 60.0;
-    if (hasSeconds)
-        value += digits.mid(degreeDigits + 2, 2).toDouble() / 3600.0;
-    return sign == u"-" ? -value : value;
-}
-
 struct Place {
     double latitude;
     double longitude;
 };
+
+/// Degrees of one half of an ISO 6709 place: a sign and digits DDMM, DDDMM, DDMMSS or DDDMMSS, with
+/// `degreeDigits` for the degrees.
+std::optional<double> degrees(QByteArrayView half, qsizetype degreeDigits) {
+    const QByteArrayView digits = half.sliced(1);
+    const qsizetype more = digits.size() - degreeDigits;
+    if ((more != 2 && more != 4) || !std::ranges::all_of(digits, [](char c) { return c >= '0' && c <= '9'; }))
+        return std::nullopt;
+    double value = digits.first(degreeDigits).toInt() + digits.sliced(degreeDigits, 2).toInt() / 60.0;
+    if (more == 4)
+        value += digits.last(2).toInt() / 3600.0;
+    return half.front() == '-' ? -value : value;
+}
+
+std::optional<Place> placeOf(const QByteArray& iso6709) {
+    const auto isSign = [](char c) { return c == '+' || c == '-'; };
+    const qsizetype second = std::max(iso6709.indexOf('+', 1), iso6709.indexOf('-', 1));
+    if (second < 0 || !isSign(iso6709.front()))
+        return std::nullopt;
+    const auto latitude = degrees(QByteArrayView(iso6709).first(second), 2);
+    const auto longitude = degrees(QByteArrayView(iso6709).sliced(second), 3);
+    return latitude && longitude ? std::optional(Place{*latitude, *longitude}) : std::nullopt;
+}
 
 std::optional<Place> placeInTable(const QString& table, const QByteArray& zoneId) {
     QFile file(zoneInfoFolder() + QLatin1Char('/') + table);
@@ -45,12 +57,8 @@ std::optional<Place> placeInTable(const QString& table, const QByteArray& zoneId
         const QList<QByteArray> columns = line.split('\t');
         if (line.startsWith('#') || columns.size() < 3 || columns[2] != zoneId)
             continue;
-        static const QRegularExpression iso6709(
-            QStringLiteral("^([+-])(\\d{4}|\\d{6})([+-])(\\d{5}|\\d{7})$"));
-        const auto match = iso6709.match(QString::fromLatin1(columns[1]));
-        if (match.hasMatch())
-            return Place{degrees(match.captured(1), match.captured(2)),
-                         degrees(match.captured(3), match.captured(4))};
+        if (const auto place = placeOf(columns[1]))
+            return place;
     }
     return std::nullopt;
 }

@@ -8,7 +8,6 @@
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QDBusVirtualObject>
-#include <QRegularExpression>
 
 #include <algorithm>
 #include <limits>
@@ -25,9 +24,13 @@ QString serviceName(const QString& bundleIdentifier, std::uint32_t pid) {
 }
 
 QString objectPath(const QString& bundleIdentifier) {
-    static const QRegularExpression unfit(QStringLiteral("[^A-Za-z0-9_/]"));
     QString path = QLatin1Char('/') + bundleIdentifier;
-    return path.replace(QLatin1Char('.'), QLatin1Char('/')).replace(unfit, QStringLiteral("_"));
+    path.replace(QLatin1Char('.'), QLatin1Char('/'));
+    for (QChar& c : path) {
+        if (c != u'/' && (c.unicode() > 127 || !c.isLetterOrNumber()))
+            c = u'_';
+    }
+    return path;
 }
 
 QString eventInterface(const QString& bundleIdentifier) {
@@ -235,6 +238,18 @@ OSStatus statusOf(const QDBusMessage& answer) {
     }
 }
 
+/// The copy that a name on the bus announces, as serviceName forms it.
+std::optional<ProcessService::Copy> announcedCopy(const QString& name) {
+    const qsizetype dot = name.lastIndexOf(QStringLiteral(".pid"));
+    if (dot <= 0 || name.startsWith(u':'))
+        return std::nullopt;
+    const QString identifier = name.left(dot);
+    const std::uint32_t pid = QStringView(name).mid(dot + 4).toUInt();
+    return pid != 0 && name == serviceName(identifier, pid)
+               ? std::optional(ProcessService::Copy{pid, identifier})
+               : std::nullopt;
+}
+
 int milliseconds(long ticks) {
     if (ticks < 0)
         return -1;
@@ -247,12 +262,11 @@ std::vector<ProcessService::Copy> ProcessService::announcedCopies() {
     const QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         return {};
-    static const QRegularExpression announced(QStringLiteral("^([^:].*)\\.pid([1-9]\\d{0,8})$"));
     std::vector<Copy> copies;
     const QStringList names = bus.interface()->registeredServiceNames();
     for (const QString& name : names) {
-        if (const auto match = announced.match(name); match.hasMatch())
-            copies.push_back({match.captured(2).toUInt(), match.captured(1)});
+        if (const auto copy = announcedCopy(name))
+            copies.push_back(*copy);
     }
     return copies;
 }

@@ -6,6 +6,8 @@
 
 #include <array>
 
+#include <malloc.h>
+
 void ExtraApplicationUtilities::bringToFront() {
     ProcessSerialNumber self;
     if (GetCurrentProcess(&self) == noErr)
@@ -33,4 +35,10 @@ std::uint32_t ExtraApplicationUtilities::systemVersion() {
         version = (digits & 0xFF00) << 8 | (digits & 0xF0) << 4 | (digits & 0xF);
     }
     return version;
+}
+
+void ExtraApplicationUtilities::returnFreedMemory() {
+#ifdef __GLIBC__
+    malloc_trim(0);
+#endif
 }

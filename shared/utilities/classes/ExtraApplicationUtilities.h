@@ -12,4 +12,7 @@ void bringToFront();
 /// for the bug-fix number (10.4.11 is 0x100411). Asked once a run; 0 when the system does not tell.
 std::uint32_t systemVersion();
 
+/// Gives the memory that was freed back to the system, where the C library else keeps it for the next time.
+void returnFreedMemory();
+
 } // namespace ExtraApplicationUtilities
