@@ -118,7 +118,7 @@ def measure(desktop, screen, name, command, runs, seconds):
         if len(starts) < runs:
             stop(desktop)
     clicks = [click_to_paint(desktop, screen) for _ in range(runs)] if name == "Lumivane" else []
-    time.sleep(8)  # until whatever a start leaves behind has ended
+    time.sleep(35)  # until whatever a start leaves behind has ended; idle threads of a pool live for 30 s
     pid = desktop.program.pid
     rss, pss, private = memory(pid)
     switches, cpu = sums(pid)

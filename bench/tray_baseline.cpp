@@ -2,6 +2,7 @@
 // The least that a Qt program in the tray can be, with the UI loader linked: what Lumivane is measured
 // beside.
 #include <QApplication>
+#include <QDebug>
 #include <QMenu>
 #include <QSystemTrayIcon>
 #include <QUiLoader>
@@ -9,10 +10,10 @@
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
-    const QUiLoader loader;
     QPixmap picture(22, 22);
     picture.fill(Qt::gray);
     QMenu menu;
+    menu.addAction(QStringLiteral("Layouts"), [] { qInfo() << QUiLoader().availableLayouts(); });
     menu.addAction(QStringLiteral("Quit"), &application, &QApplication::quit);
     QSystemTrayIcon icon(QIcon{picture});
     icon.setContextMenu(&menu);

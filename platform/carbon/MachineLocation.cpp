@@ -10,6 +10,7 @@
 #include <cmath>
 #include <limits>
 #include <optional>
+#include <vector>
 
 namespace {
 
@@ -48,14 +49,26 @@ std::optional<Place> placeOf(const QByteArray& iso6709) {
     return latitude && longitude ? std::optional(Place{*latitude, *longitude}) : std::nullopt;
 }
 
+/// The words of each line of a file that has `word` in it. Only those lines are taken apart: the files are
+/// long, and this is on the program's way to its icon.
+std::vector<QList<QByteArray>> linesWith(const QByteArray& word, const QString& fileName, char separator) {
+    QFile file(zoneInfoFolder() + QLatin1Char('/') + fileName);
+    if (word.isEmpty() || !file.open(QIODevice::ReadOnly))
+        return {};
+    const QByteArray text = file.readAll();
+    std::vector<QList<QByteArray>> lines;
+    for (qsizetype at = text.indexOf(word); at >= 0; at = text.indexOf(word, at)) {
+        const qsizetype start = text.lastIndexOf('\n', at) + 1;
+        const qsizetype end = text.indexOf('\n', at);
+        at = end < 0 ? text.size() : end;
+        lines.push_back(text.mid(start, at - start).trimmed().split(separator));
+    }
+    return lines;
+}
+
 std::optional<Place> placeInTable(const QString& table, const QByteArray& zoneId) {
-    QFile file(zoneInfoFolder() + QLatin1Char('/') + table);
-    if (!file.open(QIODevice::ReadOnly))
-        return std::nullopt;
-    while (!file.atEnd()) {
-        const QByteArray line = file.readLine().trimmed();
-        const QList<QByteArray> columns = line.split('\t');
-        if (line.startsWith('#') || columns.size() < 3 || columns[2] != zoneId)
+    for (const QList<QByteArray>& columns : linesWith(zoneId, table, '\t')) {
+        if (columns.size() < 3 || columns[0].startsWith('#') || columns[2] != zoneId)
             continue;
         if (const auto place = placeOf(columns[1]))
             return place;
@@ -65,11 +78,7 @@ std::optional<Place> placeInTable(const QString& table, const QByteArray& zoneId
 
 /// The zone that a second name ("US/Eastern", "Asia/Calcutta") stands for.
 QByteArray canonicalName(const QByteArray& zoneId) {
-    QFile file(zoneInfoFolder() + QStringLiteral("/tzdata.zi"));
-    if (!file.open(QIODevice::ReadOnly))
-        return zoneId;
-    while (!file.atEnd()) {
-        const QList<QByteArray> words = file.readLine().trimmed().split(' ');
+    for (const QList<QByteArray>& words : linesWith(zoneId, QStringLiteral("tzdata.zi"), ' ')) {
         if (words.size() == 3 && words[0] == "L" && words[2] == zoneId)
             return words[1];
     }
@@ -91,8 +100,8 @@ std::optional<Place> placeOfZone(const QByteArray& zoneId) {
     if (zoneId != lastZone) {
         lastZone = zoneId;
         lastPlace = placeInTables(zoneId);
-        if (!lastPlace)
-            lastPlace = placeInTables(canonicalName(zoneId));
+        if (const QByteArray name = lastPlace ? zoneId : canonicalName(zoneId); name != zoneId)
+            lastPlace = placeInTables(name);
     }
     return lastPlace;
 }

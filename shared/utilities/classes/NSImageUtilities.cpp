@@ -30,7 +30,8 @@ int between(int from, int to, double fraction) {
 
 QImage NSImageUtilities::imageNamed(const QString& name) {
     const QString path = NSBundle::mainBundle().pathForResource(name, QStringLiteral("png"));
-    QImageReader reader(path);
+    // With its format named, the reader does not load every format's plugin to ask whether it is that one's.
+    QImageReader reader(path, "png");
     const QSize size = reader.size();
     if (path.isEmpty() || size.width() > kLargestSide || size.height() > kLargestSide) {
         NSLog(QStringLiteral("The picture %1 is missing or no picture.").arg(name));
