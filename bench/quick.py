@@ -1,0 +1,155 @@
+#!/usr/bin/python3
+# SPDX-License-Identifier: MIT
+"""What tray programs cost on a desktop: start to icon, memory, and 60 seconds at rest; for Lumivane also the time
+from the click to the painted panel. Medians. desktop.py LUMIVANE BASELINE [RUNS [SECONDS]]"""
+
+import ctypes
+import glob
+import os
+import shutil
+import statistics
+import subprocess
+import sys
+import time
+
+sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "../tests/desktop"))
+from desktop import Desktop, wait_for  # noqa: E402
+
+OTHERS = ()
+
+
+class Screen:
+    """Single pixels of the X screen, quicker than any screenshot."""
+
+    def __init__(self):
+        self.x = ctypes.CDLL("libX11.so.6")
+        for name, result in (("XOpenDisplay", ctypes.c_void_p), ("XDefaultRootWindow", ctypes.c_ulong),
+                             ("XGetImage", ctypes.c_void_p), ("XGetPixel", ctypes.c_ulong)):
+            getattr(self.x, name).restype = result
+        self.display = ctypes.c_void_p(self.x.XOpenDisplay(None))
+        self.root = ctypes.c_ulong(self.x.XDefaultRootWindow(self.display))
+
+    def pixels(self, x, y, width):
+        image = ctypes.c_void_p(self.x.XGetImage(self.display, self.root, x, y, width, 1, ctypes.c_ulong(~0), 2))
+        values = tuple(self.x.XGetPixel(image, i, 0) for i in range(width))
+        self.x.XDestroyImage(image)
+        return values
+
+
+def sums(pid):
+    """Context switches and CPU seconds of all of a process's threads."""
+    switches = 0
+    for status in glob.glob("/proc/%d/task/*/status" % pid):
+        with open(status) as lines:
+            switches += sum(int(line.split()[1]) for line in lines if "ctxt_switches" in line)
+    with open("/proc/%d/stat" % pid) as stat:
+        fields = stat.read().rsplit(")", 1)[1].split()
+    return switches, (int(fields[11]) + int(fields[12])) / os.sysconf("SC_CLK_TCK")
+
+
+def memory(pid):
+    """RSS, PSS and private memory in MB."""
+    values = {}
+    with open("/proc/%d/smaps_rollup" % pid) as lines:
+        for line in lines:
+            name, _, rest = line.partition(":")
+            if rest.strip().endswith("kB"):
+                values[name] = int(rest.split()[0]) / 1024
+    return values["Rss"], values["Pss"], values["Private_Clean"] + values["Private_Dirty"]
+
+
+def start(desktop, command):
+    """Starts a program; milliseconds until its icon is registered."""
+    Gio, GLib = desktop.gio()
+    bus = Gio.bus_get_sync(Gio.BusType.SESSION, None)
+    loop = GLib.MainLoop()
+    times = []
+
+    def registered(*_):
+        times.append(time.monotonic())
+        loop.quit()
+    subscription = bus.signal_subscribe(None, "org.kde.StatusNotifierWatcher", "StatusNotifierItemRegistered", None,
+                                        None, Gio.DBusSignalFlags.NONE, registered)
+    bus.call_sync("org.freedesktop.DBus", "/", "org.freedesktop.DBus", "GetId", None, None, 0, 1000, None)
+    GLib.timeout_add_seconds(20, loop.quit)
+    begin = time.monotonic()
+    desktop.start(command, fresh=False, tray=False)
+    loop.run()
+    bus.signal_unsubscribe(subscription)
+    return (times[0] - begin) * 1000 if times else None
+
+
+def stop(desktop):
+    desktop.stop()
+    wait_for("the icon to go", lambda: not desktop.items())
+
+
+def click_to_paint(desktop, screen):
+    """Milliseconds from the tray's Activate to the first lines of the panel's text on the screen."""
+    _, GLib = desktop.gio()
+    name, _, path = desktop.items()[0].partition("/")
+
+    def activate():
+        desktop.call(name, "/" + path, "org.kde.StatusNotifierItem", "Activate", GLib.Variant("(ii)", (1200, 14)))
+    row = (1000, 236, 220)  # through the phase phrase
+    dark = screen.pixels(*row)
+    begin = time.monotonic()
+    activate()
+    while len(set(screen.pixels(*row))) < 3:
+        if time.monotonic() - begin > 5:
+            raise AssertionError("the panel did not show")
+    taken = (time.monotonic() - begin) * 1000
+    time.sleep(0.3)
+    activate()
+    wait_for("the panel to hide", lambda: screen.pixels(*row) == dark)
+    time.sleep(0.2)
+    return taken
+
+
+def measure(desktop, screen, name, command, runs, seconds):
+    starts = []
+    for _ in range(runs):
+        taken = start(desktop, command)
+        if taken is None:
+            stop(desktop)
+            return print("%-14s shows no icon here" % name)
+        starts.append(taken)
+        time.sleep(0.3)
+        if len(starts) < runs:
+            stop(desktop)
+    clicks = [click_to_paint(desktop, screen) for _ in range(runs)] if name == "Lumivane" else []
+    time.sleep(1)  # until whatever a start leaves behind has ended; idle threads of a pool live for 30 s
+    pid = desktop.program.pid
+    rss, pss, private = memory(pid)
+    switches, cpu = sums(pid)
+    time.sleep(seconds)
+    switches_after, cpu_after = sums(pid)
+    stop(desktop)
+    print("%-14s %8.0f ms %7.1f %7.1f %7.1f MB %7d %7.2f s %s" % (
+        name, statistics.median(starts), rss, pss, private, switches_after - switches, cpu_after - cpu,
+        "%6.0f ms" % statistics.median(clicks) if clicks else "     -"), flush=True)
+
+
+def main():
+    lumivane, baseline = map(os.path.abspath, sys.argv[1:3])
+    runs = int(sys.argv[3]) if len(sys.argv) > 3 else 15
+    seconds = int(sys.argv[4]) if len(sys.argv) > 4 else 60
+    desktop = Desktop()
+    os.environ["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "0"
+    try:
+        screen = Screen()
+        print("%-14s %11s %7s %7s %10s %7s %9s %9s" % (
+            "program", "start", "RSS", "PSS", "private", "switches", "CPU", "click"))
+        measure(desktop, screen, "Lumivane", lumivane, runs, seconds)
+        measure(desktop, screen, "baseline", baseline, runs, seconds)
+        for name in OTHERS:
+            command = shutil.which(name)
+            if command:
+                measure(desktop, screen, name, command, runs, seconds)
+            else:
+                print("%-14s not installed (apt-get install %s)" % (name, name))
+    finally:
+        desktop.close()
+
+
+main()
