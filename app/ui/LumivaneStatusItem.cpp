@@ -20,6 +20,7 @@
 #include <QApplication>
 #include <QGuiApplication>
 #include <QIcon>
+#include <QImageReader>
 #include <QMenu>
 #include <QScreen>
 
@@ -29,13 +30,17 @@
 namespace {
 constexpr std::chrono::seconds kClockInterval{300};
 
-/// The theme's icon in the sizes that window lists draw; every window keeps all that it is given, and the
-/// large ones take more than the rest of the program's pictures.
+/// The program's installed icon in the sizes that window lists draw; every window keeps all that it is given.
+/// A look through the desktop's icon theme would take longer than making the panel.
 QIcon windowIcon() {
-    const QIcon whole = QIcon::fromTheme(NSBundle::mainBundle().bundleIdentifier());
     QIcon icon;
-    for (const int size : {16, 32, 48, 64})
-        icon.addPixmap(whole.pixmap(size));
+    for (const int size : {16, 32, 48, 64, 128}) {
+        const QString path = QStringLiteral("%1/../icons/hicolor/%2x%2/apps/%3.png")
+                                 .arg(NSBundle::mainBundle().resourcePath(), QString::number(size),
+                                      NSBundle::mainBundle().bundleIdentifier());
+        if (const QImage image = QImageReader(path, "png").read(); !image.isNull())
+            icon.addPixmap(QPixmap::fromImage(image));
+    }
     return icon;
 }
 } // namespace
@@ -123,7 +128,6 @@ void LumivaneStatusItem::replaceController(std::uint32_t styleMask) {
 }
 
 void LumivaneStatusItem::loadController(std::uint32_t styleMask) {
-    // Looking through the icon theme costs more than drawing the Moon: not before there is a window.
     if (QApplication::windowIcon().isNull())
         QApplication::setWindowIcon(windowIcon());
     LumivaneWindow::setNextStyleMask(styleMask);

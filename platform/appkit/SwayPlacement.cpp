@@ -9,11 +9,17 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QLocalSocket>
+#include <QSocketNotifier>
 #include <QWidget>
 
 #include <algorithm>
+#include <array>
+#include <cerrno>
 #include <cstring>
+
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
 
 namespace {
 
@@ -100,24 +106,97 @@ void flushX11() {
 
 } // namespace
 
+/// A stream to a local server. Not Qt's: that comes with all of its network library, which nothing else needs
+/// here.
+class SwayPlacement::Socket {
+public:
+    using Heard = std::function<void()>;
+
+    explicit Socket(Heard heard) : heard_(std::move(heard)) {}
+    ~Socket() { close(); }
+    Q_DISABLE_COPY_MOVE(Socket)
+
+    bool isOpen() const { return descriptor_ >= 0; }
+
+    /// Whether the server is reached; else errno tells why.
+    bool open(const QByteArray& path) {
+        sockaddr_un address{.sun_family = AF_UNIX, .sun_path = {}};
+        if (static_cast<std::size_t>(path.size()) >= sizeof address.sun_path) {
+            errno = ENAMETOOLONG;
+            return false;
+        }
+        std::ranges::copy(path, std::begin(address.sun_path));
+        descriptor_ = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+        if (!isOpen())
+            return false;
+        if (::connect(descriptor_, reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0) {
+            const int reason = errno;
+            close();
+            errno = reason;
+            return false;
+        }
+        notifier_ = std::make_unique<QSocketNotifier>(descriptor_, QSocketNotifier::Read);
+        QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(), heard_);
+        return true;
+    }
+
+    /// Whether all went out; else errno tells why.
+    bool write(QByteArrayView bytes) {
+        while (!bytes.isEmpty()) {
+            const ssize_t sent =
+                ::send(descriptor_, bytes.data(), static_cast<std::size_t>(bytes.size()), MSG_NOSIGNAL);
+            if (sent < 0 && errno != EINTR)
+                return false;
+            bytes = bytes.sliced(std::max<ssize_t>(sent, 0));
+        }
+        return true;
+    }
+
+    /// What has come in; nothing at the stream's end or, with the reason in errno, at its break.
+    QByteArray read() {
+        QByteArray bytes;
+        std::array<char, 16384> part{};
+        errno = 0;
+        for (ssize_t got = 1; got > 0;) {
+            got = recv(descriptor_, part.data(), part.size(), MSG_DONTWAIT);
+            bytes.append(part.data(), std::max<ssize_t>(got, 0));
+        }
+        return bytes;
+    }
+
+    void close() {
+        if (notifier_) { // it may be the notifier that has this called
+            notifier_->setEnabled(false);
+            notifier_.release()->deleteLater();
+        }
+        if (isOpen())
+            ::close(descriptor_);
+        descriptor_ = -1;
+    }
+
+private:
+    const Heard heard_;
+    std::unique_ptr<QSocketNotifier> notifier_;
+    int descriptor_ = -1;
+};
+
 bool SwayPlacement::isThere() {
     // The variable may be left over from another session.
     return QFileInfo::exists(qEnvironmentVariable(kSocketVariable));
 }
 
 SwayPlacement::SwayPlacement(QWidget* window, Chooser chooser)
-    : QObject(window), window_(window), chooser_(std::move(chooser)), socket_(new QLocalSocket(this)) {
+    : QObject(window), window_(window), chooser_(std::move(chooser)),
+      socket_(std::make_unique<Socket>([this] { read(); })) {
     window->setWindowRole(kRole);
-    connect(socket_, &QLocalSocket::readyRead, this, &SwayPlacement::read);
-    connect(socket_, &QLocalSocket::errorOccurred, this, [this] { giveUp(socket_->errorString()); });
 }
+
+SwayPlacement::~SwayPlacement() = default;
 
 void SwayPlacement::place() {
     const bool talking = socket_->isOpen();
-    if (!talking)
-        socket_->connectToServer(qEnvironmentVariable(kSocketVariable));
-    if (!socket_->isOpen())
-        return;
+    if (!talking && !socket_->open(qgetenv(kSocketVariable)))
+        return giveUp(qt_error_string());
     if (surroundings_)
         move();
     else if (!talking)
@@ -136,10 +215,11 @@ void SwayPlacement::awaitWindow() {
 
 void SwayPlacement::send(quint32 type, const QString& payload) {
     const QByteArray bytes = payload.toUtf8();
-    socket_->write(kMark + bytesOf(static_cast<quint32>(bytes.size())) + bytesOf(type) + bytes);
-    // Before the window shows, not after its fade.
-    socket_->flush();
+    if (!socket_->isOpen())
+        return;
     ++unanswered_;
+    if (!socket_->write(kMark + bytesOf(static_cast<quint32>(bytes.size())) + bytesOf(type) + bytes))
+        giveUp(qt_error_string());
 }
 
 void SwayPlacement::runCommand(const QString& command) {
@@ -147,7 +227,10 @@ void SwayPlacement::runCommand(const QString& command) {
 }
 
 void SwayPlacement::read() {
-    received_ += socket_->readAll();
+    const QByteArray bytes = socket_->read();
+    if (bytes.isEmpty() && errno != EAGAIN)
+        return giveUp(errno == 0 ? QStringLiteral("it hung up") : qt_error_string());
+    received_ += bytes;
     while (received_.size() >= kHeaderSize) {
         const quint32 length = numberAt(received_, kMark.size());
         if (!received_.startsWith(kMark) || length > kLongestPayload) {
@@ -211,7 +294,7 @@ void SwayPlacement::move() {
 }
 
 void SwayPlacement::hangUp() {
-    socket_->abort();
+    socket_->close();
     received_.clear();
     unanswered_ = 0;
 }

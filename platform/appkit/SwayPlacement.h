@@ -6,11 +6,11 @@
 #include <QRect>
 
 #include <functional>
+#include <memory>
 #include <optional>
 
 class QJsonDocument;
 class QJsonObject;
-class QLocalSocket;
 class QWidget;
 
 /// Puts a floating window to its place under Sway, which shows them in the middle of the screen whatever they
@@ -36,12 +36,15 @@ public:
 
     /// `window`, which is not shown yet, becomes the owner.
     SwayPlacement(QWidget* window, Chooser chooser);
+    ~SwayPlacement() override;
 
     /// Places the window: as soon as it shows, and at once when it does. Without an answer from Sway it stays
     /// where Sway puts it, which is logged.
     void place();
 
 private:
+    class Socket;
+
     enum class State {
         Awaiting,       ///< The window is not there yet.
         GoingToPointer, ///< Sway was told to put it there, which also tells where that is.
@@ -62,7 +65,7 @@ private:
 
     QWidget* const window_;
     const Chooser chooser_;
-    QLocalSocket* const socket_;
+    const std::unique_ptr<Socket> socket_;
     QByteArray received_;
     State state_ = State::Awaiting;
     int unanswered_ = 0;

@@ -86,6 +86,11 @@ QString NSBundle::resourcePath() const {
         .absoluteFilePath();
 }
 
+QString NSBundle::builtInPlugInsPath() const {
+    return QFileInfo(QFileInfo(executablePath()).absolutePath() + QStringLiteral("/../lib/lumivane"))
+        .absoluteFilePath();
+}
+
 QString NSBundle::bundlePath() const {
     const QString executable = executablePath();
     const QString appImage = appImagePath(executable);

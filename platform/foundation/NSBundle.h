@@ -19,6 +19,9 @@ public:
     /// The folder of the resources; it need not exist.
     QString resourcePath() const;
 
+    /// The folder of the program's plug-ins.
+    QString builtInPlugInsPath() const;
+
     /// Where the application lives, read afresh at every call: its installed desktop entry, `<bundle
     /// identifier>.desktop` in the XDG data folders, when that starts this very program; else the AppImage
     /// that it runs from; else the executable.

@@ -18,6 +18,65 @@ struct PlistFree {
 };
 using PlistPtr = std::unique_ptr<void, PlistFree>;
 
+/// The objects of a binary property list, as far as finding its texts needs them: the format ends
+/// with a trailer of 32 bytes, which leads to a table of the objects' offsets.
+class BinaryObjects {
+public:
+    explicit BinaryObjects(const QByteArray& bytes) : bytes_(bytes) {}
+
+    /// Whether a text has a zero character in it. libplist takes all of it for a dictionary's key, sees that
+    /// it is shorter as a C string, and ends the process.
+    bool anyTextHasZero() const {
+        const qsizetype trailer = bytes_.size() - 32;
+        if (!bytes_.startsWith("bplist") || trailer < 8)
+            return false;
+        const quint64 offsetSize = number(trailer + 6, 1);
+        const quint64 count = number(trailer + 8, 8);
+        const quint64 table = number(trailer + 24, 8);
+        const auto size = static_cast<quint64>(bytes_.size());
+        if (offsetSize == 0 || offsetSize > 8 || table >= size || count > (size - table) / offsetSize)
+            return false; // refused by libplist
+        for (quint64 i = 0; i < count; ++i) {
+            if (hasZero(number(static_cast<qsizetype>(table + i * offsetSize), offsetSize)))
+                return true;
+        }
+        return false;
+    }
+
+private:
+    /// A big-endian number; 0 where it is not all there.
+    quint64 number(qsizetype offset, quint64 size) const {
+        quint64 value = 0;
+        if (offset < 0 || static_cast<quint64>(bytes_.size() - offset) < size)
+            return 0;
+        for (const char byte : QByteArrayView(bytes_).sliced(offset, static_cast<qsizetype>(size)))
+            value = value << 8 | static_cast<quint8>(byte);
+        return value;
+    }
+
+    bool hasZero(quint64 offset) const {
+        if (offset >= static_cast<quint64>(bytes_.size()))
+            return false;
+        auto at = static_cast<qsizetype>(offset);
+        const quint64 marker = number(at++, 1);
+        const qsizetype width = marker >> 4 == 5 ? 1 : marker >> 4 == 6 ? 2 : 0; // ASCII, UTF-16
+        quint64 length = marker & 0xF;
+        if (width != 0 && length == 0xF) { // an integer object tells it
+            const quint64 integer = 1ULL << (number(at++, 1) & 0x3);
+            length = number(at, integer);
+            at += static_cast<qsizetype>(integer);
+        }
+        const qsizetype end = bytes_.size() - width;
+        for (quint64 i = 0; width != 0 && i < length && at <= end; ++i, at += width) {
+            if (number(at, static_cast<quint64>(width)) == 0)
+                return true;
+        }
+        return false;
+    }
+
+    const QByteArray& bytes_;
+};
+
 QVariant fromPlist(plist_t node, int depth);
 
 QVariant fromDictionary(plist_t node, int depth) {
@@ -126,7 +185,7 @@ PlistPtr toPlist(const QVariant& value) {
 
 QVariant NSPropertyList::fromBytes(const QByteArray& bytes, QString* error) {
     plist_t rawRoot = nullptr;
-    if (!bytes.isEmpty())
+    if (!bytes.isEmpty() && !BinaryObjects(bytes).anyTextHasZero())
         plist_from_memory(bytes.constData(), static_cast<std::uint32_t>(bytes.size()), &rawRoot);
     const PlistPtr root(rawRoot);
     if (!root) {

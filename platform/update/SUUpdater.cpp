@@ -66,7 +66,7 @@ void SUUpdater::setFeedURL(const QUrl& url) {
 void SUUpdater::schedule() {
     timer_.stop();
     const bool isBusy = fetcher_ || alert_;
-    if (!isBusy && SUFeedFetcher::isSecure(feedURL_) &&
+    if (!isBusy && SUIsSecure(feedURL_) &&
         NSUserDefaults::standardUserDefaults()->boolForKey(SUEnableAutomaticChecksKey))
         timer_.start(std::min(timeUntilCheck(), timing_.longestWait));
 }
@@ -98,7 +98,7 @@ void SUUpdater::checkForUpdates(QObject*) {
     if (fetcher_)
         return progress_ ? bringForward(progress_) : showProgress();
     timer_.stop();
-    if (SUFeedFetcher::isSecure(feedURL_)) {
+    if (SUIsSecure(feedURL_)) {
         startCheck();
         showProgress();
     } else {

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+#include "platform/foundation/NSPropertyList.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+QVariant read(const QByteArray& bytes, QString* error) {
+    error->clear();
+    return NSPropertyList::fromBytes(bytes, error);
+}
+
+} // namespace
+
+TEST(NSPropertyList, ReadsBackWhatItWrote) {
+    const QVariant root = QVariantMap{
+        {QStringLiteral("Größe"), 29.530589},
+        {QStringLiteral("bytes"), QByteArray("\0\1\xff", 3)},
+        {QStringLiteral("moons"),
+         QVariantList{QVariant::fromValue<qulonglong>(4294967295U), true, QStringLiteral("🌕"), QString()}},
+    };
+    QString error;
+    EXPECT_EQ(read(NSPropertyList::toBytes(root), &error), root);
+    EXPECT_TRUE(error.isEmpty());
+}
+
+TEST(NSPropertyList, RefusesWhatIsDamaged) {
+    // The library that reads the format ends the process for a key like this one.
+    QByteArray zeroInKey = NSPropertyList::toBytes(QVariantMap{{QStringLiteral("moon"), 1}});
+    ASSERT_EQ(zeroInKey.count("moon"), 1);
+    zeroInKey.replace("moon", QByteArray("m\0on", 4));
+    QByteArray zeroInWideKey = NSPropertyList::toBytes(QVariantMap{{QStringLiteral("mö"), 1}});
+    const QByteArray wide("\0m\0\xf6", 4);
+    ASSERT_EQ(zeroInWideKey.count(wide), 1);
+    zeroInWideKey.replace(wide, QByteArray("\0m\0\0", 4));
+    for (const QByteArray& bytes :
+         {QByteArray(), QByteArray("bplist00"), QByteArray("<plist><dict>"), zeroInKey, zeroInWideKey}) {
+        QString error;
+        EXPECT_FALSE(read(bytes, &error).isValid()) << bytes.toHex().constData();
+        EXPECT_FALSE(error.isEmpty());
+    }
+}
+
+TEST(NSPropertyList, CutsOffWhatIsTooDeep) {
+    QVariant nested = QStringLiteral("bottom");
+    for (int i = 0; i < 200; ++i)
+        nested = QVariantList{nested};
+    QString error;
+    QVariant value = read(NSPropertyList::toBytes(nested), &error);
+    int depth = 0;
+    for (; !value.toList().isEmpty(); ++depth)
+        value = value.toList().constFirst();
+    EXPECT_EQ(depth, 65);
+    EXPECT_FALSE(value.isValid());
+}
