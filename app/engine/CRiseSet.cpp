@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstddef>
 #include <cstring>
+#include <vector>
 
 namespace {
 
@@ -13,6 +14,7 @@ constexpr double kDegrees = 360.0 / P2;
 constexpr double kHours = 48.0 / P2;
 constexpr double kCosEps = 0.91748;
 constexpr double kSinEps = 0.39778;
+constexpr double kSiderealRate = 1.0027379093;
 constexpr double kArc = 206264.8062;
 constexpr double kArcPerRevolution = 1296000.0;
 constexpr double kJ2000 = 51544.5;
@@ -42,30 +44,73 @@ double sin(const Angle& angle) {
     return angle.sine;
 }
 
-/// A unit vector in the equator's frame: x to the equinox, z to the north pole.
+/// A direction in the equator's frame: x to the equinox, z to the north pole.
 struct Direction {
     double x;
     double y;
     double z;
 };
 
-/// t as in MINI_SUN.
-Direction sunDirection(double t) {
-    const double m = P2 * CRiseSet::FRAC(0.993133 + 99.997361 * t);
-    const double dl = 6893.0 * std::sin(m) + 72.0 * std::sin(2 * m);
-    const double l = P2 * CRiseSet::FRAC(0.7859453 + m / P2 + (6191.2 * t + dl) / kArcPerRevolution);
+/// What the positions at one moment are computed from.
+struct Arguments {
+    double t;       ///< Julian centuries since J2000
+    Angle l;        ///< the Moon's mean anomaly
+    Angle ls;       ///< the Sun's mean anomaly
+    Angle d;        ///< the Moon's elongation from the Sun
+    Angle f;        ///< the Moon's distance from its ascending node
+    Angle meridian; ///< local sidereal time
+
+    friend Arguments operator+(const Arguments& a, const Arguments& b) {
+        return {a.t + b.t, a.l + b.l, a.ls + b.ls, a.d + b.d, a.f + b.f, a.meridian + b.meridian};
+    }
+};
+
+/// An angle that grows evenly: in revolutions, of t.
+struct EvenAngle {
+    double atJ2000;
+    double perCentury;
+
+    double revolutions(double t) const { return CRiseSet::FRAC(atJ2000 + perCentury * t); }
+    Angle at(double t) const { return Angle(P2 * revolutions(t)); }
+    Angle in(double t) const { return Angle(P2 * perCentury * t); }
+};
+
+constexpr EvenAngle kMoonsLongitude{0.606433, 1336.855225};
+constexpr EvenAngle kMoonsAnomaly{0.374897, 1325.552410};
+constexpr EvenAngle kSunsAnomaly{0.993133, 99.997361};
+constexpr EvenAngle kElongation{0.827361, 1236.853086};
+constexpr EvenAngle kNodeDistance{0.259086, 1342.227825};
+
+Arguments argumentsAt(double t, double meridian) {
+    return {
+        t, kMoonsAnomaly.at(t), kSunsAnomaly.at(t), kElongation.at(t), kNodeDistance.at(t), Angle(meridian)};
+}
+
+/// How far the arguments go in `hour` hours, 0 to 24. Their rates are constant, so that a day's hours need
+/// the trigonometry of one moment.
+const Arguments& advanceIn(int hour) {
+    static const auto table = [] {
+        std::vector<Arguments> advances;
+        for (int i = 0; i <= 24; ++i) {
+            const double t = i / 24.0 / 36525.0;
+            advances.push_back({t, kMoonsAnomaly.in(t), kSunsAnomaly.in(t), kElongation.in(t),
+                                kNodeDistance.in(t), Angle(15.0 * kRadians * kSiderealRate * i)});
+        }
+        return advances;
+    }();
+    return table[static_cast<std::size_t>(hour)];
+}
+
+Direction sunDirection(const Arguments& at) {
+    const double dl = 6893.0 * sin(at.ls) + 72.0 * sin(at.ls + at.ls);
+    const double l = P2 * CRiseSet::FRAC(0.7859453 + kSunsAnomaly.revolutions(at.t) +
+                                         (6191.2 * at.t + dl) / kArcPerRevolution);
     const double sl = std::sin(l);
     return {std::cos(l), kCosEps * sl, kSinEps * sl};
 }
 
-/// t as in MINI_MOON.
-Direction moonDirection(double t) {
-    const double l0 = CRiseSet::FRAC(0.606433 + 1336.855225 * t);        // mean longitude, revolutions
-    const Angle l(P2 * CRiseSet::FRAC(0.374897 + 1325.552410 * t));      // the Moon's mean anomaly
-    const Angle ls(P2 * CRiseSet::FRAC(0.993133 + 99.997361 * t));       // the Sun's mean anomaly
-    const Angle d(P2 * CRiseSet::FRAC(0.827361 + 1236.853086 * t));      // elongation from the Sun
-    const double node = P2 * CRiseSet::FRAC(0.259086 + 1342.227825 * t); // distance from the ascending node
-    const Angle f(node);
+Direction moonDirection(const Arguments& at) {
+    const auto& [t, l, ls, d, f, meridian] = at;
     const Angle l2 = l + l;
     const Angle d2 = d + d;
     const Angle f2 = f + f;
@@ -74,11 +119,11 @@ Direction moonDirection(double t) {
                       668.0 * sin(ls) - 412.0 * sin(f2) - 212.0 * sin(l2 - d2) - 206.0 * sin(l + ls - d2) +
                       192.0 * sin(l + d2) - 165.0 * sin(ls - d2) - 125.0 * sin(d) - 110.0 * sin(l + ls) +
                       148.0 * sin(l - ls) - 55.0 * sin(f2 - d2);
-    const double s = node + (dl + 412.0 * sin(f2) + 541.0 * sin(ls)) / kArc;
+    const double s = P2 * kNodeDistance.revolutions(t) + (dl + 412.0 * sin(f2) + 541.0 * sin(ls)) / kArc;
     const Angle h = f - d2;
     const double n = -526.0 * sin(h) + 44.0 * sin(l + h) - 31.0 * sin(h - l) - 23.0 * sin(ls + h) +
                      11.0 * sin(h - ls) - 25.0 * sin(f - l2) + 21.0 * sin(f - l);
-    const double lm = P2 * CRiseSet::FRAC(l0 + dl / kArcPerRevolution);
+    const double lm = P2 * CRiseSet::FRAC(kMoonsLongitude.revolutions(t) + dl / kArcPerRevolution);
     const double bm = (18520.0 * std::sin(s) + n) / kArc;
 
     const double cb = std::cos(bm);
@@ -87,9 +132,21 @@ Direction moonDirection(double t) {
     return {cb * std::cos(lm), kCosEps * v - kSinEps * w, kSinEps * v + kCosEps * w};
 }
 
-Direction directionOf(std::int32_t object, double mjd) {
-    const double t = (mjd - kJ2000) / 36525.0;
-    return object == CRiseSet::kRiseSetMoon ? moonDirection(t) : sunDirection(t);
+/// Sine of the altitude; cphi, sphi: cosine and sine of the latitude. The right ascension's cosine and sine
+/// come from the tangent of its half, with no way through the angle and back; as in equatorial() that tangent
+/// has what the constants of the obliquity lack to a unit vector in it, which tells near 12 hours.
+double sinAltitude(std::int32_t object, const Arguments& at, double cphi, double sphi) {
+    const auto [x, y, z] = object == CRiseSet::kRiseSetMoon ? moonDirection(at) : sunDirection(at);
+    const double rho = std::sqrt(1.0 - z * z);
+    const double u = x + rho;
+    const double scale = rho / (u * u + y * y);
+    const double cosTau = (u * u - y * y) * at.meridian.cosine + 2.0 * u * y * at.meridian.sine;
+    return cphi * scale * cosTau + sphi * z;
+}
+
+/// lambda: longitude in degrees, west positive.
+Arguments argumentsAtPlace(double mjd, double lambda) {
+    return argumentsAt((mjd - kJ2000) / 36525.0, 15.0 * kRadians * CRiseSet::LMST(mjd, lambda));
 }
 
 /// Right ascension in hours and declination in degrees.
@@ -163,25 +220,21 @@ double CRiseSet::LMST(double mjd, double lambda) {
     const double ut = (mjd - mjd0) * 24.0;
     const double t = (mjd0 - kJ2000) / 36525.0;
     const double gmst =
-        6.697374558 + 1.0027379093 * ut + (8640184.812866 + (0.093104 - 6.2e-6 * t) * t) * t / 3600.0;
+        6.697374558 + kSiderealRate * ut + (8640184.812866 + (0.093104 - 6.2e-6 * t) * t) * t / 3600.0;
     return 24.0 * FRAC((gmst - lambda / 15.0) / 24.0);
 }
 
 void CRiseSet::MINI_SUN(double t, double* ra, double* dec) {
-    equatorial(sunDirection(t), ra, dec);
+    equatorial(sunDirection(argumentsAt(t, 0.0)), ra, dec);
 }
 
 void CRiseSet::MINI_MOON(double t, double* ra, double* dec) {
-    equatorial(moonDirection(t), ra, dec);
+    equatorial(moonDirection(argumentsAt(t, 0.0)), ra, dec);
 }
 
 double CRiseSet::SIN_ALT(std::int32_t object, double mjd0, double hour, double lambda, double cphi,
                          double sphi) {
-    const double mjd = mjd0 + hour / 24.0;
-    // From the direction itself: cos(dec) cos(tau) without a way through ra and dec and back.
-    const Direction to = directionOf(object, mjd);
-    const Angle meridian(15.0 * kRadians * LMST(mjd, lambda));
-    return cphi * (to.x * meridian.cosine + to.y * meridian.sine) + sphi * to.z;
+    return sinAltitude(object, argumentsAtPlace(mjd0 + hour / 24.0, lambda), cphi, sphi);
 }
 
 void CRiseSet::QUAD(double yMinus, double y0, double yPlus, double* xe, double* ye, double* root1,
@@ -207,25 +260,25 @@ void CRiseSet::QUAD(double yMinus, double y0, double yPlus, double* xe, double* 
 class CRiseSet::AltitudeSamples {
 public:
     AltitudeSamples(tObject body, const tRiseSetCalcParamBlock& block)
-        : body_(body), lambda_(-block.longitude), cphi_(CS(block.latitude)), sphi_(SN(block.latitude)),
-          start_(MJD(block.day, block.month, block.year, 0.0) - block.zoneHours / 24.0) {}
+        : body_(body), cphi_(CS(block.latitude)), sphi_(SN(block.latitude)),
+          midnight_(argumentsAtPlace(MJD(block.day, block.month, block.year, 0.0) - block.zoneHours / 24.0,
+                                     -block.longitude)) {}
 
     /// `hour` is 0 to 24.
     double at(int hour) {
         const auto i = static_cast<std::size_t>(hour);
         if (!known_[i]) {
             known_[i] = true;
-            sines_[i] = SIN_ALT(body_, start_, hour, lambda_, cphi_, sphi_);
+            sines_[i] = sinAltitude(body_, midnight_ + advanceIn(hour), cphi_, sphi_);
         }
         return sines_[i];
     }
 
 private:
     tObject body_;
-    double lambda_;
     double cphi_;
     double sphi_;
-    double start_; ///< local midnight as a Modified Julian Date
+    Arguments midnight_;
     std::array<double, 25> sines_{};
     std::array<bool, 25> known_{};
 };
