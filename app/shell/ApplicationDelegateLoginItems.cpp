@@ -20,6 +20,16 @@ QUrl urlOf(const QVariantMap& loginItem) {
     return loginItem.value(QStringLiteral("URL")).toUrl();
 }
 
+void removeLoginItem(qsizetype index, const QUrl& url) {
+    if (const OSStatus err = LIAERemove(index); err != noErr)
+        NSLog(QStringLiteral("Can't remove %1 from the login items (%2).").arg(url.toLocalFile()).arg(err));
+}
+
+void addLoginItem(const QUrl& url) {
+    if (const OSStatus err = LIAEAddURLAtEnd(&url, false); err != noErr)
+        NSLog(QStringLiteral("Can't add %1 to the login items (%2).").arg(url.toLocalFile()).arg(err));
+}
+
 } // namespace
 
 std::optional<QList<QVariantMap>> ApplicationDelegate::allLoginItems() const {
@@ -45,7 +55,7 @@ void ApplicationDelegate::removeOldStartupItemsContaining(const QString& name) {
     // Backwards, so that the positions of the items still to come stay true.
     for (qsizetype i = items->size() - 1; i >= 0; --i) {
         if (ExtraStringUtilities::contains(urlOf(items->at(i)).path(QUrl::FullyDecoded), name))
-            LIAERemove(i);
+            removeLoginItem(i, urlOf(items->at(i)));
     }
 }
 
@@ -54,7 +64,7 @@ void ApplicationDelegate::toggleSetToStartup(const std::optional<QUrl>& url) {
     const bool wasSet = alreadySetToStartup(wanted);
     removeOldStartupItemsContaining(QStringLiteral("Lumivane"));
     if (!wasSet)
-        LIAEAddURLAtEnd(&wanted, false);
+        addLoginItem(wanted);
 }
 
 void ApplicationDelegate::quitOlderCopies() {
@@ -70,5 +80,5 @@ void ApplicationDelegate::ensureSetToStartup() {
     if (alreadySetToStartup(wanted))
         return;
     removeOldStartupItemsContaining(QStringLiteral("Lumivane"));
-    LIAEAddURLAtEnd(&wanted, false);
+    addLoginItem(wanted);
 }

@@ -13,6 +13,7 @@
 #include <charconv>
 #include <cmath>
 #include <optional>
+#include <utility>
 
 namespace {
 
@@ -167,6 +168,7 @@ void NSUserDefaults::store(const QString& key, const QVariant& value) {
     if (settings_->contains(key) && before == value.toString())
         return;
     settings_->setValue(key, value);
+    synchronizeLater();
     if (before != value.toString())
         Q_EMIT valueChanged(key);
 }
@@ -174,14 +176,34 @@ void NSUserDefaults::store(const QString& key, const QVariant& value) {
 void NSUserDefaults::removeObjectForKey(const QString& key) {
     const QString before = objectForKey(key).toString();
     settings_->remove(key);
+    synchronizeLater();
     if (before != objectForKey(key).toString())
         Q_EMIT valueChanged(key);
 }
 
 bool NSUserDefaults::synchronize() {
-    settings_->sync();
-    if (settings_->status() == QSettings::NoError)
-        return true;
-    NSLog(QStringLiteral("The preferences can't be written to %1.").arg(settings_->fileName()));
-    return false;
+    if (settings_->status() == QSettings::NoError) {
+        settings_->sync();
+    } else {
+        // A QSettings keeps its error for good; another one on the file takes over what is still to be
+        // written.
+        settings_ = std::make_unique<QSettings>(settings_->fileName(), QSettings::IniFormat);
+    }
+    const bool written = settings_->status() == QSettings::NoError;
+    if (!written && !refused_)
+        NSLog(QStringLiteral("The preferences can't be written to %1; they serve for this run.")
+                  .arg(settings_->fileName()));
+    refused_ = !written;
+    return written;
+}
+
+void NSUserDefaults::synchronizeLater() {
+    if (!std::exchange(synchronizesLater_, true))
+        QMetaObject::invokeMethod(
+            this,
+            [this] {
+                synchronizesLater_ = false;
+                synchronize();
+            },
+            Qt::QueuedConnection);
 }

@@ -40,7 +40,9 @@ public:
     /// Forgets the user's value, so that the registered one answers again.
     void removeObjectForKey(const QString& key);
 
-    /// Writes what is pending to disk, atomically; false, with a log line, when the disk refuses.
+    /// Writes what is pending to disk, atomically, as happens by itself soon after each change; false when
+    /// the disk refuses, with a log line the first time. What it refused goes with the next change or at the
+    /// end.
     bool synchronize();
 
 Q_SIGNALS:
@@ -48,6 +50,7 @@ Q_SIGNALS:
     void valueChanged(const QString& key);
 
 private:
+    void synchronizeLater();
     void store(const QString& key, const QVariant& value);
     void openFile(const QString& path);
     template <typename T, typename Convert>
@@ -56,4 +59,6 @@ private:
     std::unique_ptr<QSettings> settings_;
     QVariantMap registered_;
     mutable QStringList reportedKeys_;
+    bool synchronizesLater_ = false;
+    bool refused_ = false; ///< by the disk, the last time
 };
