@@ -36,25 +36,46 @@ class Screen:
         return values
 
 
-def sums(pid):
-    """Context switches and CPU seconds of all of a process's threads."""
-    switches = 0
-    for status in glob.glob("/proc/%d/task/*/status" % pid):
-        with open(status) as lines:
-            switches += sum(int(line.split()[1]) for line in lines if "ctxt_switches" in line)
-    with open("/proc/%d/stat" % pid) as stat:
-        fields = stat.read().rsplit(")", 1)[1].split()
-    return switches, (int(fields[11]) + int(fields[12])) / os.sysconf("SC_CLK_TCK")
+def family(pid):
+    """A process and all that it started."""
+    parents = {}
+    for stat in glob.glob("/proc/[0-9]*/stat"):
+        try:
+            with open(stat) as file:
+                parents[int(stat.split("/")[2])] = int(file.read().rsplit(")", 1)[1].split()[1])
+        except OSError:
+            pass  # it has ended
+    members = {pid}
+    while True:
+        more = {child for child, parent in parents.items() if parent in members} - members
+        if not more:
+            return members
+        members |= more
 
 
-def memory(pid):
+def work(pids):
+    """Context switches of each thread, and CPU seconds of all."""
+    switches = {}
+    ticks = 0
+    for pid in pids:
+        for status in glob.glob("/proc/%d/task/*/status" % pid):
+            with open(status) as lines:
+                switches[status] = sum(int(line.split()[1]) for line in lines if "ctxt_switches" in line)
+        with open("/proc/%d/stat" % pid) as stat:
+            fields = stat.read().rsplit(")", 1)[1].split()
+        ticks += int(fields[11]) + int(fields[12])
+    return switches, ticks / os.sysconf("SC_CLK_TCK")
+
+
+def memory(pids):
     """RSS, PSS and private memory in MB."""
-    values = {}
-    with open("/proc/%d/smaps_rollup" % pid) as lines:
-        for line in lines:
-            name, _, rest = line.partition(":")
-            if rest.strip().endswith("kB"):
-                values[name] = int(rest.split()[0]) / 1024
+    values = dict.fromkeys(("Rss", "Pss", "Private_Clean", "Private_Dirty"), 0)
+    for pid in pids:
+        with open("/proc/%d/smaps_rollup" % pid) as lines:
+            for line in lines:
+                name, _, rest = line.partition(":")
+                if name in values:
+                    values[name] += int(rest.split()[0]) / 1024
     return values["Rss"], values["Pss"], values["Private_Clean"] + values["Private_Dirty"]
 
 
@@ -106,48 +127,47 @@ def click_to_paint(desktop, screen):
     return taken
 
 
-def measure(desktop, screen, name, command, runs, seconds):
-    starts = []
-    for _ in range(runs):
-        taken = start(desktop, command)
-        if taken is None:
-            stop(desktop)
-            return print("%-14s shows no icon here" % name)
-        starts.append(taken)
-        time.sleep(0.3)
-        if len(starts) < runs:
-            stop(desktop)
-    clicks = [click_to_paint(desktop, screen) for _ in range(runs)] if name == "Lumivane" else []
+def rest(desktop, screen, name, command, starts, seconds):
+    start(desktop, command)
+    time.sleep(0.5)
+    clicks = [click_to_paint(desktop, screen) for _ in starts] if name == "Lumivane" else []
     time.sleep(35)  # until whatever a start leaves behind has ended; idle threads of a pool live for 30 s
-    pid = desktop.program.pid
-    rss, pss, private = memory(pid)
-    switches, cpu = sums(pid)
+    pids = family(desktop.program.pid)
+    rss, pss, private = memory(pids)
+    before, cpu_before = work(pids)
     time.sleep(seconds)
-    switches_after, cpu_after = sums(pid)
+    after, cpu_after = work(pids)
     stop(desktop)
     print("%-14s %8.0f ms %7.1f %7.1f %7.1f MB %7d %7.2f s %s" % (
-        name, statistics.median(starts), rss, pss, private, switches_after - switches, cpu_after - cpu,
+        name, statistics.median(starts), rss, pss, private,
+        sum(after[thread] - count for thread, count in before.items() if thread in after), cpu_after - cpu_before,
         "%6.0f ms" % statistics.median(clicks) if clicks else "     -"), flush=True)
 
 
 def main():
-    lumivane, baseline = map(os.path.abspath, sys.argv[1:3])
+    programs = {"Lumivane": os.path.abspath(sys.argv[1]), "baseline": os.path.abspath(sys.argv[2])}
+    programs.update((name, shutil.which(name)) for name in OTHERS)
     runs = int(sys.argv[3]) if len(sys.argv) > 3 else 15
     seconds = int(sys.argv[4]) if len(sys.argv) > 4 else 60
     desktop = Desktop()
     os.environ["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "0"
     try:
         screen = Screen()
+        starts = {name: [] for name, command in programs.items() if command}
+        for _ in range(runs):  # in turn, so that a busy moment of the machine meets them all
+            for name, times in starts.items():
+                times.append(start(desktop, programs[name]))
+                time.sleep(0.3)
+                stop(desktop)
         print("%-14s %11s %7s %7s %10s %7s %9s %9s" % (
             "program", "start", "RSS", "PSS", "private", "switches", "CPU", "click"))
-        measure(desktop, screen, "Lumivane", lumivane, runs, seconds)
-        measure(desktop, screen, "baseline", baseline, runs, seconds)
-        for name in OTHERS:
-            command = shutil.which(name)
-            if command:
-                measure(desktop, screen, name, command, runs, seconds)
-            else:
+        for name, command in programs.items():
+            if not command:
                 print("%-14s not installed (apt-get install %s)" % (name, name))
+            elif None in starts[name]:
+                print("%-14s shows no icon here" % name)
+            else:
+                rest(desktop, screen, name, command, starts[name], seconds)
     finally:
         desktop.close()
 
