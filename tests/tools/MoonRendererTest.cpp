@@ -46,7 +46,8 @@ struct Bright {
             }
         share = double(bright) / disc;
         const double half = image.width() / 2.0;
-        centre = (centre / bright - QPointF(half, half)) / (half - 1);
+        if (bright > 0)
+            centre = (centre / bright - QPointF(half, half)) / (half - 1);
     }
 };
 
