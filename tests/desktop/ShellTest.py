@@ -57,13 +57,18 @@ class ShellTest(unittest.TestCase):
         self.assertEqual(self.desktop.owner_pid(IDENTIFIER), copies[-1].pid)
         self.desktop.open_panel()
 
-    def test_the_desktop_raises_the_program(self):
+    def call_application(self, method, kinds, *arguments):
+        _, GLib = self.desktop.gio()
+        self.desktop.call(IDENTIFIER, "/com/corvanta/Lumivane", "org.freedesktop.Application", method,
+                          GLib.Variant(kinds, arguments))
+
+    def test_the_desktop_raises_and_ends_the_program(self):
         self.desktop.start(PROGRAM)
         wait_for("the name", lambda: self.desktop.bus_has(IDENTIFIER))
-        _, GLib = self.desktop.gio()
-        self.desktop.call(IDENTIFIER, "/com/corvanta/Lumivane", "org.freedesktop.Application", "Activate",
-                          GLib.Variant("(a{sv})", ({},)))
+        self.call_application("Activate", "(a{sv})", {})
         wait_for("the panel", self.desktop.window)
+        self.call_application("ActivateAction", "(sava{sv})", "quit", [], {})
+        self.assertEqual(self.desktop.program.wait(10), 0)
 
     def test_warning_comes_once_for_a_place(self):
         # The same tree without a desktop entry lies in no Applications folder.
