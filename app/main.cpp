@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/shell/ApplicationDelegate.h"
 #include "app/ui/LumivaneStatusItem.h"
+#include "platform/appkit/NSAppearance.h"
 #include "platform/appkit/WindowServer.h"
 #include "platform/foundation/NSBundle.h"
 
@@ -21,6 +22,9 @@ int main(int argc, char** argv) {
     // The icon comes first, then what takes its time.
     QObject::connect(&statusItem, &LumivaneStatusItem::trayKnown, &delegate,
                      &ApplicationDelegate::awakeFromNib, Qt::SingleShotConnection);
+    QObject::connect(
+        &statusItem, &LumivaneStatusItem::trayKnown, &application,
+        [&application] { NSAppearance::followDesktop(&application); }, Qt::SingleShotConnection);
     statusItem.awakeFromNib();
     return QApplication::exec();
 }

@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+#include "platform/appkit/NSAppearance.h"
+
+#include "tests/TestMain.h"
+#include "tests/platform/appkit/PrivateBus.h"
+
+#include <QApplication>
+#include <QDBusVariant>
+#include <QEventLoop>
+#include <QPalette>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class FakePortal : public QObject {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Settings")
+
+public:
+    FakePortal(const QDBusConnection& connection, uint colorScheme) : bus(connection), value(colorScheme) {
+        bus.registerObject(QStringLiteral("/org/freedesktop/portal/desktop"), this,
+                           QDBusConnection::ExportScriptableContents);
+        bus.registerService(QStringLiteral("org.freedesktop.portal.Desktop"));
+    }
+    ~FakePortal() override { bus.unregisterService(QStringLiteral("org.freedesktop.portal.Desktop")); }
+
+    void change(const char* key, uint to) {
+        Q_EMIT SettingChanged(QStringLiteral("org.freedesktop.appearance"), QString::fromLatin1(key),
+                              QDBusVariant(to));
+    }
+
+public Q_SLOTS:
+    Q_SCRIPTABLE QDBusVariant Read(const QString& group, const QString& key) {
+        asked = group + u' ' + key;
+        return QDBusVariant(QVariant::fromValue(QDBusVariant(value)));
+    }
+
+Q_SIGNALS:
+    Q_SCRIPTABLE void SettingChanged(const QString& group, const QString& key, const QDBusVariant& value);
+
+public:
+    QDBusConnection bus;
+    uint value;
+    QString asked;
+};
+
+bool isDark() {
+    return QApplication::palette().color(QPalette::Window).lightness() < 100 &&
+           QApplication::palette().color(QPalette::WindowText).lightness() > 200;
+}
+
+void letPass() {
+    QEventLoop loop;
+    QTimer::singleShot(50, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+struct NSAppearanceTest : testing::Test {
+    ~NSAppearanceTest() override { QApplication::setPalette(QPalette()); }
+    PrivateBus bus;
+    QObject owner;
+};
+
+} // namespace
+
+TEST_F(NSAppearanceTest, FollowsThePortal) {
+    const QPalette light = QApplication::palette();
+    FakePortal portal(bus.connect(), 1);
+    NSAppearance::followDesktop(&owner, bus.connect());
+    ASSERT_TRUE(waitFor([] { return isDark(); }));
+    EXPECT_EQ(portal.asked, u"org.freedesktop.appearance color-scheme");
+    portal.change("accent-color", 0);
+    portal.change("color-scheme", 2);
+    ASSERT_TRUE(waitFor([] { return !isDark(); }));
+    EXPECT_EQ(QApplication::palette().color(QPalette::Window), light.color(QPalette::Window));
+    portal.change("color-scheme", 1);
+    EXPECT_TRUE(waitFor([] { return isDark(); }));
+}
+
+TEST_F(NSAppearanceTest, WaitsForAPortalAndLeavesOtherColours) {
+    NSAppearance::followDesktop(&owner, bus.connect());
+    letPass();
+    EXPECT_FALSE(isDark()) << "without a portal";
+    QPalette ours(Qt::black);
+    QApplication::setPalette(ours);
+    FakePortal portal(bus.connect(), 1);
+    ASSERT_TRUE(waitFor([&] { return !portal.asked.isEmpty(); }));
+    letPass();
+    EXPECT_EQ(QApplication::palette().color(QPalette::Window), ours.color(QPalette::Window));
+}
+
+#include "NSAppearanceTest.moc"
