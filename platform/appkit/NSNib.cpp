@@ -50,7 +50,8 @@ class NoPlugins {
 public:
     NoPlugins() { QCoreApplication::setLibraryPaths({}); }
     ~NoPlugins() { QCoreApplication::setLibraryPaths(paths_); }
-    Q_DISABLE_COPY_MOVE(NoPlugins)
+    NoPlugins(const NoPlugins&) = delete;
+    NoPlugins& operator=(const NoPlugins&) = delete;
 
 private:
     const QStringList paths_ = QCoreApplication::libraryPaths();

@@ -36,6 +36,7 @@ std::vector<NSScreen::Strut> struts(xcb_connection_t* connection, xcb_window_t r
     const auto windows = numbers(
         connection, xcb_get_property(connection, false, root, list, XCB_ATOM_WINDOW, 0, kMostWindows));
     std::vector<xcb_get_property_cookie_t> questions;
+    questions.reserve(windows.size());
     for (const xcb_window_t window : windows)
         questions.push_back(xcb_get_property(connection, false, window, name, XCB_ATOM_CARDINAL, 0, 12));
 

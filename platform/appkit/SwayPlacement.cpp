@@ -64,11 +64,11 @@ struct Found {
 /// This process's floating window of that title.
 std::optional<Found> findWindow(const QJsonObject& tree, const QString& title) {
     const QJsonArray outputs = tree[u"nodes"].toArray();
-    for (const QJsonValue& output : outputs) {
+    for (const auto& output : outputs) {
         const QJsonArray workspaces = output[u"nodes"].toArray();
-        for (const QJsonValue& workspace : workspaces) {
+        for (const auto& workspace : workspaces) {
             const QJsonArray windows = workspace[u"floating_nodes"].toArray();
-            for (const QJsonValue& window : windows) {
+            for (const auto& window : windows) {
                 if (window[u"pid"].toInteger() == QCoreApplication::applicationPid() &&
                     window[u"name"].toString() == title)
                     return Found{output.toObject(), workspace.toObject(), window.toObject()};
@@ -114,7 +114,8 @@ public:
 
     explicit Socket(Heard heard) : heard_(std::move(heard)) {}
     ~Socket() { close(); }
-    Q_DISABLE_COPY_MOVE(Socket)
+    Socket(const Socket&) = delete;
+    Socket& operator=(const Socket&) = delete;
 
     bool isOpen() const { return descriptor_ >= 0; }
 
