@@ -87,7 +87,7 @@ QString NSBundle::resourcePath() const {
 }
 
 QString NSBundle::builtInPlugInsPath() const {
-    return QFileInfo(QFileInfo(executablePath()).absolutePath() + QStringLiteral("/../lib/lumivane"))
+    return QFileInfo(QFileInfo(executablePath()).absolutePath() + QStringLiteral("/../lib/lumivane/plugins"))
         .absoluteFilePath();
 }
 
