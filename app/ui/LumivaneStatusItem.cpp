@@ -26,9 +26,11 @@
 
 #include <algorithm>
 #include <chrono>
+#include <set>
 
 namespace {
 constexpr std::chrono::seconds kClockInterval{300};
+constexpr int kLargestIcon = 64;
 
 /// The program's installed icon in the sizes that window lists draw; every window keeps all that it is given.
 /// A look through the desktop's icon theme would take longer than making the panel.
@@ -83,8 +85,11 @@ void LumivaneStatusItem::setImage(const QImage& image) {
     const int side = GetMBarHeight() - 4;
     QList<QImage> images;
     if (!image.isNull()) {
-        for (const int size : {side, 22, 24, 32, 2 * side, 44, 48, 64})
-            images.append(NSImageUtilities::imageOfSize(image, QSize(size, size)));
+        // Averages of averages are the same averages: the large picture is gone through once, not for each
+        // size.
+        const QImage small = NSImageUtilities::imageOfSize(image, 2 * QSize(kLargestIcon, kLargestIcon));
+        for (const int size : std::set{side, 22, 24, 32, 2 * side, 44, 48, kLargestIcon})
+            images.append(NSImageUtilities::imageOfSize(small, QSize(size, size)));
     }
     statusItem_->setImages(images);
 }

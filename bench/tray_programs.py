@@ -1,21 +1,16 @@
-#!/usr/bin/python3
 # SPDX-License-Identifier: MIT
-"""What tray programs cost on a desktop: start to icon, memory, and 60 seconds at rest; for Lumivane also the time
-from the click to the painted panel. Medians. desktop.py LUMIVANE BASELINE [RUNS [SECONDS]]"""
+"""What tray programs cost on a virtual desktop: start to icon, memory, and a time at rest; for Lumivane also the time
+from the click to the painted panel."""
 
 import ctypes
 import glob
 import os
-import shutil
 import statistics
-import subprocess
 import sys
 import time
 
 sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "../tests/desktop"))
 from desktop import Desktop, wait_for  # noqa: E402
-
-OTHERS = ("kteatime", "copyq", "flameshot")
 
 
 class Screen:
@@ -127,49 +122,45 @@ def click_to_paint(desktop, screen):
     return taken
 
 
-def rest(desktop, screen, name, command, starts, seconds):
+def rest(desktop, command, seconds, clicks):
+    """A program's figures from its start to its rest, as rows of the table."""
     start(desktop, command)
     time.sleep(0.5)
-    clicks = [click_to_paint(desktop, screen) for _ in starts] if name == "Lumivane" else []
+    rows = {}
+    if clicks:
+        screen = Screen()
+        rows["click to painted panel"] = statistics.median(click_to_paint(desktop, screen) for _ in range(clicks)), "ms"
     time.sleep(35)  # until whatever a start leaves behind has ended; idle threads of a pool live for 30 s
     pids = family(desktop.program.pid)
-    rss, pss, private = memory(pids)
+    for row, value in zip(("RSS", "PSS", "private memory"), memory(pids)):
+        rows[row] = value, "MB"
     before, cpu_before = work(pids)
     time.sleep(seconds)
     after, cpu_after = work(pids)
     stop(desktop)
-    print("%-14s %8.0f ms %7.1f %7.1f %7.1f MB %7d %7.2f s %s" % (
-        name, statistics.median(starts), rss, pss, private,
-        sum(after[thread] - count for thread, count in before.items() if thread in after), cpu_after - cpu_before,
-        "%6.0f ms" % statistics.median(clicks) if clicks else "     -"), flush=True)
+    switches = sum(after[thread] - count for thread, count in before.items() if thread in after)
+    rows["context switches in %d s, hidden" % seconds] = switches, ""
+    rows["CPU time in %d s, hidden" % seconds] = (cpu_after - cpu_before) * 1000, "ms"
+    return rows
 
 
-def main():
-    programs = {"Lumivane": os.path.abspath(sys.argv[1]), "baseline": os.path.abspath(sys.argv[2])}
-    programs.update((name, shutil.which(name)) for name in OTHERS)
-    runs = int(sys.argv[3]) if len(sys.argv) > 3 else 15
-    seconds = int(sys.argv[4]) if len(sys.argv) > 4 else 60
+def measure(programs, runs, seconds):
+    """The figures of each program that shows an icon: name to row to value and unit. The first is Lumivane."""
     desktop = Desktop()
     os.environ["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "0"
     try:
-        screen = Screen()
-        starts = {name: [] for name, command in programs.items() if command}
+        starts = {name: [] for name in programs}
         for _ in range(runs):  # in turn, so that a busy moment of the machine meets them all
             for name, times in starts.items():
                 times.append(start(desktop, programs[name]))
                 time.sleep(0.3)
                 stop(desktop)
-        print("%-14s %11s %7s %7s %10s %7s %9s %9s" % (
-            "program", "start", "RSS", "PSS", "private", "switches", "CPU", "click"))
-        for name, command in programs.items():
-            if not command:
-                print("%-14s not installed (apt-get install %s)" % (name, name))
-            elif None in starts[name]:
-                print("%-14s shows no icon here" % name)
-            else:
-                rest(desktop, screen, name, command, starts[name], seconds)
+        figures = {}
+        for name, times in starts.items():
+            if None not in times:
+                clicks = 0 if figures else runs
+                figures[name] = {"start to icon": (statistics.median(times), "ms"),
+                                 **rest(desktop, programs[name], seconds, clicks)}
+        return figures
     finally:
         desktop.close()
-
-
-main()
