@@ -4,10 +4,12 @@
 #include "platform/appkit/NSAppearance.h"
 #include "platform/appkit/WindowServer.h"
 #include "platform/foundation/NSBundle.h"
+#include "shared/utilities/classes/ExtraApplicationUtilities.h"
 
 #include <QApplication>
 
 int main(int argc, char** argv) {
+    ExtraApplicationUtilities::shareOneHeap();
     WindowServer::choosePlatform();
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Lumivane"));

@@ -30,6 +30,7 @@
 
 namespace {
 constexpr std::chrono::seconds kClockInterval{300};
+constexpr std::chrono::seconds kSettling{1};
 constexpr int kLargestIcon = 64;
 
 /// The program's installed icon in the sizes that window lists draw; every window keeps all that it is given.
@@ -113,23 +114,25 @@ void LumivaneStatusItem::updateToolTip() {
 
 void LumivaneStatusItem::makeAsHiddenMenu() {
     showNow();
-    replaceController(LumivaneWindow::kBorderlessMask);
-    // When the old panel is gone.
-    QMetaObject::invokeMethod(this, &ExtraApplicationUtilities::returnFreedMemory, Qt::QueuedConnection);
+    dropController();
+    // When the old panel is gone, so that the next finds its memory free.
+    QMetaObject::invokeMethod(
+        this, [this] { controller(); }, Qt::QueuedConnection);
+    QTimer::singleShot(kSettling, this, &ExtraApplicationUtilities::returnFreedMemory);
 }
 
 void LumivaneStatusItem::makeAsWindoid() {
-    replaceController(LumivaneWindow::kWindoidMask);
+    dropController();
+    loadController(LumivaneWindow::kWindoidMask);
     statusItemClicked(nullptr);
 }
 
-void LumivaneStatusItem::replaceController(std::uint32_t styleMask) {
-    if (lumivaneWindow_) {
-        ExtraWindowUtilities::fadeHideSynchronous(lumivaneWindow_->window());
-        // It may be one of its own controls that asks for the change.
-        lumivaneWindow_.release()->deleteLater();
-    }
-    loadController(styleMask);
+void LumivaneStatusItem::dropController() {
+    if (!lumivaneWindow_)
+        return;
+    ExtraWindowUtilities::fadeHideSynchronous(lumivaneWindow_->window());
+    // It may be one of its own controls that asks for the change.
+    lumivaneWindow_.release()->deleteLater();
 }
 
 void LumivaneStatusItem::loadController(std::uint32_t styleMask) {

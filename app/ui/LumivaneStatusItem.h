@@ -72,7 +72,7 @@ private:
     void loadController(std::uint32_t styleMask);
     void moonClockTimer();
     void trayChanged(bool shown);
-    void replaceController(std::uint32_t styleMask);
+    void dropController();
     void keepUnderIcon(LumivaneWindow* window);
     void placeUnderIcon();
     void updateToolTip();

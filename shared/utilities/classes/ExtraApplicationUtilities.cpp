@@ -37,6 +37,12 @@ std::uint32_t ExtraApplicationUtilities::systemVersion() {
     return version;
 }
 
+void ExtraApplicationUtilities::shareOneHeap() {
+#ifdef __GLIBC__
+    mallopt(M_ARENA_MAX, 1);
+#endif
+}
+
 void ExtraApplicationUtilities::returnFreedMemory() {
 #ifdef __GLIBC__
     malloc_trim(0);

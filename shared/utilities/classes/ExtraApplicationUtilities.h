@@ -12,6 +12,9 @@ void bringToFront();
 /// for the bug-fix number (10.4.11 is 0x100411). Asked once a run; 0 when the system does not tell.
 std::uint32_t systemVersion();
 
+/// Has all threads allocate from one heap, where the C library else makes one for each. Called first of all.
+void shareOneHeap();
+
 /// Gives the memory that was freed back to the system, where the C library else keeps it for the next time.
 void returnFreedMemory();
 

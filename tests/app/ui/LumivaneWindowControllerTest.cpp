@@ -276,7 +276,7 @@ protected:
     }
 
     LumivaneWindow* window() const {
-        deleteDiscarded();
+        takeTurns();
         for (QWidget* widget : QApplication::topLevelWidgets()) {
             auto* window = qobject_cast<LumivaneWindow*>(widget);
             if (window && window != controller_->window())
@@ -291,7 +291,11 @@ protected:
         action->trigger();
     }
 
-    static void deleteDiscarded() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
+    /// The panel that was hidden goes, the next one comes.
+    static void takeTurns() {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
+    }
 
     LumivaneStatusItem item_;
 };
