@@ -152,12 +152,12 @@ TEST_F(NSUserDefaultsTest, AKillAtAnyMomentLeavesAWholeFile) {
         QStringLiteral("^\\[General\\]\nNumber=(\\d+)\nText=text (\\d+)\n$"));
     QSet<QString> seen;
     QRandomGenerator random(20240101);
-    for (int round = 0; round < 200; ++round) {
+    for (int round = 0; round < 150; ++round) {
         const pid_t pid = fork();
         if (pid == 0)
             child(round);
-        usleep(
-            random.bounded(130000)); // a lock that a killed child leaves takes a tenth of a second to break
+        // The lock that a killed child leaves takes the next one a tenth of a second to break.
+        usleep(random.bounded(200000));
         kill(pid, SIGKILL);
         waitpid(pid, nullptr, 0);
 
