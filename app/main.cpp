@@ -9,7 +9,7 @@
 #include <QApplication>
 
 int main(int argc, char** argv) {
-    ExtraApplicationUtilities::shareOneHeap();
+    ExtraApplicationUtilities::keepHeapSmall();
     WindowServer::choosePlatform();
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Lumivane"));

@@ -37,9 +37,10 @@ std::uint32_t ExtraApplicationUtilities::systemVersion() {
     return version;
 }
 
-void ExtraApplicationUtilities::shareOneHeap() {
+void ExtraApplicationUtilities::keepHeapSmall() {
 #ifdef __GLIBC__
     mallopt(M_ARENA_MAX, 1);
+    mallopt(M_MMAP_THRESHOLD, 128 * 1024);
 #endif
 }
 
