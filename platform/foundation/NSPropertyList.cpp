@@ -47,7 +47,7 @@ private:
     /// A big-endian number; 0 where it is not all there.
     quint64 number(qsizetype offset, quint64 size) const {
         quint64 value = 0;
-        if (offset < 0 || static_cast<quint64>(bytes_.size() - offset) < size)
+        if (offset < 0 || offset > bytes_.size() || static_cast<quint64>(bytes_.size() - offset) < size)
             return 0;
         for (const char byte : QByteArrayView(bytes_).sliced(offset, static_cast<qsizetype>(size)))
             value = value << 8 | static_cast<quint8>(byte);
