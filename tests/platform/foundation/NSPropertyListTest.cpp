@@ -33,8 +33,12 @@ TEST(NSPropertyList, RefusesWhatIsDamaged) {
     const QByteArray wide("\0m\0\xf6", 4);
     ASSERT_EQ(zeroInWideKey.count(wide), 1);
     zeroInWideKey.replace(wide, QByteArray("\0m\0\0", 4));
-    for (const QByteArray& bytes :
-         {QByteArray(), QByteArray("bplist00"), QByteArray("<plist><dict>"), zeroInKey, zeroInWideKey}) {
+    // The only object is a text at the very last byte, which is the low one of the table's place, 0x5f.
+    QByteArray textAtTheEnd = QByteArray("bplist00").leftJustified(0x5f, '\0') + '\x7f';
+    textAtTheEnd += QByteArray(6, '\0') + "\1\1" + QByteArray(7, '\0') + '\1' + QByteArray(15, '\0') + '\x5f';
+    ASSERT_EQ(textAtTheEnd.size(), 0x80);
+    for (const QByteArray& bytes : {textAtTheEnd, QByteArray(), QByteArray("bplist00"),
+                                    QByteArray("<plist><dict>"), zeroInKey, zeroInWideKey}) {
         QString error;
         EXPECT_FALSE(read(bytes, &error).isValid()) << bytes.toHex().constData();
         EXPECT_FALSE(error.isEmpty());
