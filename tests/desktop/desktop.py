@@ -65,6 +65,15 @@ def wait_for(what, condition, seconds=15.0):
         time.sleep(0.05)
 
 
+def at_rest(what, place):
+    """The first place that is told twice in a row: what was just mapped, folded or embedded may still be moving."""
+    def twice():
+        before = place()
+        time.sleep(0.1)
+        return before and before == place() and before
+    return wait_for(what + " to rest", twice)
+
+
 def rectangle(x, y, width, height):
     return types.SimpleNamespace(x=x, y=y, width=width, height=height)
 
@@ -232,10 +241,17 @@ class Desktop:
             self.program.kill()
             status = self.program.wait()
         self.program = None
+        # A click on what is left of it would go nowhere.
+        wait_for("the icon to go", lambda: not self.find_icon())
         return status
 
     def close(self):
-        self.stop()
+        try:
+            self.stop()
+        finally:
+            self.close_session()
+
+    def close_session(self):
         for child in reversed(self.children):
             child.send_signal(signal.SIGTERM)
         for child in self.children:
@@ -261,7 +277,7 @@ class Desktop:
 
     def click_at_start(self, node):
         """Clicks a control at its leading end."""
-        box = self.extents(node)
+        box = self.resting(node)
         self.click(box.x + 8, box.y + box.height // 2)
 
     def clipboard(self, target="UTF8_STRING"):
@@ -347,16 +363,19 @@ class Desktop:
         Atspi = self.atspi()
         return Atspi.Component.get_extents(node, Atspi.CoordType.SCREEN)
 
+    def find_icon(self):
+        """The rectangle of the tray inside the panel while there is one icon in it, and nothing else."""
+        tree = subprocess.run(["xwininfo", "-root", "-tree"], capture_output=True, text=True).stdout
+        # Tool tips and menus of the same program are children of the screen, and so no deeper in the tree than that.
+        for place in re.findall(r'^ {6,}.*"Wrapper-2.0"\)\s+(\d+)x(\d+)\S+\s+\+(-?\d+)\+(-?\d+)', tree, re.MULTILINE):
+            width, height, x, y = map(int, place)
+            if min(width, height) >= 20 and max(width, height) < 40:
+                return rectangle(x, y, width, height)
+        return None
+
     def icon(self):
-        """The icon's rectangle on the screen: the tray is a window of its own inside the panel, with one icon in it."""
-        def find():
-            tree = subprocess.run(["xwininfo", "-root", "-tree"], capture_output=True, text=True).stdout
-            places = re.findall(r'"Wrapper-2.0"\)\s+(\d+)x(\d+)\S+\s+\+(-?\d+)\+(-?\d+)', tree)
-            for width, height, x, y in (map(int, place) for place in places):
-                if width >= 20:
-                    return types.SimpleNamespace(x=x, y=y, width=width, height=height)
-            return None
-        return wait_for("the icon in the panel", find)
+        """The icon's rectangle on the screen."""
+        return at_rest("the icon in the panel", self.find_icon)
 
     def click_icon(self, button=1):
         icon = self.icon()
@@ -401,23 +420,33 @@ class Desktop:
         return node.get_state_set().contains(self.atspi().StateType.SHOWING)
 
     def open_panel(self):
-        """Clicks the icon and waits for the panel. The tray may show a copy's icon a moment longer than the copy lives:
-        a click that it swallowed is made again."""
-        for seconds in (4, 4, 15):
-            self.click_icon()
-            try:
-                return wait_for("the panel", self.window, seconds)
-            except AssertionError:
-                if seconds == 15:
-                    raise
-        return None
+        """Clicks the icon and waits for the panel."""
+        self.click_icon()
+        return wait_for("the panel", self.window)
 
-    def placed(self, window):
-        """A window's rectangle: it is told as being there before it is told where."""
-        def box():
-            found = self.extents(window)
-            return found if (found.x, found.y) != (0, 0) else None
-        return wait_for("the window's place", box)
+    def open_popup(self, click):
+        """Makes a click that opens a menu or a list, and waits until it is there to take keys."""
+        def windows():
+            return set(subprocess.run(["xdotool", "search", "--onlyvisible", "--class", "^Lumivane$"],
+                                      capture_output=True, text=True).stdout.split())
+        before = windows()
+        click()
+        wait_for("the popup", lambda: windows() - before)
+
+    def open_utility_window(self):
+        """Clicks the window button of the drop-down and waits for the window that takes its place."""
+        before = self.titled("Lumivane")
+        self.click_control("Utility window")
+        wait_for("the drop-down to go", lambda: not set(before) & set(self.titled("Lumivane")))
+        return wait_for("the utility window", lambda: self.titled("Lumivane") and self.window())
+
+    def resting(self, node):
+        """The rectangle of a window or control that has come to rest: it is told as being there before it is told
+        where."""
+        def place():
+            box = self.extents(node)
+            return rectangle(box.x, box.y, box.width, box.height) if (box.x, box.y) != (0, 0) else None
+        return at_rest("the control", place)
 
     def find(self, name, root=None):
         """The control of that accessible name."""
@@ -427,7 +456,7 @@ class Desktop:
         raise AssertionError("no control " + name)
 
     def click_control(self, name, root=None):
-        box = self.extents(self.find(name, root))
+        box = self.resting(self.find(name, root))
         self.click(box.x + box.width // 2, box.y + box.height // 2)
 
     def lines(self):
@@ -467,6 +496,6 @@ class Desktop:
 
     def choose(self, command):
         """Chooses a command from the gear menu, by the keyboard: menus are not among what a screen reader walks."""
-        self.click_control("Menu")
-        time.sleep(0.3)
-        self.key(*["Down"] * (list(self.commands()).index(command) + 1), "Return")
+        place = list(self.commands()).index(command)
+        self.open_popup(lambda: self.click_control("Menu"))
+        self.key(*["Down"] * (place + 1), "Return")
