@@ -92,7 +92,7 @@ class Desktop:
             XDG_DATA_HOME=self.home + "/data", XDG_CACHE_HOME=self.home + "/cache",
             XDG_CURRENT_DESKTOP="XFCE", QT_QPA_PLATFORM="xcb", QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
             LC_ALL="C.UTF-8", NO_AT_BRIDGE="0", GTK_A11Y="atspi", GSETTINGS_BACKEND="memory")
-        for name in ("WAYLAND_DISPLAY", "LANGUAGE", "LD_PRELOAD", "TZ"):
+        for name in ("WAYLAND_DISPLAY", "LANGUAGE", "LD_PRELOAD", "TZ", "LUMIVANE_CONFIG_HOME"):
             os.environ.pop(name, None)
         try:
             self.start_screen(size)
