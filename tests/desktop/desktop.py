@@ -471,11 +471,17 @@ class Desktop:
     def picture(self, path):
         """The Moon's picture in the panel as an image file."""
         image = next(node for node in self.walk(self.window()) if node.get_role_name() == "image")
-        box = self.extents(image)
+        box = self.resting(image)
         side = min(box.width, box.height)
         x = box.x + (box.width - side) // 2
-        subprocess.run(["import", "-window", "root", "-crop",
-                        "%dx%d+%d+%d" % (side, side, x, box.y), "+repage", path], check=True)
+
+        def painted():
+            subprocess.run(["import", "-window", "root", "-crop",
+                            "%dx%d+%d+%d" % (side, side, x, box.y), "+repage", path], check=True)
+            return subprocess.run(["convert", path, "-format", "%k", "info:"], check=True,
+                                  capture_output=True).stdout != b"1"
+        # A window is there before it is painted.
+        wait_for("more than one colour", painted)
 
     def shown_text(self, text):
         """Whether any window of the program shows this text."""
