@@ -16,6 +16,8 @@ import tempfile
 import time
 import types
 
+from gi.repository import GLib
+
 PANEL_CONFIG = """<?xml version="1.0" encoding="UTF-8"?>
 <channel name="xfce4-panel" version="1.0">
   <property name="configver" type="int" value="2"/>
@@ -57,11 +59,15 @@ def wait_for(what, condition, seconds=15.0):
     """The first true answer of `condition`; fails with `what` after the time."""
     end = time.monotonic() + seconds
     while True:
-        answer = condition()
-        if answer:
-            return answer
+        error = None
+        try:
+            answer = condition()
+            if answer:
+                return answer
+        except GLib.Error as gone:  # a control that it asks may go away meanwhile
+            error = gone
         if time.monotonic() > end:
-            raise AssertionError("timed out waiting for " + what)
+            raise AssertionError("timed out waiting for " + what) from error
         time.sleep(0.05)
 
 
@@ -184,12 +190,10 @@ class Desktop:
         return bus.call_sync(name, path, interface, method, arguments, None, Gio.DBusCallFlags.NONE, 5000, None)
 
     def bus_has(self, name):
-        _, GLib = self.gio()
         return self.call("org.freedesktop.DBus", "/", "org.freedesktop.DBus", "NameHasOwner",
                          GLib.Variant("(s)", (name,))).unpack()[0]
 
     def property(self, name, path, interface, key):
-        _, GLib = self.gio()
         return self.call(name, path, "org.freedesktop.DBus.Properties", "Get",
                          GLib.Variant("(ss)", (interface, key))).unpack()[0]
 
@@ -199,7 +203,6 @@ class Desktop:
                              "org.kde.StatusNotifierWatcher", "RegisteredStatusNotifierItems")
 
     def owner_pid(self, name):
-        _, GLib = self.gio()
         return self.call("org.freedesktop.DBus", "/", "org.freedesktop.DBus", "GetConnectionUnixProcessID",
                          GLib.Variant("(s)", (name,))).unpack()[0]
 
@@ -337,7 +340,6 @@ class Desktop:
             Atspi.set_timeout(4000, 4000)
             self._atspi = Atspi
         # What changed since is heard of only here.
-        _, GLib = self.gio()
         while GLib.MainContext.default().iteration(False):
             pass
         return Atspi
@@ -489,7 +491,6 @@ class Desktop:
 
     def commands(self):
         """The gear menu's commands as the tray's menu has them, each with its check mark (None without one)."""
-        _, GLib = self.gio()
         address = self.items()[0]
         name, _, path = address.partition("/")
         menu = self.property(name, "/" + path, "org.kde.StatusNotifierItem", "Menu")
