@@ -25,18 +25,19 @@ fail() {
 root=$(mktemp -d /var/tmp/lumivane-root.XXXXXX)
 chmod 755 "$root"
 discard() {
+  pkill -P $$ || true # debootstrap, when this script is ended before it
   for process in /proc/[0-9]*; do # what the desktop left running
     if [ "$(readlink "$process/root" 2>/dev/null)" = "$root" ]; then kill -KILL "${process#/proc/}" || true; fi
   done
   for mounted in dev/pts dev/shm dev proc; do
     if mountpoint -q "$root/$mounted"; then umount -l "$root/$mounted"; fi
   done
-  rm -rf --one-file-system "$root"
+  rm -rf --one-file-system "$root" "$root.log"
 }
 trap discard EXIT
 
 inside() { # seconds command...
-  timeout --kill-after=10 "$1" chroot "$root" /usr/bin/env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/root \
+  timeout --foreground --kill-after=10 "$1" chroot "$root" /usr/bin/env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/root \
     LC_ALL=C.UTF-8 DEBIAN_FRONTEND=noninteractive "${@:2}" </dev/null
 }
 
@@ -57,9 +58,8 @@ make_root() {
   [ -n "$from" ] || fail "none of apt's sources is Debian"
   local options=(--variant=minbase)
   [[ $from != https:* ]] || options+=(--include=ca-certificates)
-  timeout 900 debootstrap "${options[@]}" "$suite" "$root" "$from" >"$root.log" 2>&1 ||
-    { tail "$root.log"; rm -f "$root.log"; fail "no bare Debian"; }
-  rm -f "$root.log"
+  timeout --foreground 900 debootstrap "${options[@]}" "$suite" "$root" "$from" >"$root.log" 2>&1 ||
+    { tail "$root.log"; fail "no bare Debian"; }
   cp -a /etc/apt/apt.conf.d/. "$root/etc/apt/apt.conf.d/"
   cp -L /etc/resolv.conf /etc/hosts "$root/etc/"
   mount -t proc proc "$root/proc"
