@@ -40,7 +40,7 @@ BENCHMARK(MakePanel)->Unit(benchmark::kMillisecond);
 
 int main(int argc, char** argv) {
     const QTemporaryDir home; // nobody's preferences
-    qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
+    qputenv("LUMIVANE_CONFIG_HOME", home.path().toLocal8Bit());
     const QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     const ApplicationDelegate delegate;

@@ -36,7 +36,7 @@ void coerce(const AEDesc& desc) {
 extern "C" int LLVMFuzzerInitialize(int*, char***) {
     // No bus to ask, no folder to change, nothing to tell.
     qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/dev/null");
-    qputenv("XDG_CONFIG_HOME", "/dev/null/none");
+    qputenv("LUMIVANE_CONFIG_HOME", "/dev/null/none");
     qputenv("QT_LOGGING_RULES", "*=false");
     return 0;
 }

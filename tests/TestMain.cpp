@@ -50,6 +50,7 @@ int main(int argc, char** argv) {
     const QTemporaryDir home;
     qputenv("HOME", home.path().toLocal8Bit());
     qputenv("XDG_CONFIG_HOME", home.filePath(QStringLiteral("config")).toLocal8Bit());
+    qunsetenv("LUMIVANE_CONFIG_HOME");
     qputenv("XDG_DATA_HOME", home.filePath(QStringLiteral("data")).toLocal8Bit());
     qputenv("XDG_CACHE_HOME", home.filePath(QStringLiteral("cache")).toLocal8Bit());
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))

@@ -2,6 +2,7 @@
 #include "platform/carbon/AutostartFolder.h"
 
 #include "platform/carbon/Files.h"
+#include "platform/foundation/ConfigFolder.h"
 #include "platform/foundation/DesktopEntry.h"
 #include "platform/foundation/NSLog.h"
 
@@ -10,7 +11,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSet>
-#include <QStandardPaths>
 
 #include <algorithm>
 #include <cerrno>
@@ -229,8 +229,7 @@ OSStatus appendOnce(const QString& path, bool hidden) {
 } // namespace
 
 QString AutostartFolder::path() {
-    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-           QStringLiteral("/autostart");
+    return configFolder() + QStringLiteral("/autostart");
 }
 
 QList<AutostartFolder::Item> AutostartFolder::items() {

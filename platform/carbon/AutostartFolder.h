@@ -19,7 +19,7 @@ struct Item {
     friend bool operator==(const Item&, const Item&) = default;
 };
 
-/// `autostart` in the XDG config folder, read from the environment at every call; it need not exist.
+/// `autostart` in `configFolder`; it need not exist.
 QString path();
 
 /// The entries that this desktop starts at login: other programs' by file name, then those added here in the

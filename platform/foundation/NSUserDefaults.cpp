@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "platform/foundation/NSUserDefaults.h"
 
+#include "platform/foundation/ConfigFolder.h"
 #include "platform/foundation/NSLog.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QSettings>
-#include <QStandardPaths>
 #include <QStringDecoder>
 
 #include <array>
@@ -61,8 +61,7 @@ std::optional<int> toInteger(const QString& text) {
 } // namespace
 
 NSUserDefaults* NSUserDefaults::standardUserDefaults() {
-    static NSUserDefaults shared(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-                                 QStringLiteral("/lumivane/lumivane.conf"));
+    static NSUserDefaults shared(configFolder() + QStringLiteral("/lumivane/lumivane.conf"));
     return &shared;
 }
 

@@ -9,13 +9,13 @@
 class QSettings;
 
 /// Stands for Foundation's per-user defaults: values that the user stored, over a registration domain that
-/// answers for every other key. Backed by an INI file in the XDG config folder. A file that can't be read as
+/// answers for every other key. Backed by an INI file. A file that can't be read as
 /// one is kept aside under another name and logged, and the registered defaults serve.
 class NSUserDefaults : public QObject {
     Q_OBJECT
 
 public:
-    /// The program's own defaults, `lumivane/lumivane.conf` in the config folder.
+    /// The program's own defaults, `lumivane/lumivane.conf` in `configFolder`.
     static NSUserDefaults* standardUserDefaults();
 
     explicit NSUserDefaults(const QString& path);

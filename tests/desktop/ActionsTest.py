@@ -3,6 +3,7 @@
 """Everything that the panel can do, through its real controls."""
 
 import datetime
+import operator
 import os
 import subprocess
 import sys
@@ -91,8 +92,7 @@ class ActionsTest(unittest.TestCase):
                     if node.get_role_name() == "combo box")
 
     def choose_zone(self, entry):
-        self.desktop.click_at_start(self.popup())
-        time.sleep(0.2)
+        self.desktop.open_popup(lambda: self.desktop.click_at_start(self.popup()))
         self.desktop.key("Home", *["Down"] * entry, "Return")
 
     def ask_offset(self):
@@ -265,8 +265,7 @@ class ActionsTest(unittest.TestCase):
 
         # A windoid stays open.
         desktop.open_panel()
-        desktop.click_control("Utility window")
-        wait_for("the windoid", lambda: desktop.titled("Lumivane") and desktop.window())
+        desktop.open_utility_window()
         self.ask_offset()
         desktop.type("5.5")
         desktop.key("Return")
@@ -280,31 +279,26 @@ class ActionsTest(unittest.TestCase):
 
     def test_windoid_and_back(self):
         desktop = self.desktop
-        dropped = desktop.placed(self.show())
-
-        def windoid():
-            desktop.click_control("Utility window")
-            return wait_for("the windoid", lambda: desktop.window() and desktop.extents(desktop.window()).x != dropped.x
-                            and desktop.window())
+        dropped = desktop.resting(self.show())
 
         def dropped_again():
             self.hidden()
-            box = desktop.placed(desktop.open_panel())
+            box = desktop.resting(desktop.open_panel())
             self.assertEqual((box.x, box.y), (dropped.x, dropped.y))
 
-        windoid()
+        desktop.open_utility_window()
         desktop.key("Escape")
         time.sleep(0.3)
         self.assertIsNotNone(desktop.window(), "Escape puts only a drop-down away")
         desktop.key("alt+F4")  # the window manager's way of the close box
         dropped_again()
-        windoid()
+        desktop.open_utility_window()
         desktop.click_control("Utility window")
         dropped_again()
-        windoid()
+        desktop.open_utility_window()
         desktop.click_control("Hide")
         dropped_again()
-        windoid()
+        desktop.open_utility_window()
         desktop.click_icon()
         dropped_again()
         desktop.click_control("Hide")
@@ -347,14 +341,12 @@ class ActionsTest(unittest.TestCase):
         desktop.open_panel()
         self.assertEqual(desktop.text(self.field("latitude")), "-33.9", "Escape takes it back")
 
-        desktop.click_control("Set Latitude and Longitude")
-        time.sleep(0.2)
+        desktop.open_popup(lambda: desktop.click_control("Set Latitude and Longitude"))
         desktop.key("Down", "Return")
         wait_for("the zone's city", lambda: desktop.line("Sun:") == sun)
         self.assertTrue(desktop.text(self.field("latitude")).startswith("40.714"))
         self.assertTrue(desktop.text(self.field("longitude")).startswith("-74.006"))
-        desktop.click_control("Set Latitude and Longitude")
-        time.sleep(0.2)
+        desktop.open_popup(lambda: desktop.click_control("Set Latitude and Longitude"))
         desktop.key("Down", "Down", "Return")
         self.assertRegex(desktop.opened(), r"^https://[^/]+/products/lumivane/globalposition\.htm$")
         self.assertIsNotNone(desktop.window())
@@ -373,14 +365,15 @@ class ActionsTest(unittest.TestCase):
             pictures[name] = [float(subprocess.run(
                 ["convert", self.folder.name + "/" + file, "-format", "%[fx:mean]", "info:"],
                 check=True, capture_output=True, text=True).stdout) for file in ("moon.png", "quarter.png")]
+            return pictures[name]
 
-        mean("middle")
+        before = mean("middle")
         desktop.focus(desktop.find("Brightness of the pictures"))
         for key, value in (("Home", "1"), ("End", "0")):
             desktop.key(key)
             self.preference("LVBrightness", value)
-            time.sleep(0.1)
-            mean(key)
+            # What is stored may not have been painted yet.
+            before = wait_for("other pictures", lambda: all(map(operator.ne, mean(key), before)) and pictures[key])
         desktop.key("Left")
         self.preference("LVBrightness", "0.005")
         # The higher the level that becomes grey, the darker the picture, and the quarters' pictures with it.
@@ -415,9 +408,7 @@ class ActionsTest(unittest.TestCase):
         wait_for("the credits to close", lambda: not desktop.dialog())
         self.assertIsNotNone(desktop.window())
 
-        desktop.click_control("Utility window")
-        wait_for("the windoid", lambda: desktop.titled("Lumivane") and desktop.window())
-        time.sleep(0.3)
+        desktop.open_utility_window()
         desktop.choose("Lumivane Home Page")
         self.assertRegex(desktop.opened(), home)
         self.assertIsNotNone(desktop.window(), "a windoid stays")

@@ -46,8 +46,10 @@ class FullDiskTest(unittest.TestCase):
 
     def test_writing_waits_for_room(self):
         desktop = self.desktop
-        desktop.start(PROGRAM, environment={"XDG_CONFIG_HOME": str(self.config)})
+        desktop.start(PROGRAM, environment={"LUMIVANE_CONFIG_HOME": str(self.config)})
         wait_for("the first preferences and login item", lambda: self.preferences.exists() and self.autostart())
+        for folder in ("lumivane", "autostart"):
+            self.assertFalse(pathlib.Path(desktop.home, "config", folder).exists(), "only where they were asked for")
         desktop.open_panel()
         desktop.choose("Open at Login")
         wait_for("the login item to go", lambda: not self.autostart())

@@ -7,10 +7,9 @@ import re
 import shutil
 import subprocess
 import sys
-import time
 import unittest
 
-from desktop import Desktop, rectangle, wait_for
+from desktop import Desktop, at_rest, rectangle, wait_for
 from placement import PlacementCase
 
 PROGRAM = os.path.abspath(sys.argv.pop(1))
@@ -51,14 +50,8 @@ class XEmbedTest(PlacementCase):
         found = re.search(r'"Lumivane": \("Lumivane" "Lumivane"\)\s+(\d\d)x(\d\d)\S*\s+\+(-?\d+)\+(-?\d+)', tree)
         return found and rectangle(int(found[3]), int(found[4]), int(found[1]), int(found[2]))
 
-    def resting_icon(self):
-        """Its place once the tray has done with moving things about."""
-        before = self.find_icon()
-        time.sleep(0.3)
-        return before and before == self.find_icon() and before
-
     def assert_opens_at_icon(self):
-        icon = wait_for("the icon", self.resting_icon)
+        icon = at_rest("the icon", self.find_icon)
         self.desktop.click(icon.x + icon.width // 2, icon.y + icon.height // 2)
         wait_for("the panel", self.desktop.window)
         self.assert_at_icon(icon, self.desktop.rectangle, SCREEN)

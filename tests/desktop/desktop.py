@@ -16,6 +16,8 @@ import tempfile
 import time
 import types
 
+from gi.repository import GLib
+
 PANEL_CONFIG = """<?xml version="1.0" encoding="UTF-8"?>
 <channel name="xfce4-panel" version="1.0">
   <property name="configver" type="int" value="2"/>
@@ -57,12 +59,25 @@ def wait_for(what, condition, seconds=15.0):
     """The first true answer of `condition`; fails with `what` after the time."""
     end = time.monotonic() + seconds
     while True:
-        answer = condition()
-        if answer:
-            return answer
+        error = None
+        try:
+            answer = condition()
+            if answer:
+                return answer
+        except GLib.Error as gone:  # a control that it asks may go away meanwhile
+            error = gone
         if time.monotonic() > end:
-            raise AssertionError("timed out waiting for " + what)
+            raise AssertionError("timed out waiting for " + what) from error
         time.sleep(0.05)
+
+
+def at_rest(what, place):
+    """The first place that is told twice in a row: what was just mapped, folded or embedded may still be moving."""
+    def twice():
+        before = place()
+        time.sleep(0.1)
+        return before and before == place() and before
+    return wait_for(what + " to rest", twice)
 
 
 def rectangle(x, y, width, height):
@@ -83,7 +98,7 @@ class Desktop:
             XDG_DATA_HOME=self.home + "/data", XDG_CACHE_HOME=self.home + "/cache",
             XDG_CURRENT_DESKTOP="XFCE", QT_QPA_PLATFORM="xcb", QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
             LC_ALL="C.UTF-8", NO_AT_BRIDGE="0", GTK_A11Y="atspi", GSETTINGS_BACKEND="memory")
-        for name in ("WAYLAND_DISPLAY", "LANGUAGE", "LD_PRELOAD", "TZ"):
+        for name in ("WAYLAND_DISPLAY", "LANGUAGE", "LD_PRELOAD", "TZ", "LUMIVANE_CONFIG_HOME"):
             os.environ.pop(name, None)
         try:
             self.start_screen(size)
@@ -175,12 +190,10 @@ class Desktop:
         return bus.call_sync(name, path, interface, method, arguments, None, Gio.DBusCallFlags.NONE, 5000, None)
 
     def bus_has(self, name):
-        _, GLib = self.gio()
         return self.call("org.freedesktop.DBus", "/", "org.freedesktop.DBus", "NameHasOwner",
                          GLib.Variant("(s)", (name,))).unpack()[0]
 
     def property(self, name, path, interface, key):
-        _, GLib = self.gio()
         return self.call(name, path, "org.freedesktop.DBus.Properties", "Get",
                          GLib.Variant("(ss)", (interface, key))).unpack()[0]
 
@@ -190,7 +203,6 @@ class Desktop:
                              "org.kde.StatusNotifierWatcher", "RegisteredStatusNotifierItems")
 
     def owner_pid(self, name):
-        _, GLib = self.gio()
         return self.call("org.freedesktop.DBus", "/", "org.freedesktop.DBus", "GetConnectionUnixProcessID",
                          GLib.Variant("(s)", (name,))).unpack()[0]
 
@@ -232,10 +244,17 @@ class Desktop:
             self.program.kill()
             status = self.program.wait()
         self.program = None
+        # A click on what is left of it would go nowhere.
+        wait_for("the icon to go", lambda: not self.find_icon())
         return status
 
     def close(self):
-        self.stop()
+        try:
+            self.stop()
+        finally:
+            self.close_session()
+
+    def close_session(self):
         for child in reversed(self.children):
             child.send_signal(signal.SIGTERM)
         for child in self.children:
@@ -261,7 +280,7 @@ class Desktop:
 
     def click_at_start(self, node):
         """Clicks a control at its leading end."""
-        box = self.extents(node)
+        box = self.resting(node)
         self.click(box.x + 8, box.y + box.height // 2)
 
     def clipboard(self, target="UTF8_STRING"):
@@ -321,7 +340,6 @@ class Desktop:
             Atspi.set_timeout(4000, 4000)
             self._atspi = Atspi
         # What changed since is heard of only here.
-        _, GLib = self.gio()
         while GLib.MainContext.default().iteration(False):
             pass
         return Atspi
@@ -347,16 +365,19 @@ class Desktop:
         Atspi = self.atspi()
         return Atspi.Component.get_extents(node, Atspi.CoordType.SCREEN)
 
+    def find_icon(self):
+        """The rectangle of the tray inside the panel while there is one icon in it, and nothing else."""
+        tree = subprocess.run(["xwininfo", "-root", "-tree"], capture_output=True, text=True).stdout
+        # Tool tips and menus of the same program are children of the screen, and so no deeper in the tree than that.
+        for place in re.findall(r'^ {6,}.*"Wrapper-2.0"\)\s+(\d+)x(\d+)\S+\s+\+(-?\d+)\+(-?\d+)', tree, re.MULTILINE):
+            width, height, x, y = map(int, place)
+            if min(width, height) >= 20 and max(width, height) < 40:
+                return rectangle(x, y, width, height)
+        return None
+
     def icon(self):
-        """The icon's rectangle on the screen: the tray is a window of its own inside the panel, with one icon in it."""
-        def find():
-            tree = subprocess.run(["xwininfo", "-root", "-tree"], capture_output=True, text=True).stdout
-            places = re.findall(r'"Wrapper-2.0"\)\s+(\d+)x(\d+)\S+\s+\+(-?\d+)\+(-?\d+)', tree)
-            for width, height, x, y in (map(int, place) for place in places):
-                if width >= 20:
-                    return types.SimpleNamespace(x=x, y=y, width=width, height=height)
-            return None
-        return wait_for("the icon in the panel", find)
+        """The icon's rectangle on the screen."""
+        return at_rest("the icon in the panel", self.find_icon)
 
     def click_icon(self, button=1):
         icon = self.icon()
@@ -401,23 +422,33 @@ class Desktop:
         return node.get_state_set().contains(self.atspi().StateType.SHOWING)
 
     def open_panel(self):
-        """Clicks the icon and waits for the panel. The tray may show a copy's icon a moment longer than the copy lives:
-        a click that it swallowed is made again."""
-        for seconds in (4, 4, 15):
-            self.click_icon()
-            try:
-                return wait_for("the panel", self.window, seconds)
-            except AssertionError:
-                if seconds == 15:
-                    raise
-        return None
+        """Clicks the icon and waits for the panel."""
+        self.click_icon()
+        return wait_for("the panel", self.window)
 
-    def placed(self, window):
-        """A window's rectangle: it is told as being there before it is told where."""
-        def box():
-            found = self.extents(window)
-            return found if (found.x, found.y) != (0, 0) else None
-        return wait_for("the window's place", box)
+    def open_popup(self, click):
+        """Makes a click that opens a menu or a list, and waits until it is there to take keys."""
+        def windows():
+            return set(subprocess.run(["xdotool", "search", "--onlyvisible", "--class", "^Lumivane$"],
+                                      capture_output=True, text=True).stdout.split())
+        before = windows()
+        click()
+        wait_for("the popup", lambda: windows() - before)
+
+    def open_utility_window(self):
+        """Clicks the window button of the drop-down and waits for the window that takes its place."""
+        before = self.titled("Lumivane")
+        self.click_control("Utility window")
+        wait_for("the drop-down to go", lambda: not set(before) & set(self.titled("Lumivane")))
+        return wait_for("the utility window", lambda: self.titled("Lumivane") and self.window())
+
+    def resting(self, node):
+        """The rectangle of a window or control that has come to rest: it is told as being there before it is told
+        where."""
+        def place():
+            box = self.extents(node)
+            return rectangle(box.x, box.y, box.width, box.height) if (box.x, box.y) != (0, 0) else None
+        return at_rest("the control", place)
 
     def find(self, name, root=None):
         """The control of that accessible name."""
@@ -427,7 +458,7 @@ class Desktop:
         raise AssertionError("no control " + name)
 
     def click_control(self, name, root=None):
-        box = self.extents(self.find(name, root))
+        box = self.resting(self.find(name, root))
         self.click(box.x + box.width // 2, box.y + box.height // 2)
 
     def lines(self):
@@ -442,11 +473,17 @@ class Desktop:
     def picture(self, path):
         """The Moon's picture in the panel as an image file."""
         image = next(node for node in self.walk(self.window()) if node.get_role_name() == "image")
-        box = self.extents(image)
+        box = self.resting(image)
         side = min(box.width, box.height)
         x = box.x + (box.width - side) // 2
-        subprocess.run(["import", "-window", "root", "-crop",
-                        "%dx%d+%d+%d" % (side, side, x, box.y), "+repage", path], check=True)
+
+        def painted():
+            subprocess.run(["import", "-window", "root", "-crop",
+                            "%dx%d+%d+%d" % (side, side, x, box.y), "+repage", path], check=True)
+            return subprocess.run(["convert", path, "-format", "%k", "info:"], check=True,
+                                  capture_output=True).stdout != b"1"
+        # A window is there before it is painted.
+        wait_for("more than one colour", painted)
 
     def shown_text(self, text):
         """Whether any window of the program shows this text."""
@@ -454,7 +491,6 @@ class Desktop:
 
     def commands(self):
         """The gear menu's commands as the tray's menu has them, each with its check mark (None without one)."""
-        _, GLib = self.gio()
         address = self.items()[0]
         name, _, path = address.partition("/")
         menu = self.property(name, "/" + path, "org.kde.StatusNotifierItem", "Menu")
@@ -467,6 +503,6 @@ class Desktop:
 
     def choose(self, command):
         """Chooses a command from the gear menu, by the keyboard: menus are not among what a screen reader walks."""
-        self.click_control("Menu")
-        time.sleep(0.3)
-        self.key(*["Down"] * (list(self.commands()).index(command) + 1), "Return")
+        place = list(self.commands()).index(command)
+        self.open_popup(lambda: self.click_control("Menu"))
+        self.key(*["Down"] * (place + 1), "Return")

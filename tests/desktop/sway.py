@@ -11,7 +11,7 @@ import subprocess
 import tempfile
 import time
 
-from desktop import Desktop, rectangle, wait_for
+from desktop import Desktop, at_rest, rectangle, wait_for
 
 MISSING = [program for program in ("sway", "swaymsg", "waybar", "Xwayland") if not shutil.which(program)]
 SCREEN = (1280, 720)
@@ -70,7 +70,6 @@ class SwayDesktop(Desktop):
         wait_for("the tray", lambda: self.bus_has("org.kde.StatusNotifierWatcher"), 30)
 
     def start(self, program, environment=None, **keywords):
-        wait_for("the last program's icon to go", lambda: not self.find_icon())
         return super().start(program, environment=dict(self.session, **(environment or {})), **keywords)
 
     def windows(self):
@@ -89,9 +88,11 @@ class SwayDesktop(Desktop):
         return rectangle(**wait_for("the window", self.windows)[0]["rect"])
 
     def click_control(self, name, root=None):
-        # Under Wayland a program takes its window's corner for the screen's.
-        box, window, place = self.extents(self.find(name, root)), self.extents(self.window()), self.rectangle()
-        self.click(place.x + box.x - window.x + box.width // 2, place.y + box.y - window.y + box.height // 2)
+        def middle():
+            # Under Wayland a program takes its window's corner for the screen's.
+            box, window, place = self.extents(self.find(name, root)), self.extents(self.window()), self.rectangle()
+            return place.x + box.x - window.x + box.width // 2, place.y + box.y - window.y + box.height // 2
+        self.click(*at_rest("the control", middle))
 
     def click_icon(self, button=1):
         # The bar doesn't notice an icon that came up under a pointer at rest, and tells a double click's second half
@@ -109,6 +110,3 @@ class SwayDesktop(Desktop):
                 if icon.x >= 0:  # the bar has given it a place
                     return rectangle(icon.x, icon.y + top, icon.width, icon.height)
         return None
-
-    def icon(self):
-        return wait_for("the icon in the bar", self.find_icon)

@@ -49,12 +49,9 @@ QMap<QString, Message> messagesIn(const QString& path) {
 QStringList sourceTexts() {
     const QTemporaryDir folder;
     const QString fresh = folder.filePath(QStringLiteral("fresh.ts"));
-    QProcess lupdate;
-    lupdate.setWorkingDirectory(kRoot);
-    lupdate.start(QStringLiteral(LUPDATE),
-                  QStringLiteral("-silent -locations none app platform shared resources -ts").split(u' ') +
-                      QStringList(fresh));
-    EXPECT_TRUE(lupdate.waitForFinished() && lupdate.exitCode() == 0);
+    QProcess update;
+    update.start(kRoot + QStringLiteral("/tools/update_translations.sh"), {fresh});
+    EXPECT_TRUE(update.waitForFinished() && update.exitCode() == 0);
     return messagesIn(fresh).keys();
 }
 
