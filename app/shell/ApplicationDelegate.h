@@ -63,6 +63,9 @@ public:
     /// Logs the check; the feed's address already carries all that there is to tell.
     QList<SUFeedParameter> feedParametersForUpdater(SUUpdater* updater, bool sendingSystemProfile) override;
 
+    /// Opens an offer's page in the user's browser; false, with a log line, when there is none that would.
+    bool openDownloadPage(const QUrl& page) override;
+
 public Q_SLOTS:
     /// Checks for a new version now.
     void forwardCheckForUpdate(QObject* sender);

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "app/shell/ApplicationDelegate.h"
 
+#include "platform/carbon/Processes.h"
 #include "platform/foundation/NSBundle.h"
 #include "platform/foundation/NSLog.h"
 #include "platform/foundation/NSUserDefaults.h"
 #include "shared/utilities/classes/ExtraStringUtilities.h"
+#include "shared/utilities/classes/InternetConfig.h"
 
 QString ApplicationDelegate::feedURLString(const QString& host, const QString& build, const QString& interval,
                                            const QString& version, const QString& system) {
@@ -39,4 +41,17 @@ void ApplicationDelegate::forwardCheckForUpdate(QObject* sender) {
 QList<SUFeedParameter> ApplicationDelegate::feedParametersForUpdater(SUUpdater* updater, bool) {
     NSLog(QStringLiteral("Checking for update: %1").arg(updater->feedURL().toString()));
     return {};
+}
+
+bool ApplicationDelegate::openDownloadPage(const QUrl& page) {
+    const auto browser = InternetConfig::internetConfigWithApplicationSignature(kUnknownSignature);
+    if (!browser)
+        return false;
+    try {
+        browser->launchURL(page.toString(QUrl::FullyEncoded), QString());
+        return true;
+    } catch (const std::exception& failure) {
+        NSLog(QString::fromUtf8(failure.what()));
+        return false;
+    }
 }

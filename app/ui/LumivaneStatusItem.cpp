@@ -22,29 +22,63 @@
 #include <QIcon>
 #include <QImageReader>
 #include <QMenu>
+#include <QPainter>
 #include <QScreen>
 
 #include <algorithm>
 #include <chrono>
 #include <set>
+#include <utility>
 
 namespace {
 constexpr std::chrono::seconds kClockInterval{300};
 constexpr std::chrono::seconds kSettling{1};
 constexpr int kLargestIcon = 64;
 
-/// The program's installed icon in the sizes that window lists draw; every window keeps all that it is given.
-/// A look through the desktop's icon theme would take longer than making the panel.
+/// The program's installed icon; empty where that is missing. A look through the desktop's icon theme would
+/// take longer than making the panel.
+QImage installedIcon(int side) {
+    const QString path = QStringLiteral("%1/../icons/hicolor/%2x%2/apps/%3.png")
+                             .arg(NSBundle::mainBundle().resourcePath(), QString::number(side),
+                                  NSBundle::mainBundle().bundleIdentifier());
+    return QImageReader(path, "png").read();
+}
+
+/// In the sizes that window lists draw; every window keeps all that it is given.
 QIcon windowIcon() {
     QIcon icon;
-    for (const int size : {16, 32, 48, 64, 128}) {
-        const QString path = QStringLiteral("%1/../icons/hicolor/%2x%2/apps/%3.png")
-                                 .arg(NSBundle::mainBundle().resourcePath(), QString::number(size),
-                                      NSBundle::mainBundle().bundleIdentifier());
-        if (const QImage image = QImageReader(path, "png").read(); !image.isNull())
+    for (const int side : {16, 32, 48, 64, 128}) {
+        if (const QImage image = installedIcon(side); !image.isNull())
             icon.addPixmap(QPixmap::fromImage(image));
     }
     return icon;
+}
+
+/// What the tray shows when the phase's picture can't be had: nobody can click what they don't see.
+QImage pictureWithoutPhase() {
+    constexpr int kSide = 2 * kLargestIcon;
+    QImage image = installedIcon(kSide);
+    if (image.isNull()) {
+        image = QImage(kSide, kSide, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::transparent);
+        QPainter painter(&image);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(Qt::gray);
+        painter.drawEllipse(image.rect().adjusted(2, 2, -2, -2));
+    }
+    return image;
+}
+
+/// Brings an alert that waits for its answer to the front; false when there is none. Under one, a panel would
+/// look alive and be dead.
+bool raiseAlert() {
+    QWidget* const alert = QApplication::activeModalWidget();
+    if (!alert || alert->windowModality() != Qt::ApplicationModal)
+        return false;
+    alert->raise();
+    alert->activateWindow();
+    return true;
 }
 } // namespace
 
@@ -61,8 +95,10 @@ void LumivaneStatusItem::awakeFromNib() {
     connect(statusItem_.get(), &NSStatusItem::shownChanged, this, &LumivaneStatusItem::trayChanged);
     // The panel waits until someone asks for it or for the menu, which has its commands: the icon comes
     // first.
-    connect(menu_.get(), &QMenu::aboutToShow, this,
-            [this] { Q_EMIT controller().gearMenu()->aboutToShow(); });
+    connect(menu_.get(), &QMenu::aboutToShow, this, [this] {
+        if (lumivaneWindow_ || !raiseAlert())
+            Q_EMIT controller().gearMenu()->aboutToShow();
+    });
     showNow();
     clock_.setTimerType(Qt::VeryCoarseTimer);
     connect(&clock_, &QTimer::timeout, this, &LumivaneStatusItem::moonClockTimer);
@@ -85,13 +121,11 @@ void LumivaneStatusItem::moonClockTimer() {
 void LumivaneStatusItem::setImage(const QImage& image) {
     const int side = GetMBarHeight() - 4;
     QList<QImage> images;
-    if (!image.isNull()) {
-        // Averages of averages are the same averages: the large picture is gone through once, not for each
-        // size.
-        const QImage small = NSImageUtilities::imageOfSize(image, 2 * QSize(kLargestIcon, kLargestIcon));
-        for (const int size : std::set{side, 22, 24, 32, 2 * side, 44, 48, kLargestIcon})
-            images.append(NSImageUtilities::imageOfSize(small, QSize(size, size)));
-    }
+    // Averages of averages are the same averages: the large picture is gone through once, not for each size.
+    const QImage small = NSImageUtilities::imageOfSize(image.isNull() ? pictureWithoutPhase() : image,
+                                                       2 * QSize(kLargestIcon, kLargestIcon));
+    for (const int size : std::set{side, 22, 24, 32, 2 * side, 44, 48, kLargestIcon})
+        images.append(NSImageUtilities::imageOfSize(small, QSize(size, size)));
     statusItem_->setImages(images);
 }
 
@@ -117,7 +151,12 @@ void LumivaneStatusItem::makeAsHiddenMenu() {
     dropController();
     // When the old panel is gone, so that the next finds its memory free.
     QMetaObject::invokeMethod(
-        this, [this] { controller(); }, Qt::QueuedConnection);
+        this,
+        [this] {
+            if (!raiseAlert())
+                controller();
+        },
+        Qt::QueuedConnection);
     QTimer::singleShot(kSettling, this, &ExtraApplicationUtilities::returnFreedMemory);
 }
 
@@ -128,6 +167,7 @@ void LumivaneStatusItem::makeAsWindoid() {
 }
 
 void LumivaneStatusItem::dropController() {
+    standsInForTray_ = false;
     if (!lumivaneWindow_)
         return;
     ExtraWindowUtilities::fadeHideSynchronous(lumivaneWindow_->window());
@@ -162,21 +202,30 @@ bool LumivaneStatusItem::isPanelVisible() const {
 }
 
 void LumivaneStatusItem::statusItemClicked(QObject*) {
-    if (isPanelVisible())
-        makeAsHiddenMenu();
-    else
+    // A minimised window is not seen, so there is nothing to hide.
+    if (!isPanelVisible() || lumivaneWindow_->window()->isMinimized())
         showPanel();
+    else if (!raiseAlert())
+        makeAsHiddenMenu();
 }
 
 void LumivaneStatusItem::showPanel() {
+    if (raiseAlert())
+        return;
     LumivaneWindow* window = controller().window();
     if (!window->isVisible()) {
         lumivaneWindow_->showNow(nullptr);
         if (!lumivaneWindow_->isWindoid())
             placeUnderIcon();
         window->show();
+    } else if (window->isMinimized()) {
+        window->showNormal();
     }
     ExtraApplicationUtilities::bringToFront();
+    if (!QApplication::activeModalWidget()) { // else its dialog has the keys
+        window->raise();
+        window->activateWindow();
+    }
     ExtraWindowUtilities::fadeShowSynchronous(window);
 }
 
@@ -188,12 +237,25 @@ void LumivaneStatusItem::windowWillClose() {
 }
 
 void LumivaneStatusItem::trayChanged(bool shown) {
+    const bool isFirst = !std::exchange(trayIsKnown_, true);
     const bool windoid = lumivaneWindow_ && lumivaneWindow_->isWindoid();
-    if (shown && windoid)
+    if (shown && windoid && standsInForTray_)
         makeAsHiddenMenu();
     else if (!shown && !windoid)
-        makeAsWindoid();
+        standInForTray(isFirst);
     Q_EMIT trayKnown();
+}
+
+void LumivaneStatusItem::standInForTray(bool show) {
+    const auto moment =
+        isPanelVisible() ? std::optional(lumivaneWindow_->datePickerGMTSeconds()) : std::nullopt;
+    dropController();
+    loadController(LumivaneWindow::kWindoidMask);
+    standsInForTray_ = true;
+    if (show || moment)
+        showPanel();
+    if (moment)
+        lumivaneWindow_->moveTo(*moment);
 }
 
 bool LumivaneStatusItem::isInTray() const {

@@ -32,7 +32,7 @@ public:
     /// Sets the icon to the Moon of the present.
     void showNow();
 
-    /// Puts a picture into the icon, in all the sizes that trays ask for.
+    /// Puts a picture into the icon, in all the sizes that trays ask for; the program's own for an empty one.
     void setImage(const QImage& image);
 
     /// Hides the panel and prepares a fresh one for hidden-menu mode.
@@ -54,11 +54,12 @@ public:
                             const QRect& available);
 
 public Q_SLOTS:
-    /// Shows or hides the panel.
+    /// Shows the panel, or hides it where it is seen. An alert that waits for its answer comes to the front
+    /// instead.
     void statusItemClicked(QObject* sender = nullptr);
     void windowWillClose();
 
-    /// Shows the panel if it is hidden, and brings it to the front.
+    /// Shows the panel if it is hidden or minimised, and brings it to the front; but first an alert.
     void showPanel();
 
 Q_SIGNALS:
@@ -72,6 +73,7 @@ private:
     void loadController(std::uint32_t styleMask);
     void moonClockTimer();
     void trayChanged(bool shown);
+    void standInForTray(bool show);
     void dropController();
     void keepUnderIcon(LumivaneWindow* window);
     void placeUnderIcon();
@@ -83,4 +85,7 @@ private:
     /// Places the panel under Sway; the panel owns it.
     QPointer<SwayPlacement> swayPlacement_;
     QTimer clock_;
+    bool trayIsKnown_ = false;
+    /// The panel is a utility window only because there is no tray.
+    bool standsInForTray_ = false;
 };

@@ -2,14 +2,18 @@
 #include "app/ui/LumivaneWindow.h"
 
 #include "platform/appkit/NSScreen.h"
+#include "shared/utilities/classes/ExtraWindowUtilities.h"
 
+#include <QApplication>
 #include <QCloseEvent>
+#include <QDialog>
 #include <QKeyEvent>
 #include <QLayout>
 #include <QPainter>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QWindow>
 
 #include <algorithm>
 
@@ -57,12 +61,48 @@ void LumivaneWindow::setContent(QScrollArea* area, QWidget* content) {
 bool LumivaneWindow::eventFilter(QObject* watched, QEvent* event) {
     if (watched == content_ && event->type() == QEvent::Resize)
         fitToContent();
+    else if (event->type() == QEvent::Show && qobject_cast<QDialog*>(watched))
+        keepClearOf(static_cast<QDialog*>(watched));
     return QWidget::eventFilter(watched, event);
 }
 
 void LumivaneWindow::showEvent(QShowEvent* event) {
     fitToContent();
     QWidget::showEvent(event);
+    if (styleMask_ != kBorderlessMask)
+        return;
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget* window : windows) {
+        if (auto* dialog = qobject_cast<QDialog*>(window); dialog && dialog->isVisible())
+            keepClearOf(dialog);
+    }
+    qApp->installEventFilter(this); // for dialogs yet to come
+}
+
+void LumivaneWindow::hideEvent(QHideEvent* event) {
+    qApp->removeEventFilter(this);
+    QWidget::hideEvent(event);
+}
+
+/// A drop-down stays above all other windows, so that what it covers can't be brought up.
+void LumivaneWindow::keepClearOf(QDialog* dialog) const {
+    if (dialog->parentWidget() && dialog->parentWidget()->window() == this)
+        return; // a window's own dialogs are above it everywhere
+    const QRect available = NSScreen::visibleFrame(screen());
+    const QRect frame = dialog->frameGeometry();
+    if (!dialog->windowHandle() || !dialog->windowHandle()->isVisible())
+        dialog->move(
+            besidePanel(geometry(), frame.size(), available.center().y() - frame.height() / 2, available));
+    else if (frame.intersects(geometry()))
+        dialog->move(besidePanel(geometry(), frame.size(), frame.y(), available));
+}
+
+QPoint LumivaneWindow::besidePanel(const QRect& panel, const QSize& size, int y, const QRect& available) {
+    const int left = panel.left() - available.left();
+    const int right = available.right() - panel.right();
+    if (left >= right)
+        return {available.left() + std::max(0, (left - size.width()) / 2), y};
+    return {available.right() + 1 - size.width() - std::max(0, (right - size.width()) / 2), y};
 }
 
 void LumivaneWindow::fitToContent() {
@@ -71,7 +111,7 @@ void LumivaneWindow::fitToContent() {
     const QMargins margins = layout()->contentsMargins();
     const int around = layout()->sizeHint().height() - area_->sizeHint().height();
     const int wanted = around + content_->height();
-    const int titleBar = std::max(0, frameGeometry().height() - geometry().height());
+    const int titleBar = static_cast<int>(ExtraWindowUtilities::titleBarHeight(this));
     const int available = std::min(NSScreen::visibleFrame(screen()).height(), availableHeight_) - titleBar;
     const bool scrolls = wanted > available;
     area_->setVerticalScrollBarPolicy(scrolls ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 
+class QDialog;
 class QScrollArea;
 
 /// The panel's window: borderless above other windows in hidden-menu mode, a small titled utility window in
@@ -31,6 +32,11 @@ public:
     /// Keeps the window to a screen's height that Qt doesn't know of.
     void setAvailableHeight(int height);
 
+    /// Where a dialog of `size` goes that a panel at `panel` must not cover: into the middle of the wider
+    /// part of `available` beside it, as high as `y` has it. One that is wider than that part keeps to its
+    /// far edge.
+    static QPoint besidePanel(const QRect& panel, const QSize& size, int y, const QRect& available);
+
 Q_SIGNALS:
     /// The window follows its content's height.
     void heightChanged();
@@ -44,12 +50,14 @@ Q_SIGNALS:
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
 private:
     void fitToContent();
+    void keepClearOf(QDialog* dialog) const;
 
     std::uint32_t styleMask_;
     QScrollArea* area_ = nullptr;

@@ -236,7 +236,8 @@ bool LumivaneWindowController::isWindoid() const {
 
 void LumivaneWindowController::setStatusItem(LumivaneStatusItem* statusItem) {
     statusItem_ = statusItem;
-    windoidButton_->setVisible(!isWindoid() || statusItem->isInTray()); // else there is no way back
+    updateForTray();
+    connect(statusItem, &LumivaneStatusItem::trayKnown, this, &LumivaneWindowController::updateForTray);
     connect(window_.get(), &LumivaneWindow::windowWillClose, statusItem,
             &LumivaneStatusItem::windowWillClose);
     connect(window_.get(), &LumivaneWindow::cancelOperation, this, [this] {
@@ -244,6 +245,16 @@ void LumivaneWindowController::setStatusItem(LumivaneStatusItem* statusItem) {
         if (!isWindoid())
             hideButton(window_.get());
     });
+}
+
+void LumivaneWindowController::updateForTray() {
+    // Without a tray there is no way back, neither from a window to a drop-down nor from hiding.
+    const bool inTray = statusItem_->isInTray();
+    windoidButton_->setVisible(!isWindoid() || inTray);
+    const QString hide = NSBundle::mainBundle().localizedString(
+        inTray ? QT_TRANSLATE_NOOP("Lumivane", "Hide") : QT_TRANSLATE_NOOP("Lumivane", "Quit"));
+    hideButton_->setToolTip(hide);
+    hideButton_->setAccessibleName(hide);
 }
 
 std::uint32_t LumivaneWindowController::presentGMTSeconds(bool* outOfRange) {

@@ -62,6 +62,9 @@ public:
     std::uint32_t datePickerGMTSeconds() const;
     void setDatePickerGMTSeconds(std::int64_t gmtSeconds);
 
+    /// Moves the panel to a moment, held inside the table.
+    void moveTo(std::int64_t gmtSeconds);
+
     /// The moment of the slider's knob within the displayed date's lunation.
     std::uint32_t lunationSliderGMTSeconds() const;
     void setLunationSliderGMTSeconds(std::uint32_t gmtSeconds);
@@ -113,8 +116,8 @@ private:
     void askTimeZoneDidEnd(const QString& text, AskNumber* dialog);
     void selectTimeZoneEntry(int type);
     void cancelEditing();
+    void updateForTray();
     void updateDateRange();
-    void moveTo(std::int64_t gmtSeconds);
     void updateQuarterTimes(std::uint32_t t);
     void updateRiseSetLines(std::uint32_t t);
 

@@ -18,6 +18,7 @@
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPointer>
 #include <QTextDocument>
 
 namespace {
@@ -43,6 +44,9 @@ constexpr const char* kCreditsTexts[]{
     QT_TRANSLATE_NOOP("Lumivane", "Lumivane on the web"),
     QT_TRANSLATE_NOOP("Lumivane", "MIT licence, © The Lumivane developers"),
 };
+
+/// The credits while they are shown. They may outlive the panel that they were asked from.
+QPointer<SimpleTextWindow> shownCredits;
 
 /// The credits resource; null when it is missing or unreadable.
 std::unique_ptr<QTextDocument> credits() {
@@ -96,6 +100,10 @@ void LumivaneWindowController::copyMoonToClipboard(QObject*) {
 }
 
 void LumivaneWindowController::showAbout(QObject*) {
+    if (shownCredits && shownCredits->window() && shownCredits->window()->isVisible()) {
+        shownCredits->bringToFront();
+        return;
+    }
     using ExtraMutableAttributedStringUtilities::replaceAllAttributedStrings;
     const NSBundle& bundle = NSBundle::mainBundle();
     std::unique_ptr<QTextDocument> text = credits();
@@ -107,6 +115,11 @@ void LumivaneWindowController::showAbout(QObject*) {
                                 bundle.infoString(QStringLiteral("CFBundleShortVersionString")));
     replaceAllAttributedStrings(*text, QStringLiteral("[BUILD]"),
                                 bundle.infoString(QStringLiteral("CFBundleVersion")));
-    SimpleTextWindow::simpleTextWindowFromAttributedString(*text,
-                                                           window_->isVisible() ? window_.get() : nullptr);
+    // Asked for from the icon's menu, they need no panel.
+    shownCredits = window_->isVisible() && !window_->isMinimized()
+                       ? SimpleTextWindow::simpleTextWindowFromAttributedString(*text, window_.get())
+                       : SimpleTextWindow::freeTextWindowFromAttributedString(*text);
+    if (shownCredits)
+        shownCredits->window()->setWindowTitle(
+            bundle.localizedString(QT_TRANSLATE_NOOP("Lumivane", "About Lumivane")));
 }

@@ -118,7 +118,7 @@ void LumivaneWindowController::updateRiseSetLines(std::uint32_t t) {
 
 void LumivaneWindowController::updateMoonImage() {
     const QImage image = moonImageFor(datePickerGMTSeconds());
-    moonImageView_->setFixedHeight(kPictureSide);
+    moonImageView_->setFixedHeight(image.isNull() ? 0 : kPictureSide);
     moonImageView_->setPixmap(pixmapForScreenOf(moonImageView_, image, kPictureSide));
     if (statusItem_)
         statusItem_->setImage(image);
@@ -134,6 +134,7 @@ void LumivaneWindowController::updateQuarterButtons() {
             picture.isNull() ? picture : NSImageUtilities::tintToGrayWithBrightness(picture, level);
         button->setIconSize(QSize(kQuarterPictureSide, kQuarterPictureSide));
         button->setIcon(QIcon(pixmapForScreenOf(button, tinted, kQuarterPictureSide)));
+        button->setText(button->accessibleName()); // seen only where there is no picture
     }
 }
 

@@ -15,9 +15,17 @@ namespace {
 constexpr auto kPortal = QLatin1String("org.freedesktop.portal.Desktop");
 constexpr auto kPortalPath = QLatin1String("/org/freedesktop/portal/desktop");
 constexpr auto kSettings = QLatin1String("org.freedesktop.portal.Settings");
-constexpr auto kGroup = QLatin1String("org.freedesktop.appearance");
-constexpr auto kKey = QLatin1String("color-scheme");
 constexpr uint kPrefersDark = 1;
+
+struct Setting {
+    QLatin1String group;
+    QLatin1String key;
+};
+constexpr Setting kColorScheme{QLatin1String("org.freedesktop.appearance"), QLatin1String("color-scheme")};
+constexpr Setting kAnimations{QLatin1String("org.gnome.desktop.interface"),
+                              QLatin1String("enable-animations")};
+
+bool hasAnimations = true;
 
 QPalette darkPalette() {
     const QColor window(0x2d, 0x2d, 0x30);
@@ -54,8 +62,9 @@ private Q_SLOTS:
     void settingChanged(const QDBusMessage& change);
 
 private:
-    void ask();
-    void follow(const QVariant& colorScheme);
+    void askForAll();
+    void ask(const Setting& setting);
+    void follow(const Setting& setting, QVariant value);
 
     QDBusConnection bus_;
     bool isDark_ = false; ///< by this class
@@ -67,34 +76,44 @@ Follower::Follower(QObject* owner, const QDBusConnection& bus) : QObject(owner),
                  SLOT(settingChanged(QDBusMessage)));
     const auto* const portal =
         new QDBusServiceWatcher(kPortal, bus_, QDBusServiceWatcher::WatchForRegistration, this);
-    connect(portal, &QDBusServiceWatcher::serviceRegistered, this, &Follower::ask);
-    ask();
+    connect(portal, &QDBusServiceWatcher::serviceRegistered, this, &Follower::askForAll);
+    askForAll();
 }
 
-void Follower::ask() {
+void Follower::askForAll() {
+    ask(kColorScheme);
+    ask(kAnimations);
+}
+
+void Follower::ask(const Setting& setting) {
     QDBusMessage question =
         QDBusMessage::createMethodCall(kPortal, kPortalPath, kSettings, QStringLiteral("Read"));
-    question.setArguments({kGroup, kKey});
+    question.setArguments({setting.group, setting.key});
     // A session that has started no portal has no use for one on our account.
     question.setAutoStartService(false);
     auto* const answer = new QDBusPendingCallWatcher(bus_.asyncCall(question), this);
-    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
+    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, setting, answer] {
         answer->deleteLater();
         if (const QDBusPendingReply<QDBusVariant> reply = *answer; reply.isValid())
-            follow(reply.value().variant());
+            follow(setting, reply.value().variant());
     });
 }
 
 void Follower::settingChanged(const QDBusMessage& change) {
     const QVariantList arguments = change.arguments();
-    if (arguments.size() == 3 && arguments[0] == kGroup && arguments[1] == kKey)
-        follow(arguments[2]);
+    for (const Setting& setting : {kColorScheme, kAnimations}) {
+        if (arguments.size() == 3 && arguments[0] == setting.group && arguments[1] == setting.key)
+            follow(setting, arguments[2]);
+    }
 }
 
-void Follower::follow(const QVariant& colorScheme) {
-    QVariant value = colorScheme;
+void Follower::follow(const Setting& setting, QVariant value) {
     while (value.metaType() == QMetaType::fromType<QDBusVariant>()) // an answer has one more around it
         value = value.value<QDBusVariant>().variant();
+    if (setting.key == kAnimations.key) {
+        hasAnimations = value.toBool();
+        return;
+    }
     const bool wantsDark = value.toUInt() == kPrefersDark;
     if (wantsDark == isDark_ || (wantsDark && !isLight(QApplication::palette())))
         return;
@@ -110,6 +129,10 @@ void NSAppearance::followDesktop(QObject* owner) {
 
 void NSAppearance::followDesktop(QObject* owner, const QDBusConnection& bus) {
     new Follower(owner, bus);
+}
+
+bool NSAppearance::wantsAnimations() {
+    return hasAnimations;
 }
 
 #include "NSAppearance.moc"

@@ -4,14 +4,17 @@
 class QDBusConnection;
 class QObject;
 
-/// Stands for the system's appearance, light or dark. Backed by the desktop portal's `color-scheme`, which
-/// Qt 6.4 does not follow by itself.
+/// Stands for the system's appearance, light or dark, moving or still. Backed by the desktop portal's
+/// `color-scheme` and `enable-animations`, which Qt 6.4 does not follow by itself.
 namespace NSAppearance {
 
-/// Has the application's colours follow the portal as long as `owner` lives, now and when the user changes
-/// the setting. The first answer comes later; without a portal on the session bus, or on `bus`, they stay as
-/// they are, and so do colours that Qt has from the desktop and that are dark already.
+/// Has the application's colours, and `wantsAnimations`, follow the portal as long as `owner` lives, now and
+/// when the user changes the setting. The first answer comes later; without a portal on the session bus, or
+/// on `bus`, they stay as they are, and so do colours that Qt has from the desktop and that are dark already.
 void followDesktop(QObject* owner);
 void followDesktop(QObject* owner, const QDBusConnection& bus);
+
+/// Whether the desktop has animations, as far as `followDesktop` has heard; true until then.
+bool wantsAnimations();
 
 } // namespace NSAppearance

@@ -14,6 +14,7 @@
 #include <QTimer>
 
 #include <chrono>
+#include <utility>
 
 namespace {
 
@@ -47,6 +48,7 @@ public:
     QList<QImage> images;
     QString toolTip;
     QPointer<QMenu> menu;
+    bool started = false;
     std::optional<bool> shown;
 };
 
@@ -149,16 +151,14 @@ void NSStatusItem::setImages(const QList<QImage>& images) {
     drawable.removeIf([](const QImage& image) { return image.isNull(); });
     if (drawable.isEmpty()) {
         NSLog(QStringLiteral("No picture for the tray icon; it stays as it is."));
-        return;
+    } else if (drawable != d->images) {
+        d->images = drawable;
+        d->notifier.setImages(drawable);
+        if (d->xembedIcon)
+            d->xembedIcon->setIcon(d->icon());
     }
-    if (drawable == d->images)
-        return;
-    const bool first = d->images.isEmpty();
-    d->images = drawable;
-    d->notifier.setImages(drawable);
-    if (d->xembedIcon)
-        d->xembedIcon->setIcon(d->icon());
-    if (first)
+    // With or without a picture: others wait to hear of the tray.
+    if (!std::exchange(d->started, true))
         d->notifier.start();
 }
 

@@ -27,7 +27,7 @@ public:
     ~NSStatusItem() override;
 
     /// The icon in several sizes; the tray takes what fits it best. Without one that can be drawn, what was
-    /// there stays.
+    /// there stays. The first call, even without a picture, brings the item up.
     void setImages(const QList<QImage>& images);
 
     /// Shown while the pointer rests on the icon; the title until it is set.

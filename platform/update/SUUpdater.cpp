@@ -7,7 +7,6 @@
 #include "platform/foundation/NSUserDefaults.h"
 #include "platform/update/SUUpdateAlert.h"
 
-#include <QDesktopServices>
 #include <QProgressDialog>
 
 #include <algorithm>
@@ -34,10 +33,6 @@ void bringForward(QWidget* window) {
 }
 
 } // namespace
-
-bool SUUpdaterDelegate::openDownloadPage(const QUrl& page) {
-    return QDesktopServices::openUrl(page);
-}
 
 SUUpdater::SUUpdater(QObject* parent) : SUUpdater(SUUpdaterTiming(), parent) {
 }
@@ -204,8 +199,7 @@ void SUUpdater::offer(const SUAppcastItem& item) {
 }
 
 void SUUpdater::openPage(const QUrl& page) {
-    const bool opened = delegate_ ? delegate_->openDownloadPage(page) : QDesktopServices::openUrl(page);
-    if (!opened)
+    if (!delegate_ || !delegate_->openDownloadPage(page))
         answer(SUUpdateAlert::pageNotOpened(page));
 }
 

@@ -44,9 +44,8 @@ public:
     virtual QList<SUFeedParameter> feedParametersForUpdater(SUUpdater* updater,
                                                             bool sendingSystemProfile) = 0;
 
-    /// Shows the download page; on false the updater tells the user that no browser could be opened. As it
-    /// stands, the desktop's own browser shows it.
-    virtual bool openDownloadPage(const QUrl& page);
+    /// Shows the download page; on false the updater tells the user that no browser could be opened.
+    virtual bool openDownloadPage(const QUrl& page) = 0;
 };
 
 /// When the updater acts.

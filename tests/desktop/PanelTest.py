@@ -29,7 +29,7 @@ class PanelTest(unittest.TestCase):
         shutil.rmtree(cls.folder)
 
     def tearDown(self):
-        self.assertIn(self.desktop.stop(), (0, -15, None))
+        self.assertIn(self.desktop.stop(), (0, 1, -15, None))
 
     def show(self, moment, zone="UTC", **keywords):
         self.desktop.start(PROGRAM, moment, zone, **keywords)
@@ -101,8 +101,9 @@ class PanelTest(unittest.TestCase):
         shutil.copytree(RESOURCES, broken)
         table = (broken / "Lunations.plist").read_bytes()
         (broken / "Lunations.plist").write_bytes(table[:1000])
+        for picture in broken.glob("M*.png"):
+            picture.write_bytes(b"no picture")
         (broken / "M00.png").unlink()
-        (broken / "M09.png").write_bytes(b"no picture")
         preferences = pathlib.Path(self.desktop.home, "config/lumivane/lumivane.conf")
         preferences.parent.mkdir(parents=True, exist_ok=True)
         garbage = bytes((i * 37 + 11) % 256 for i in range(4000))
@@ -114,7 +115,27 @@ class PanelTest(unittest.TestCase):
         for complaint in ("The lunation table Lunations.plist can't be used", "The picture M00 is missing",
                           "The picture M09", "are damaged; kept as", 'time zone "Nowhere/Atall" is not known'):
             self.assertIn(complaint, log)
+        self.assertEqual(log.count("The picture M09"), 1)
+        self.assertTrue(list(pathlib.Path(self.desktop.home, "config/autostart").glob("*.desktop")))
+        self.desktop.click_control("Full moon")
+        wait_for("the full moon", lambda: "Moon is full" in self.desktop.lines())
         self.assertEqual(preferences.with_name("lumivane.conf.damaged").read_bytes(), garbage)
+
+    def test_moved_while_running(self):
+        moved = pathlib.Path(self.folder, "moved")
+        shutil.copytree(RESOURCES, moved)
+        self.desktop.start(PROGRAM, environment={"LUMIVANE_RESOURCES": str(moved)})
+        (moved / "LumivaneWindow.ui").unlink()
+        alerts = ["xdotool", "search", "--onlyvisible", "--pid", str(self.desktop.program.pid)]
+        self.desktop.click_icon()
+        wait_for("the alert", lambda: self.desktop.shown_text("It appears that Lumivane.app was moved while it was running!"))
+        before = subprocess.run(alerts, capture_output=True).stdout
+        self.desktop.click_icon()
+        time.sleep(0.5)
+        self.assertEqual(subprocess.run(alerts, capture_output=True).stdout, before, "one alert, not a stack of them")
+        self.assertEqual(self.desktop.logged().count("Can't load window"), 1)
+        self.desktop.key("Return")
+        self.assertEqual(self.desktop.program.wait(10), 1)
 
     def test_without_a_session_bus(self):
         # The same tray shows icons the older way, for which no bus is needed.

@@ -21,7 +21,7 @@ class TrayTest(unittest.TestCase):
     def setUp(self):
         self.desktop.start(PROGRAM, tray=False)
         self.addCleanup(self.desktop.stop)
-        wait_for("the utility window", self.desktop.window)
+        self.desktop.placed(wait_for("the utility window", self.desktop.window))
 
     def test_late_tray_takes_the_program_in(self):
         self.assertTrue(self.desktop.line("Moon is "))
@@ -36,7 +36,7 @@ class TrayTest(unittest.TestCase):
 
     def test_closing_the_window_ends_the_program(self):
         # Nothing would bring it back.
-        self.desktop.click_control("Hide")
+        self.desktop.click_control("Quit")
         self.assertEqual(self.desktop.program.wait(10), 0)
 
 

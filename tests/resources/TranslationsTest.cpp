@@ -120,7 +120,8 @@ TEST_F(TranslationsTest, TheCreditsWordsAreAmongTheTexts) {
     const QStringList untranslated{QStringLiteral("Lumivane"),
                                    QStringLiteral("Jean Meeus, Astronomical Algorithms"),
                                    QStringLiteral("Astronomy on the Personal Computer")};
-    QFile file(kRoot + QStringLiteral("/resources/Credits.rtf"));
+    const NSBundle& bundle = NSBundle::mainBundle();
+    QFile file(bundle.pathForResource(QStringLiteral("Credits.rtf")));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     QString error;
     const auto credits = documentFromRTF(file.readAll(), &error);
@@ -128,4 +129,6 @@ TEST_F(TranslationsTest, TheCreditsWordsAreAmongTheTexts) {
     const QStringList texts = sourceTexts() + untranslated;
     for (const QString& line : credits->toPlainText().split(u'\n', Qt::SkipEmptyParts))
         EXPECT_TRUE(texts.contains(line)) << qPrintable(line);
+    const QString site = QStringLiteral("href=\"https://") + bundle.infoString(QStringLiteral("LVWebHost"));
+    EXPECT_TRUE(credits->toHtml().contains(site + u'/'));
 }

@@ -34,20 +34,19 @@ bool DialogOrSheetController::loadWindow(const QString& nibName) {
 }
 
 void DialogOrSheetController::showOnWindow(QWidget* window) {
-    isOpenedAsSheet_ = window != nullptr;
-    if (isOpenedAsSheet_) {
+    if (window) {
         window_->setParent(window->window(), Qt::Sheet);
         window_->setWindowModality(Qt::WindowModal);
+        window_->adjustSize();
         placeOver(window->window());
-        window_->show();
-        window_->activateWindow();
+        window->window()->installEventFilter(this);
+        bringToFront();
         return;
     }
     window_->setWindowModality(Qt::ApplicationModal);
     QEventLoop loop;
     modalLoop_ = &loop; // cppcheck-suppress danglingLifetime ; a QPointer, which forgets it in time
-    window_->show();
-    window_->activateWindow();
+    bringToFront();
     loop.exec(QEventLoop::DialogExec);
     // The loop also ends, with the dialog unanswered, when the program quits.
     if (window_)
@@ -55,18 +54,34 @@ void DialogOrSheetController::showOnWindow(QWidget* window) {
     deleteLater();
 }
 
+void DialogOrSheetController::showByItself() {
+    window_->setWindowModality(Qt::NonModal);
+    bringToFront();
+}
+
+void DialogOrSheetController::bringToFront() {
+    if (!window_)
+        return;
+    for (QWidget* window : {window_->parentWidget(), static_cast<QWidget*>(window_)}) {
+        if (window && window->isMinimized())
+            window->showNormal();
+    }
+    window_->show();
+    window_->raise();
+    window_->activateWindow();
+}
+
 void DialogOrSheetController::closeWindow() {
     if (window_)
         window_->hide();
-    if (isOpenedAsSheet_)
-        deleteLater();
-    else if (modalLoop_)
+    if (modalLoop_)
         // Deleting waits for `showOnWindow` to return from the loop.
         modalLoop_->quit();
+    else
+        deleteLater();
 }
 
 void DialogOrSheetController::placeOver(const QWidget* window) {
-    window_->adjustSize();
     const QRect below = window->geometry();
     const QRect screen = window->screen()->availableGeometry();
     const int x = below.center().x() - window_->width() / 2;
@@ -76,6 +91,11 @@ void DialogOrSheetController::placeOver(const QWidget* window) {
 }
 
 bool DialogOrSheetController::eventFilter(QObject* watched, QEvent* event) {
+    if (watched != window_) {
+        if (window_ && (event->type() == QEvent::Move || event->type() == QEvent::Resize))
+            placeOver(static_cast<QWidget*>(watched));
+        return false;
+    }
     const bool escape =
         event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->matches(QKeySequence::Cancel);
     if (escape || event->type() == QEvent::Close) {

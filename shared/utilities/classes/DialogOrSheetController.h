@@ -7,17 +7,24 @@
 #include <QPointer>
 
 /// A dialog that is shown either as a sheet over a window, which it blocks, or by itself, blocking the whole
-/// program. It owns itself from `showOnWindow` to `closeWindow`: whoever creates one does not delete it.
+/// program or nothing. It owns itself from its showing to `closeWindow`: whoever creates one does not delete
+/// it.
 class DialogOrSheetController : public QObject {
     Q_OBJECT
 
 public:
     ~DialogOrSheetController() override;
 
-    /// With a window: shows the dialog over it and returns at once; when that window is deleted the dialog
-    /// goes with it, unanswered. With null: shows it in the middle of the screen and returns when it was
-    /// closed.
+    /// With a window: shows the dialog over it and returns at once; the dialog stays there when that window
+    /// moves or folds, and when it is deleted the dialog goes with it, unanswered. With null: shows it in the
+    /// middle of the screen and returns when it was closed.
     void showOnWindow(QWidget* window);
+
+    /// Shows the dialog as a window of its own that blocks nothing, and returns at once.
+    void showByItself();
+
+    /// Brings the dialog, and a minimised window that it stands over, to the front.
+    void bringToFront();
 
     /// Hides the dialog and gives it up: it is deleted by the event loop.
     void closeWindow();
@@ -45,5 +52,4 @@ private:
 
     QPointer<QDialog> window_;
     QPointer<QEventLoop> modalLoop_;
-    bool isOpenedAsSheet_ = false;
 };

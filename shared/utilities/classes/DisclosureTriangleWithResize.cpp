@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shared/utilities/classes/DisclosureTriangleWithResize.h"
 
+#include "platform/appkit/NSAppearance.h"
 #include "platform/appkit/NSBox.h"
 #include "platform/foundation/NSException.h"
 #include "platform/foundation/NSUserDefaults.h"
@@ -10,6 +11,7 @@
 #include <QStyleOptionFocusRect>
 #include <QStyleOptionToolButton>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -17,6 +19,7 @@ namespace {
 constexpr int kArrowSide = 12;
 constexpr int kGap = 4;
 constexpr int kPadding = 2;
+constexpr int kLongestAnimation = 150; // milliseconds
 
 /// A view's bottom edge in its superview, measured upwards as the folding rules have it.
 int bottomEdge(const QWidget* view) {
@@ -35,6 +38,13 @@ DisclosureTriangleWithResize::DisclosureTriangleWithResize(QWidget* parent) : QT
     QFont bold = font();
     bold.setBold(true);
     setFont(bold);
+    heightAnimation_.setEasingCurve(QEasingCurve::InOutQuad);
+    connect(&heightAnimation_, &QVariantAnimation::valueChanged, this,
+            [this](const QVariant& height) { setBoxHeight(height.toInt()); });
+    connect(&heightAnimation_, &QVariantAnimation::finished, this, [this] {
+        if (!isChecked())
+            hideFoldedViews();
+    });
     connect(this, &QToolButton::clicked, this, [this] {
         if (valueBindingKeyPath_.isEmpty())
             sizeToState();
@@ -75,23 +85,56 @@ float DisclosureTriangleWithResize::largeHeight() const {
 }
 
 void DisclosureTriangleWithResize::changeHeight(float shrinkBy) {
-    const int by = static_cast<int>(std::lround(shrinkBy));
+    changeHeight(shrinkBy, animate_);
+}
+
+void DisclosureTriangleWithResize::changeHeight(float shrinkBy, bool animated) {
+    const int height = boxView()->height();
+    const int target = height - static_cast<int>(std::lround(shrinkBy));
+    const bool isUnderWay = heightAnimation_.state() == QAbstractAnimation::Running;
+    if (animated && isUnderWay && heightAnimation_.endValue() == target)
+        return;
+    heightAnimation_.stop();
+    const int duration = animated && target != height ? animationDuration() : 0;
+    if (duration == 0) {
+        setBoxHeight(target);
+        return;
+    }
+    heightAnimation_.setDuration(duration);
+    heightAnimation_.setStartValue(height);
+    heightAnimation_.setEndValue(target);
+    heightAnimation_.start();
+}
+
+int DisclosureTriangleWithResize::animationDuration() const {
+    if (!isVisible() || !NSAppearance::wantsAnimations())
+        return 0;
+    return std::min(style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, this),
+                    kLongestAnimation);
+}
+
+void DisclosureTriangleWithResize::setBoxHeight(int height) {
+    NSBox* box = boxView();
+    const int by = box->height() - height;
     if (by == 0)
         return;
-    NSBox* box = boxView();
     QWidget* superview = box->parentWidget();
     for (QWidget* view : viewsInWindow(false))
         view->move(view->x(), view->y() - by);
-    box->resize(box->width(), box->height() - by);
+    box->resize(box->width(), height);
     superview->resize(superview->width(), superview->height() - by);
 }
 
 void DisclosureTriangleWithResize::sizeToState() {
+    sizeToState(animate_);
+}
+
+void DisclosureTriangleWithResize::sizeToState(bool animated) {
     if (isChecked())
         showFoldedViews();
     const float target = isChecked() ? largeHeight() : smallHeight();
-    changeHeight(currentHeight() - target);
-    if (!isChecked())
+    changeHeight(currentHeight() - target, animated);
+    if (!isChecked() && heightAnimation_.state() != QAbstractAnimation::Running)
         hideFoldedViews();
 }
 
@@ -105,6 +148,7 @@ void DisclosureTriangleWithResize::awakeFromNib() {
     }
     connect(box, &NSBox::contentSizeHintChanged, this, &DisclosureTriangleWithResize::contentChanged);
     sizeToState();
+    animate_ = true;
 }
 
 void DisclosureTriangleWithResize::observeValue(const QString& key) {
@@ -117,7 +161,8 @@ void DisclosureTriangleWithResize::observeValue(const QString& key) {
 void DisclosureTriangleWithResize::contentChanged() {
     if (isChecked())
         superViewExpandedHeight_ = static_cast<float>(boxView()->sizeHint().height());
-    sizeToState();
+    // A longer text must not be cut off even for a moment.
+    sizeToState(heightAnimation_.state() == QAbstractAnimation::Running);
 }
 
 void DisclosureTriangleWithResize::hideFoldedViews() {

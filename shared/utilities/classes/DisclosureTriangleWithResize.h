@@ -4,6 +4,7 @@
 #include <QList>
 #include <QPointer>
 #include <QToolButton>
+#include <QVariantAnimation>
 
 class NSBox;
 
@@ -29,7 +30,9 @@ public:
     float currentHeight() const; ///< of the box as it is
     float largeHeight() const;   ///< of the unfolded box
 
-    /// Shrinks the box by `shrinkBy` (negative: grows), and its superview with it. Top edges stay.
+    /// Shrinks the box by `shrinkBy` (negative: grows), and its superview with it. Top edges stay. After
+    /// `awakeFromNib` that is animated, within 150 ms in which this returns at once, where the triangle is on
+    /// the screen and the desktop has animations. A further change takes the place of one under way.
     void changeHeight(float shrinkBy);
 
     /// Brings the box to the height of the triangle's state.
@@ -45,6 +48,10 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void changeHeight(float shrinkBy, bool animated);
+    void sizeToState(bool animated);
+    void setBoxHeight(int height);
+    int animationDuration() const;
     void observeValue(const QString& key);
     void contentChanged();
     void hideFoldedViews();
@@ -52,5 +59,7 @@ private:
 
     float superViewExpandedHeight_ = 0;
     QString valueBindingKeyPath_;
+    bool animate_ = false;
+    QVariantAnimation heightAnimation_;
     QList<QPointer<QWidget>> foldedViews_;
 };

@@ -7,6 +7,8 @@
 
 class QImage;
 class QPixmap;
+class QTextDocument;
+class QTextEdit;
 
 /// Tests on anything that holds something. What a test can't answer does not compile.
 namespace ExtraContainerUtilities {
@@ -78,6 +80,10 @@ bool isEmpty(const T& object) {
     else
         return object.rowCount() == 0;
 }
+
+/// Replaces what a text view holds by a copy of `text`, formats and all, and shows its start. Nobody who
+/// listens to the view hears of it.
+void setAttributedString(QTextEdit* view, const QTextDocument& text);
 
 /// The opposite of equality.
 template <typename T, std::equality_comparable_with<T> U>

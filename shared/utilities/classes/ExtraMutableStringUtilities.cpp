@@ -4,9 +4,12 @@
 int ExtraMutableStringUtilities::replaceAll(QString& text, const QString& search, const QString& with) {
     if (search.isEmpty())
         return 0;
-    const auto found = text.count(search, Qt::CaseInsensitive);
-    text.replace(search, with, Qt::CaseInsensitive);
-    return static_cast<int>(found);
+    int count = 0;
+    for (qsizetype at = 0; (at = text.indexOf(search, at, Qt::CaseInsensitive)) >= 0; at += with.size()) {
+        text.replace(at, search.size(), with);
+        ++count;
+    }
+    return count;
 }
 
 void ExtraMutableStringUtilities::appendLine(QString& text, const QString& line) {

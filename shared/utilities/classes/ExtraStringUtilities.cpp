@@ -11,6 +11,8 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <limits>
 #include <stdexcept>
 
@@ -33,7 +35,12 @@ bool ExtraStringUtilities::contains(const QString& text, const QString& part) {
 }
 
 QString ExtraStringUtilities::stringWithFloat(float number) {
-    return QString::number(static_cast<double>(number), 'f', 3);
+    // Qt rounds a tie up, where C takes the even digit.
+    std::array<char, 64> text{}; // the largest number has 39 digits before its point
+    const auto end = std::to_chars(text.data(), text.data() + text.size(), static_cast<double>(number),
+                                   std::chars_format::fixed, 3)
+                         .ptr;
+    return QString::fromLatin1(text.data(), end - text.data());
 }
 
 QString ExtraStringUtilities::stringWithInteger(std::int64_t number) {

@@ -6,6 +6,7 @@
 
 #include <QImageReader>
 #include <QPainter>
+#include <QSet>
 
 #include <algorithm>
 #include <array>
@@ -22,6 +23,15 @@ QImage clearImage(const QSize& size) {
     return image;
 }
 
+/// Tells of a picture that can't be had, once a run: it is asked for again at each tick of the clock.
+void logOnce(const QString& name, const QString& reason) {
+    static QSet<QString> told;
+    if (!told.contains(name)) {
+        told.insert(name);
+        NSLog(reason);
+    }
+}
+
 int between(int from, int to, double fraction) {
     return static_cast<int>(std::lround(from + (to - from) * fraction));
 }
@@ -34,12 +44,12 @@ QImage NSImageUtilities::imageNamed(const QString& name) {
     QImageReader reader(path, "png");
     const QSize size = reader.size();
     if (path.isEmpty() || size.width() > kLargestSide || size.height() > kLargestSide) {
-        NSLog(QStringLiteral("The picture %1 is missing or no picture.").arg(name));
+        logOnce(name, QStringLiteral("The picture %1 is missing or no picture.").arg(name));
         return {};
     }
     const QImage image = reader.read();
     if (image.isNull())
-        NSLog(QStringLiteral("The picture %1 can't be read: %2.").arg(name, reader.errorString()));
+        logOnce(name, QStringLiteral("The picture %1 can't be read: %2.").arg(name, reader.errorString()));
     return image;
 }
 

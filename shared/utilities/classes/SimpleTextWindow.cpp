@@ -2,6 +2,8 @@
 #include "shared/utilities/classes/SimpleTextWindow.h"
 
 #include "platform/appkit/NSNib.h"
+#include "shared/utilities/classes/ExtraContainerUtilities.h"
+#include "shared/utilities/classes/InternetConfig.h"
 
 #include <QGuiApplication>
 #include <QPushButton>
@@ -11,18 +13,29 @@
 
 #include <algorithm>
 #include <cmath>
-#include <memory>
 
-SimpleTextWindow* SimpleTextWindow::simpleTextWindowFromAttributedString(const QTextDocument& text,
-                                                                         QWidget* window) {
+std::unique_ptr<SimpleTextWindow> SimpleTextWindow::loaded(const QTextDocument& text) {
     std::unique_ptr<SimpleTextWindow> dialog(new SimpleTextWindow);
     if (!dialog->loadWindow(QStringLiteral("SimpleTextWindow")))
         return nullptr;
-    dialog->text_->setDocument(text.clone(dialog->text_));
+    ExtraContainerUtilities::setAttributedString(dialog->text_, text);
     dialog->fitToText();
-    SimpleTextWindow* const shown = dialog.release();
-    shown->showOnWindow(window);
-    return shown;
+    return dialog;
+}
+
+SimpleTextWindow* SimpleTextWindow::simpleTextWindowFromAttributedString(const QTextDocument& text,
+                                                                         QWidget* window) {
+    SimpleTextWindow* const dialog = loaded(text).release();
+    if (dialog)
+        dialog->showOnWindow(window);
+    return dialog;
+}
+
+SimpleTextWindow* SimpleTextWindow::freeTextWindowFromAttributedString(const QTextDocument& text) {
+    SimpleTextWindow* const dialog = loaded(text).release();
+    if (dialog)
+        dialog->showByItself();
+    return dialog;
 }
 
 bool SimpleTextWindow::awakeFromNib(QString* error) {
@@ -30,6 +43,8 @@ bool SimpleTextWindow::awakeFromNib(QString* error) {
     if (!NSNib::connectOutlet(window(), "text_", text_, error) ||
         !NSNib::connectOutlet(window(), "okButton_", okButton, error))
         return false;
+    connect(text_, &QTextBrowser::anchorClicked,
+            [](const QUrl& link) { InternetConfig::launchURL(link.toString(QUrl::FullyEncoded)); });
     okButton->setFocus();
     return true;
 }

@@ -3,6 +3,8 @@
 
 #include "shared/utilities/classes/DialogOrSheetController.h"
 
+#include <memory>
+
 class QTextBrowser;
 class QTextDocument;
 
@@ -15,6 +17,9 @@ public:
     /// is copied. Null, with a log line, when the layout can't be loaded.
     static SimpleTextWindow* simpleTextWindowFromAttributedString(const QTextDocument& text, QWidget* window);
 
+    /// The same in a window of its own that blocks nothing; it has not ended on return.
+    static SimpleTextWindow* freeTextWindowFromAttributedString(const QTextDocument& text);
+
 public Q_SLOTS:
     void okPushed(QObject* sender);
 
@@ -24,6 +29,7 @@ protected:
 
 private:
     SimpleTextWindow() = default;
+    static std::unique_ptr<SimpleTextWindow> loaded(const QTextDocument& text);
     void fitToText();
 
     QTextBrowser* text_ = nullptr;

@@ -5,6 +5,7 @@
 #include "platform/foundation/NSUserDefaults.h"
 #include "platform/update/SUUpdateAlert.h"
 #include "shared/utilities/classes/ExtraStringUtilities.h"
+#include "tests/FakeDesktop.h"
 #include "tests/TestMain.h"
 #include "tests/platform/update/FeedServer.h"
 
@@ -79,4 +80,14 @@ TEST(ApplicationDelegateUpdates, TheServerGetsTheQueryAsItIsBuilt) {
     EXPECT_EQ(server.requests(),
               QStringList{QStringLiteral("trusted /cgi-sys/cgiwrap/Corvanta/SharewareAppCast.pl"
                                          "?bld=100&frq=604800&prd=lv&end=i386&ver=1.0&sys=120000")});
+}
+
+TEST(ApplicationDelegateUpdates, AnOffersPageOpensInTheDefaultBrowser) {
+    const FakeDesktop& desktop = FakeDesktop::shared();
+    ApplicationDelegate delegate;
+    EXPECT_TRUE(delegate.openDownloadPage(QUrl(QStringLiteral("https://www.example/get?a=b%20c"))));
+    EXPECT_EQ(desktop.starts("browser"), "--page https://www.example/get?a=b%20c");
+    const CaughtLog log;
+    EXPECT_FALSE(delegate.openDownloadPage(QUrl(QStringLiteral("x-nobody:page"))));
+    EXPECT_FALSE(log.lines().isEmpty());
 }

@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "app/ui/LumivaneStatusItem.h"
 
+#include "app/ui/LumivaneWindow.h"
+
 #include <gtest/gtest.h>
+
+#include <tuple>
 
 namespace {
 
@@ -50,6 +54,20 @@ TEST(LumivaneStatusItemTest, WithoutAKnownIconItOpensInTheTraysCorner) {
     EXPECT_EQ(frame(std::nullopt, screen, {0, 28, 0, 0}).topRight(), QPoint(1279, 28));
     EXPECT_EQ(frame(std::nullopt, screen, {0, 0, 0, 28}).bottomRight(), QPoint(1279, 771));
     EXPECT_EQ(frame(std::nullopt, screen, {}).bottomRight(), QPoint(1279, 799));
+}
+
+TEST(LumivaneStatusItemTest, ADialogGoesBesideTheDropDown) {
+    const QRect available(0, 28, 1024, 740);
+    const QRect atRight(634, 28, 390, 650);
+    for (const auto& [panel, width, x] : {std::tuple{atRight, 540, 47}, std::tuple{atRight, 700, 0},
+                                          std::tuple{atRight.translated(-634, 0), 540, 437},
+                                          std::tuple{atRight.translated(-634, 0), 700, 324}}) {
+        const QRect dialog(LumivaneWindow::besidePanel(panel, QSize(width, 380), 200, available),
+                           QSize(width, 380));
+        EXPECT_EQ(dialog.topLeft(), QPoint(x, 200));
+        EXPECT_TRUE(available.contains(dialog));
+        EXPECT_EQ(dialog.intersects(panel), width > 634);
+    }
 }
 
 TEST(LumivaneStatusItemTest, APanelLargerThanTheScreenShowsItsTop) {

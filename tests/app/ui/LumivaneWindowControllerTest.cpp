@@ -19,7 +19,9 @@
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QDialog>
 #include <QLabel>
+#include <QMessageBox>
 
 #include <gtest/gtest.h>
 
@@ -291,6 +293,17 @@ protected:
         action->trigger();
     }
 
+    static QList<QDialog*> dialogs() {
+        takeTurns();
+        QList<QDialog*> shown;
+        for (QWidget* widget : QApplication::topLevelWidgets()) {
+            auto* dialog = qobject_cast<QDialog*>(widget);
+            if (dialog && dialog->isVisible())
+                shown.append(dialog);
+        }
+        return shown;
+    }
+
     /// The panel that was hidden goes, the next one comes.
     static void takeTurns() {
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -325,6 +338,53 @@ TEST_F(PanelOfTheItem, MayGoWhileAnAlertStandsInItsCommand) {
     ASSERT_NE(next, nullptr);
     EXPECT_FALSE(next->isVisible());
     EXPECT_EQ(window(), next) << "the panel that is gone hides no other";
+}
+
+TEST_F(PanelOfTheItem, ShowsItsCreditsOnceAndBlocksNothingWhileItIsHidden) {
+    for (const bool isHidden : {true, false}) {
+        if (!isHidden)
+            item_.showPanel();
+        choose("aboutAction_");
+        ASSERT_EQ(dialogs().size(), 1);
+        QDialog* credits = dialogs().first();
+        EXPECT_EQ(credits->parentWidget(), isHidden ? nullptr : window());
+        EXPECT_EQ(credits->windowModality(), isHidden ? Qt::NonModal : Qt::WindowModal);
+        choose("aboutAction_");
+        EXPECT_EQ(dialogs(), QList{credits});
+        credits->close();
+    }
+    // A click puts the panel away and the credits on it, but not those by themselves.
+    choose("aboutAction_");
+    item_.statusItemClicked();
+    EXPECT_TRUE(dialogs().isEmpty());
+    choose("aboutAction_");
+    item_.statusItemClicked();
+    EXPECT_TRUE(window()->isVisible());
+    ASSERT_EQ(dialogs().size(), 1);
+    EXPECT_FALSE(dialogs().first()->frameGeometry().intersects(window()->geometry()));
+    dialogs().first()->close();
+}
+
+TEST_F(PanelOfTheItem, GivesWayToAnAlertThatWaits) {
+    EXPECT_FALSE(window()->isVisible());
+    QMessageBox alert;
+    alert.setWindowModality(Qt::ApplicationModal);
+    alert.show();
+    item_.statusItemClicked();
+    item_.showPanel();
+    EXPECT_FALSE(window()->isVisible()) << "it would look alive and be dead";
+    alert.hide();
+    item_.statusItemClicked();
+    EXPECT_TRUE(window()->isVisible());
+    alert.show();
+    item_.statusItemClicked();
+    EXPECT_TRUE(window()->isVisible());
+}
+
+TEST_F(PanelOfTheItem, WithoutATrayHidingIsQuitting) {
+    const auto* button = window()->findChild<QAbstractButton*>(QStringLiteral("hideButton_"));
+    EXPECT_EQ(button->toolTip(), u"Quit");
+    EXPECT_EQ(button->accessibleName(), u"Quit");
 }
 
 TEST_F(PanelOfTheItem, StaysAWindowWhereNoTrayWouldTakeItIn) {

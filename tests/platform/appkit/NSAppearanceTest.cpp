@@ -26,14 +26,14 @@ public:
     }
     ~FakePortal() override { bus.unregisterService(QStringLiteral("org.freedesktop.portal.Desktop")); }
 
-    void change(const char* key, uint to) {
-        Q_EMIT SettingChanged(QStringLiteral("org.freedesktop.appearance"), QString::fromLatin1(key),
-                              QDBusVariant(to));
+    void change(const char* key, const QVariant& to,
+                const QString& group = QStringLiteral("org.freedesktop.appearance")) {
+        Q_EMIT SettingChanged(group, QString::fromLatin1(key), QDBusVariant(to));
     }
 
 public Q_SLOTS:
     Q_SCRIPTABLE QDBusVariant Read(const QString& group, const QString& key) {
-        asked = group + u' ' + key;
+        asked.append(group + u' ' + key);
         return QDBusVariant(QVariant::fromValue(QDBusVariant(value)));
     }
 
@@ -43,7 +43,7 @@ Q_SIGNALS:
 public:
     QDBusConnection bus;
     uint value;
-    QString asked;
+    QStringList asked;
 };
 
 bool isDark() {
@@ -70,13 +70,18 @@ TEST_F(NSAppearanceTest, FollowsThePortal) {
     FakePortal portal(bus.connect(), 1);
     NSAppearance::followDesktop(&owner, bus.connect());
     ASSERT_TRUE(waitFor([] { return isDark(); }));
-    EXPECT_EQ(portal.asked, u"org.freedesktop.appearance color-scheme");
-    portal.change("accent-color", 0);
-    portal.change("color-scheme", 2);
+    EXPECT_TRUE(portal.asked.contains(u"org.freedesktop.appearance color-scheme"));
+    EXPECT_TRUE(portal.asked.contains(u"org.gnome.desktop.interface enable-animations"));
+    portal.change("accent-color", 0U);
+    portal.change("color-scheme", 2U);
     ASSERT_TRUE(waitFor([] { return !isDark(); }));
     EXPECT_EQ(QApplication::palette().color(QPalette::Window), light.color(QPalette::Window));
-    portal.change("color-scheme", 1);
+    portal.change("color-scheme", 1U);
     EXPECT_TRUE(waitFor([] { return isDark(); }));
+    for (const bool animations : {false, true}) {
+        portal.change("enable-animations", animations, QStringLiteral("org.gnome.desktop.interface"));
+        EXPECT_TRUE(waitFor([&] { return NSAppearance::wantsAnimations() == animations; }));
+    }
 }
 
 TEST_F(NSAppearanceTest, WaitsForAPortalAndLeavesOtherColours) {

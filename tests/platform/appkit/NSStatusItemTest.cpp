@@ -182,7 +182,7 @@ TEST_F(NSStatusItemTest, SurvivesTheWatchersRestarts) {
 
 TEST_F(NSStatusItemTest, WaitsForAHost) {
     FakePanel panel(bus.connect(), false);
-    item.setImages({picture(16, Qt::red)});
+    item.setImages({}); // nor does it need a picture to come up
     settle(onlooker);
     EXPECT_TRUE(itemsOnTheBus().isEmpty());
     panel.setHost(true);

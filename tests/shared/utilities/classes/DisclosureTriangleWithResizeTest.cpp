@@ -4,10 +4,12 @@
 #include "platform/appkit/NSBox.h"
 #include "platform/foundation/NSException.h"
 #include "platform/foundation/NSUserDefaults.h"
+#include "tests/platform/appkit/PrivateBus.h"
 
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QProxyStyle>
 #include <QVBoxLayout>
 
 #include <gtest/gtest.h>
@@ -15,6 +17,18 @@
 namespace {
 
 const QString kKey = QStringLiteral("TriangleOpen");
+
+/// Answers how long the desktop's animations last.
+class Style : public QProxyStyle {
+public:
+    int duration = 0;
+
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* data) const override {
+        return hint == SH_Widget_Animation_Duration ? duration
+                                                    : QProxyStyle::styleHint(hint, option, widget, data);
+    }
+};
 
 /// Three sections, one above the other, in a window's content.
 class DisclosureTriangleWithResizeTest : public testing::Test {
@@ -46,6 +60,7 @@ protected:
         auto* box = new NSBox(&content_);
         auto* view = new QWidget(box);
         auto* triangle = new DisclosureTriangleWithResize;
+        triangle->setStyle(&style_);
         if (bound)
             triangle->setProperty("binding", kKey);
         auto* field = new QLineEdit;
@@ -68,6 +83,7 @@ protected:
         return result;
     }
 
+    Style style_;
     QWidget content_;
     QList<Section> sections_;
 };
@@ -97,6 +113,36 @@ TEST_F(DisclosureTriangleWithResizeTest, FoldsItsBoxAndCarriesTheOthersAlong) {
     sections_[2].triangle->click();
     EXPECT_EQ(tops(), open) << "what is above stays";
     EXPECT_EQ(content_.height(), height - folded);
+}
+
+TEST_F(DisclosureTriangleWithResizeTest, AnimatesItsFoldingWhereTheDesktopDoes) {
+    style_.duration = 60;
+    defaults()->setBool(false, kKey);
+    awake();
+    const auto& [box, triangle, field] = sections_[0];
+    const auto* bound = sections_[1].triangle;
+    EXPECT_EQ(bound->currentHeight(), bound->smallHeight()) << "at once while it is loaded";
+    const float large = triangle->largeHeight();
+    const int height = content_.height();
+
+    triangle->click();
+    EXPECT_EQ(triangle->currentHeight(), large);
+    ASSERT_TRUE(waitFor([&] { return triangle->currentHeight() < large; }));
+    EXPECT_GT(triangle->currentHeight(), triangle->smallHeight());
+    EXPECT_TRUE(field->isVisible());
+    // Another section, and the same one again, before it is done.
+    defaults()->setBool(true, kKey);
+    triangle->click();
+    triangle->click();
+    ASSERT_TRUE(
+        waitFor([&] { return !field->isVisible() && bound->currentHeight() == bound->largeHeight(); }));
+    EXPECT_EQ(triangle->currentHeight(), triangle->smallHeight());
+    EXPECT_EQ(content_.height(), height) << "one has folded by what the other unfolded";
+    EXPECT_EQ(sections_[2].box->y() + sections_[2].box->height(), content_.height());
+
+    content_.hide();
+    triangle->click();
+    EXPECT_EQ(triangle->currentHeight(), large) << "nobody sees it";
 }
 
 TEST_F(DisclosureTriangleWithResizeTest, NeighboursAreAboveOrBelowInOrder) {

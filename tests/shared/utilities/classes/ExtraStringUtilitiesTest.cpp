@@ -2,10 +2,13 @@
 #include "shared/utilities/classes/ExtraStringUtilities.h"
 
 #include "platform/foundation/NSException.h"
+#include "shared/utilities/classes/ExtraMutableStringUtilities.h"
 
 #include <gtest/gtest.h>
 
+#include <limits>
 #include <stdexcept>
+#include <tuple>
 
 using namespace ExtraStringUtilities;
 
@@ -16,6 +19,25 @@ TEST(ExtraStringUtilitiesTest, FirstAndLastCharacters) {
     EXPECT_EQ(lastCharacter(QStringLiteral("Moon")), QChar(u'n'));
     EXPECT_THROW(firstCharacter(QString()), std::out_of_range);
     EXPECT_THROW(lastCharacter(QString()), std::out_of_range);
+}
+
+TEST(ExtraStringUtilitiesTest, NumbersAreRoundedAsInC) {
+    for (const auto& [number, text] :
+         {std::pair{0.0625F, "0.062"}, std::pair{0.1875F, "0.188"}, std::pair{-0.0625F, "-0.062"},
+          std::pair{100.0F, "100.000"}, std::pair{99.9996F, "100.000"}})
+        EXPECT_EQ(stringWithFloat(number), QLatin1String(text));
+    EXPECT_EQ(stringWithFloat(std::numeric_limits<float>::max()).size(), 43);
+}
+
+TEST(ExtraStringUtilitiesTest, ReplacementsAreCountedOnce) {
+    using ExtraMutableStringUtilities::replaceAll;
+    for (const auto& [before, search, after, count] :
+         {std::tuple{"aaa", "aa", "<a>a", 1}, std::tuple{"aAaA", "aa", "<a><a>", 2},
+          std::tuple{"abc", "", "abc", 0}}) {
+        QString text = QLatin1String(before);
+        EXPECT_EQ(replaceAll(text, QLatin1String(search), QStringLiteral("<a>")), count) << before;
+        EXPECT_EQ(text, QLatin1String(after));
+    }
 }
 
 TEST(ExtraStringUtilitiesTest, PascalStrings) {

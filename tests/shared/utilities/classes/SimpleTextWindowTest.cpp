@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "shared/utilities/classes/SimpleTextWindow.h"
 
+#include "tests/FakeDesktop.h"
+
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPushButton>
@@ -27,6 +29,22 @@ TEST(SimpleTextWindowTest, ShowsACopyOfTheTextAndClosesWithAnyKeyForIt) {
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         EXPECT_EQ(dialog, nullptr);
     }
+}
+
+TEST(SimpleTextWindowTest, ALinkOpensInTheDefaultBrowser) {
+    const FakeDesktop& desktop = FakeDesktop::shared();
+    QTextDocument text;
+    text.setHtml(QStringLiteral("<a href=\"https://www.corvanta.example/a?b=c\">page</a>"));
+    auto* dialog = SimpleTextWindow::freeTextWindowFromAttributedString(text);
+    EXPECT_FALSE(dialog->window()->isModal());
+    auto* view = dialog->window()->findChild<QTextBrowser*>();
+    for (const int key : {int(Qt::Key_Tab), int(Qt::Key_Return)}) {
+        QKeyEvent down(QEvent::KeyPress, key, Qt::NoModifier);
+        QApplication::sendEvent(view, &down);
+    }
+    EXPECT_EQ(desktop.starts("browser"), "--page https://www.corvanta.example/a?b=c");
+    EXPECT_EQ(view->toPlainText(), u"page") << "the link leads out of the window";
+    dialog->okPushed(nullptr);
 }
 
 TEST(SimpleTextWindowTest, AShortTextIsSeenWholeAndALongOneFitsTheScreen) {
