@@ -112,7 +112,7 @@ private:
     void defaultsChanged(const QString& key);
     void askTimeZoneDidEnd(const QString& text, AskNumber* dialog);
     void selectTimeZoneEntry(int type);
-    void cancelEditing();
+    void showStoredPlace();
     void updateDateRange();
     void moveTo(std::int64_t gmtSeconds);
     void updateQuarterTimes(std::uint32_t t);
