@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "platform/foundation/NSNumberFormatter.h"
 #include "shared/utilities/classes/AskNumber.h"
-#include "shared/utilities/classes/ExtraStringUtilities.h"
 
 #include <algorithm>
 #include <cmath>
@@ -33,7 +33,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     check(!answer->isEmpty() && typed.endsWith(*answer) &&
           typed.size() - answer->size() == (typed.startsWith(u'+') ? 1 : 0));
 
-    const float number = ExtraStringUtilities::floatValue(*answer);
+    const float number = NSNumberFormatter::leadingNumber(*answer);
     check(std::isfinite(number));
     const QByteArray plain = answer->toUtf8();
     const bool isPlain = std::all_of(plain.begin(), plain.end(), [](char c) {

@@ -76,6 +76,8 @@ void ApplicationDelegate::setupDefaultPreferences() {
         {SUEnableAutomaticChecksKey, true},
         {SUScheduledCheckIntervalKey, kSevenDays},
     });
+    defaults->registerRange(QStringLiteral("LVLatitude"), {-90.0F, 90.0F});
+    defaults->registerRange(QStringLiteral("LVLongitude"), {-180.0F, 180.0F});
     defaults->setBool(false, SUAllowsAutomaticUpdatesKey);
     defaults->setBool(false, SUAutomaticallyUpdateKey);
 }

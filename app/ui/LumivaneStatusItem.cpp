@@ -11,9 +11,9 @@
 #include "platform/carbon/GetMBarHeight.h"
 #include "platform/foundation/NSBundle.h"
 #include "platform/foundation/NSDate.h"
+#include "platform/foundation/NSNumberFormatter.h"
 #include "shared/utilities/classes/ExtraApplicationUtilities.h"
 #include "shared/utilities/classes/ExtraMutableStringUtilities.h"
-#include "shared/utilities/classes/ExtraStringUtilities.h"
 #include "shared/utilities/classes/ExtraWindowUtilities.h"
 #include "shared/utilities/classes/NSImageUtilities.h"
 
@@ -142,7 +142,7 @@ void LumivaneStatusItem::updateToolTip() {
                CMoonHelper::stringForMoonName(gMoon.GetDescriptorIndex(present)));
     QString lit = CMoonHelper::stringForInformation(2);
     replaceAll(lit, QStringLiteral("^1"),
-               ExtraStringUtilities::stringWithFloat(static_cast<float>(gMoon.IlluminationDisplay(present))));
+               NSNumberFormatter::string(static_cast<float>(gMoon.IlluminationDisplay(present)), 3));
     statusItem_->setToolTip(phase + QLatin1Char('\n') + lit);
 }
 

@@ -241,7 +241,7 @@ void LumivaneWindowController::setStatusItem(LumivaneStatusItem* statusItem) {
     connect(window_.get(), &LumivaneWindow::windowWillClose, statusItem,
             &LumivaneStatusItem::windowWillClose);
     connect(window_.get(), &LumivaneWindow::cancelOperation, this, [this] {
-        cancelEditing();
+        showStoredPlace();
         if (!isWindoid())
             hideButton(window_.get());
     });

@@ -115,8 +115,8 @@ private:
     void defaultsChanged(const QString& key);
     void askTimeZoneDidEnd(const QString& text, AskNumber* dialog);
     void selectTimeZoneEntry(int type);
-    void cancelEditing();
     void updateForTray();
+    void showStoredPlace();
     void updateDateRange();
     void updateQuarterTimes(std::uint32_t t);
     void updateRiseSetLines(std::uint32_t t);

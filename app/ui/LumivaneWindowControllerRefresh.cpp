@@ -9,6 +9,7 @@
 #include "app/ui/LumivaneWindowController.h"
 #include "platform/appkit/NSSlider.h"
 #include "platform/foundation/NSDate.h"
+#include "platform/foundation/NSNumberFormatter.h"
 #include "platform/foundation/NSTimeZone.h"
 #include "platform/foundation/NSUserDefaults.h"
 #include "shared/utilities/classes/ExtraDateUtilities.h"
@@ -79,7 +80,7 @@ void LumivaneWindowController::updateStaticMoonInfo() {
     setStringValueHilight(phaseName_, phase);
     moonImageView_->setAccessibleName(phase);
     const auto illumination = static_cast<float>(gMoon.IlluminationDisplay(t));
-    setStringValueHilight(illumination_, information(2, ExtraStringUtilities::stringWithFloat(illumination)));
+    setStringValueHilight(illumination_, information(2, NSNumberFormatter::string(illumination, 3)));
 
     // Ten seconds on, a moment just short of the new moon reads as the new lunation's first.
     QString age = CMoonHelper::stringForInformation(3);

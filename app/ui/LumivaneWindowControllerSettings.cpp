@@ -8,10 +8,10 @@
 #include "platform/appkit/NSSlider.h"
 #include "platform/foundation/NSBundle.h"
 #include "platform/foundation/NSDate.h"
+#include "platform/foundation/NSNumberFormatter.h"
 #include "platform/foundation/NSUserDefaults.h"
 #include "shared/utilities/classes/AskNumber.h"
 #include "shared/utilities/classes/ExtraNumberUtilities.h"
-#include "shared/utilities/classes/ExtraStringUtilities.h"
 #include "shared/utilities/classes/InternetConfig.h"
 
 #include <QApplication>
@@ -25,6 +25,8 @@
 namespace {
 
 const QString kTimeZoneType = QStringLiteral("LVTimeZoneType");
+const QString kLatitude = QStringLiteral("LVLatitude");
+const QString kLongitude = QStringLiteral("LVLongitude");
 const QString kCustomOffset = QStringLiteral("LVTimeZoneCustomGMTOffset");
 const QString kCustomTitle = QStringLiteral("LVTimeZoneGMTOffsetTitle");
 
@@ -43,12 +45,11 @@ QString webPage(const char* path) {
         .arg(NSBundle::mainBundle().infoString(QStringLiteral("LVWebHost")), QLatin1String(path));
 }
 
-/// "GMT +5.5" for a custom offset.
+/// "GMT +5.5" for a custom offset, as the preferences keep it.
 QString offsetTitle(float hours) {
     return NSBundle::mainBundle().localizedString(QT_TRANSLATE_NOOP("Lumivane", "GMT ")) +
            (hours >= 0.0F ? QStringLiteral("+") : QString()) +
-           QString::number(static_cast<double>(hours == 0.0F ? 0.0F : hours), 'f',
-                           1); // "-0" is no offset either
+           NSNumberFormatter::plainString(hours == 0.0F ? 0.0F : hours, 1); // "-0" is no offset either
 }
 
 } // namespace
@@ -64,7 +65,7 @@ void LumivaneWindowController::prepareTimeZonePopup() {
 void LumivaneWindowController::defaultsChanged(const QString& key) {
     if (key == kCustomTitle)
         timeZonePopup_->setItemText(timeZonePopup_->findData(static_cast<int>(kTimeZoneCustom)),
-                                    defaults()->stringForKey(kCustomTitle));
+                                    NSNumberFormatter::localized(defaults()->stringForKey(kCustomTitle)));
 }
 
 void LumivaneWindowController::selectTimeZoneEntry(int type) {
@@ -89,8 +90,9 @@ void LumivaneWindowController::timeZoneOther(QObject*) {
     const NSBundle& bundle = NSBundle::mainBundle();
     AskNumber* dialog = AskNumber::AskNumberWithMessage(
         bundle.localizedString(QT_TRANSLATE_NOOP("Lumivane", "GMT Time Zone Offset:")),
-        bundle.localizedString(QT_TRANSLATE_NOOP("Lumivane", "For Example: -5, +1.5, 12, 0")),
-        ExtraNumberUtilities::stringValue(defaults()->floatForKey(kCustomOffset)), window_.get(),
+        NSNumberFormatter::localized(
+            bundle.localizedString(QT_TRANSLATE_NOOP("Lumivane", "For Example: -5, +1.5, 12, 0"))),
+        NSNumberFormatter::string(defaults()->floatForKey(kCustomOffset)), window_.get(),
         [this](const QString& text, AskNumber* asked) { askTimeZoneDidEnd(text, asked); });
     const int type = CMoonHelper::prefZoneType();
     if (dialog)
@@ -106,7 +108,7 @@ void LumivaneWindowController::askTimeZoneDidEnd(const QString& text, AskNumber*
         defaults()->synchronize();
         return;
     }
-    const auto hours = static_cast<float>(ExtraStringUtilities::floatValue(text));
+    const float hours = NSNumberFormatter::leadingNumber(text);
     defaults()->setFloat(hours, kCustomOffset);
     defaults()->setObject(offsetTitle(hours), kCustomTitle);
     selectTimeZoneEntry(kTimeZoneCustom);
@@ -114,12 +116,9 @@ void LumivaneWindowController::askTimeZoneDidEnd(const QString& text, AskNumber*
 }
 
 void LumivaneWindowController::latitudeAndLongitudeFromSystemSettings(QObject*) {
-    const double latitude = ExtraNumberUtilities::numberWithLatitude();
-    const double longitude = ExtraNumberUtilities::numberWithLongitude();
-    defaults()->setFloat(static_cast<float>(latitude), QStringLiteral("LVLatitude"));
-    defaults()->setFloat(static_cast<float>(longitude), QStringLiteral("LVLongitude"));
-    latitude_->setText(ExtraNumberUtilities::stringValue(latitude));
-    longitude_->setText(ExtraNumberUtilities::stringValue(longitude));
+    defaults()->setFloat(static_cast<float>(ExtraNumberUtilities::numberWithLatitude()), kLatitude);
+    defaults()->setFloat(static_cast<float>(ExtraNumberUtilities::numberWithLongitude()), kLongitude);
+    showStoredPlace();
     updateStaticMoonInfo();
 }
 
@@ -131,13 +130,11 @@ void LumivaneWindowController::latitudeOrLongitudeChange(QObject*) {
     updateStaticMoonInfo();
 }
 
-void LumivaneWindowController::cancelEditing() {
-    for (const auto& [field, key] :
-         {std::pair{latitude_, "LVLatitude"}, std::pair{longitude_, "LVLongitude"}}) {
-        if (!field->isModified())
-            continue;
-        field->setModified(false);
-        field->setText(ExtraNumberUtilities::stringValue(defaults()->floatForKey(QLatin1String(key))));
+void LumivaneWindowController::showStoredPlace() {
+    for (const auto& [field, key] : {std::pair{latitude_, kLatitude}, std::pair{longitude_, kLongitude}}) {
+        // Also in the place of what is being typed.
+        field->setText(NSNumberFormatter::string(defaults()->floatForKey(key)));
+        field->setCursorPosition(0);
     }
 }
 

@@ -32,10 +32,21 @@ NSDatePicker::NSDatePicker(QWidget* parent) : QDateTimeEdit(parent) {
     setTimeSpec(Qt::UTC);
     setLocale(NSDateFormatter::locale());
     setDisplayFormat(NSDateFormatter::editingFormat());
+    if (!readsItsOwnText()) {
+        setLocale(QLocale::c());
+        setDisplayFormat(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+    }
     setCalendarPopup(true);
     // A date that is half typed is no date to show the Moon for.
     setKeyboardTracking(false);
     connect(this, &QDateTimeEdit::dateTimeChanged, this, &NSDatePicker::fieldsEdited);
+}
+
+bool NSDatePicker::readsItsOwnText() const {
+    const QDateTime morning(QDate(2026, 3, 4), QTime(0, 5, 6), Qt::UTC);
+    const QDateTime evening(QDate(2026, 11, 23), QTime(14, 5, 9), Qt::UTC);
+    return dateTimeFromText(textFromDateTime(morning)) == morning &&
+           dateTimeFromText(textFromDateTime(evening)) == evening;
 }
 
 void NSDatePicker::setDateRange(const QDateTime& first, const QDateTime& last) {

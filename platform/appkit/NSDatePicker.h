@@ -4,8 +4,9 @@
 #include <QDateTimeEdit>
 
 /// Stands for a date picker that holds an instant and shows it in the default time zone. Backed by
-/// QDateTimeEdit in the format of LC_TIME. The instant is kept beside the shown fields, so that an hour which
-/// comes twice in autumn is not lost in the display.
+/// QDateTimeEdit in the format of LC_TIME, or year first where Qt's editor can't read that (Assamese names
+/// for the parts of the day, Chakma digits). The instant is kept beside the shown fields, so that an hour
+/// which comes twice in autumn is not lost in the display.
 class NSDatePicker : public QDateTimeEdit {
     Q_OBJECT
 
@@ -27,6 +28,7 @@ Q_SIGNALS:
 
 private:
     void fieldsEdited(const QDateTime& shown);
+    bool readsItsOwnText() const;
 
     QDateTime instant_;
     QDateTime first_;

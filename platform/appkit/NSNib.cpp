@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/appkit/NSNib.h"
 
+#include "platform/appkit/FieldNote.h"
 #include "platform/foundation/NSBundle.h"
+#include "platform/foundation/NSNumberFormatter.h"
 #include "platform/foundation/NSUserDefaults.h"
 
 #include <QAbstractButton>
@@ -14,15 +16,12 @@
 #include <QFile>
 #include <QHash>
 #include <QLineEdit>
-#include <QLocale>
 #include <QMetaMethod>
 #include <QMetaProperty>
 #include <QPointer>
 #include <QUiLoader>
 
 #include <algorithm>
-#include <array>
-#include <charconv>
 #include <cmath>
 #include <optional>
 #include <utility>
@@ -81,24 +80,18 @@ private:
     const QStringList known_ = availableWidgets();
 };
 
-QString textOf(float number) {
-    std::array<char, 64> text{};
-    const auto end =
-        std::to_chars(text.data(), text.data() + text.size(), number, std::chars_format::fixed).ptr;
-    return QString::fromLatin1(text.data(), end - text.data());
-}
-
-std::optional<float> numberOf(QString text) {
-    constexpr char16_t kMinusSign = 0x2212;
-    text = text.trimmed().replace(QChar(kMinusSign), u'-');
-    for (QLocale locale : {QLocale::c(), QLocale()}) {
-        // Without this "1,5" would be 15 wherever the comma separates thousands.
-        locale.setNumberOptions(QLocale::RejectGroupSeparator);
-        bool ok = false;
-        if (const float number = locale.toFloat(text, &ok); ok && std::isfinite(number))
-            return number;
-    }
-    return std::nullopt;
+/// Why a field's text is not taken; empty for a number within `range`.
+QString refusal(const QString& text, const NSUserDefaults::Range& range) {
+    const NSBundle& bundle = NSBundle::mainBundle();
+    const auto number = NSNumberFormatter::number(text);
+    if (!number)
+        return bundle.localizedString(QT_TRANSLATE_NOOP("Lumivane", "This is not a number. Example: %1"))
+            .arg(NSNumberFormatter::string(12.5F));
+    if (*number >= range.smallest && *number <= range.largest)
+        return {};
+    return bundle.localizedString(QT_TRANSLATE_NOOP("Lumivane", "%1 is not between %2 and %3."))
+        .arg(NSNumberFormatter::string(*number), NSNumberFormatter::string(range.smallest),
+             NSNumberFormatter::string(range.largest));
 }
 
 std::optional<QMetaProperty> doubleValueProperty(const QObject* control) {
@@ -109,7 +102,8 @@ std::optional<QMetaProperty> doubleValueProperty(const QObject* control) {
 
 /// How a control's value and the preference that it is bound to become each other.
 struct Value {
-    std::function<void(NSUserDefaults&, const QString& key)> store;
+    /// False when the preference does not take the value; the control then shows the old one.
+    std::function<bool(NSUserDefaults&, const QString& key)> store;
     std::function<void(const NSUserDefaults&, const QString& key)> fill;
 };
 
@@ -119,6 +113,7 @@ std::optional<Value> switchValue(Switch* control) {
         return std::nullopt;
     return Value{[control](NSUserDefaults& defaults, const QString& key) {
                      defaults.setBool(control->isChecked(), key);
+                     return true;
                  },
                  [control](const NSUserDefaults& defaults, const QString& key) {
                      control->setChecked(defaults.boolForKey(key));
@@ -129,6 +124,7 @@ Value choiceValue(QComboBox* box) {
     return {[box](NSUserDefaults& defaults, const QString& key) {
                 if (const QVariant value = box->currentData(); value.isValid())
                     defaults.setInteger(value.toInt(), key);
+                return true;
             },
             [box](const NSUserDefaults& defaults, const QString& key) {
                 if (const int index = box->findData(defaults.integerForKey(key)); index >= 0)
@@ -136,22 +132,32 @@ Value choiceValue(QComboBox* box) {
             }};
 }
 
+void showNumber(QLineEdit* field, float number) {
+    field->setText(NSNumberFormatter::string(number));
+    field->setCursorPosition(0); // a long number is read from its start
+}
+
 Value numberValue(QLineEdit* field) {
     return {[field](NSUserDefaults& defaults, const QString& key) {
-                if (const auto number = numberOf(field->text()))
-                    defaults.setFloat(*number, key);
-                field->setText(textOf(defaults.floatForKey(key)));
+                const QString reason = refusal(field->text(), defaults.rangeForKey(key));
+                if (reason.isEmpty())
+                    defaults.setFloat(NSNumberFormatter::number(field->text()).value_or(0.0F), key);
+                showNumber(field, defaults.floatForKey(key));
+                if (!reason.isEmpty())
+                    FieldNote::showAt(field, reason);
+                return reason.isEmpty();
             },
             [field](const NSUserDefaults& defaults, const QString& key) {
                 // What is being typed is not overwritten.
                 if (!field->isModified() || !field->hasFocus())
-                    field->setText(textOf(defaults.floatForKey(key)));
+                    showNumber(field, defaults.floatForKey(key));
             }};
 }
 
 Value doubleValue(QObject* control, const QMetaProperty& property) {
     return {[=](NSUserDefaults& defaults, const QString& key) {
                 defaults.setFloat(property.read(control).toFloat(), key);
+                return true;
             },
             [=](const NSUserDefaults& defaults, const QString& key) {
                 property.write(control, static_cast<double>(defaults.floatForKey(key)));
@@ -161,6 +167,7 @@ Value doubleValue(QObject* control, const QMetaProperty& property) {
 Value sliderValue(QAbstractSlider* slider) {
     return {[slider](NSUserDefaults& defaults, const QString& key) {
                 defaults.setFloat(static_cast<float>(slider->value()), key);
+                return true;
             },
             [slider](const NSUserDefaults& defaults, const QString& key) {
                 const double value = defaults.floatForKey(key);
@@ -242,9 +249,8 @@ private Q_SLOTS:
     void changed() {
         if (filling_)
             return;
-        if (value_)
-            value_->store(*NSUserDefaults::standardUserDefaults(), key_);
-        sendAction();
+        if (!value_ || value_->store(*NSUserDefaults::standardUserDefaults(), key_))
+            sendAction();
     }
 
 private:
@@ -260,10 +266,7 @@ private:
         if (!field->isModified())
             return;
         field->setModified(false);
-        if (value_ && !numberOf(field->text()))
-            fill();
-        else
-            changed();
+        changed();
     }
 
     void sendAction() {

@@ -20,8 +20,9 @@
 /// - `binding` (string): the preference that the control shows and stores, both ways; the value is stored
 /// before
 ///   the action is sent. A checkable button or action: true or false. A combo box: the integer that is the
-///   chosen item's `Qt::UserRole`; items without one store nothing. A text field: a number, with a decimal
-///   point or the locale's decimal sign; anything else brings the old number back. A slider: its value, or
+///   chosen item's `Qt::UserRole`; items without one store nothing. A text field: a number within
+///   the preference's range, as `NSNumberFormatter` reads and writes it; for anything else the old number
+///   comes back, with a note that says why, and no action is sent. A slider: its value, or
 ///   its property `doubleValue` where its class declares one with a change signal.
 /// - `tag` (integer): for the slot to read with `tag`.
 class NSNib {

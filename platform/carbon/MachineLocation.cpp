@@ -16,11 +16,6 @@ namespace {
 
 constexpr double kFractOne = 1 << 30;
 
-QString zoneInfoFolder() {
-    const QString named = qEnvironmentVariable("TZDIR");
-    return named.isEmpty() ? QStringLiteral("/usr/share/zoneinfo") : named;
-}
-
 struct Place {
     double latitude;
     double longitude;
@@ -52,7 +47,7 @@ std::optional<Place> placeOf(const QByteArray& iso6709) {
 /// The words of each line of a file that has `word` in it. Only those lines are taken apart: the files are
 /// long, and this is on the program's way to its icon.
 std::vector<QList<QByteArray>> linesWith(const QByteArray& word, const QString& fileName, char separator) {
-    QFile file(zoneInfoFolder() + QLatin1Char('/') + fileName);
+    QFile file(NSTimeZone::zoneInfoFolder() + QLatin1Char('/') + fileName);
     if (word.isEmpty() || !file.open(QIODevice::ReadOnly))
         return {};
     const QByteArray text = file.readAll();

@@ -25,10 +25,27 @@ QByteArray timeLocaleName() {
     return "C";
 }
 
+/// The script that a modifier stands for ("sr_RS@latin"), empty for one that means something else.
+QByteArray scriptOf(const QByteArray& modifier) {
+    for (const auto& [name, script] : {std::pair{"latin", "Latn"}, std::pair{"iqtelif", "Latn"},
+                                       std::pair{"cyrillic", "Cyrl"}, std::pair{"devanagari", "Deva"}}) {
+        if (modifier.compare(name, Qt::CaseInsensitive) == 0)
+            return script;
+    }
+    return {};
+}
+
+/// Of LANGUAGE[_TERRITORY][.CODESET][@MODIFIER] the codeset alone says nothing about dates.
 icu::Locale icuLocale(const QByteArray& posixName) {
-    const QByteArray language = posixName.left(posixName.indexOf('.'));
-    const bool unset = language == "C" || language == "POSIX";
-    icu::Locale locale = unset ? icu::Locale::getUS() : icu::Locale::createCanonical(language.constData());
+    const QList<QByteArray> halves = posixName.split('@');
+    QByteArray name = halves[0].split('.')[0];
+    if (name == "C" || name == "POSIX")
+        name = "en_US";
+    else if (const QByteArray script = scriptOf(halves.value(1)); !script.isEmpty())
+        name.insert(name.indexOf('_') < 0 ? name.size() : name.indexOf('_'), '_' + script);
+    else if (halves.size() > 1)
+        name += '@' + halves[1];
+    icu::Locale locale = icu::Locale::createCanonical(name.constData());
     UErrorCode status = U_ZERO_ERROR;
     locale.setKeywordValue("calendar", "gregorian", status);
     return locale;
@@ -133,6 +150,24 @@ QString fromICU(icu::UnicodeString text) {
     return QString(reinterpret_cast<const QChar*>(text.getBuffer()), text.length());
 }
 
+/// The letters of a Unicode time pattern as Qt writes them. Quoted words are the same in both.
+QString qtTimeFormat(const QString& pattern) {
+    QString format;
+    bool quoted = false;
+    for (const QChar letter : pattern) {
+        quoted ^= letter == u'\'';
+        if (quoted || !letter.isLetter() || letter.unicode() > 'z' || QStringView(u"Hhms").contains(letter))
+            format += letter;
+        else if (letter == u'k')
+            format += u'H';
+        else if (letter == u'K')
+            format += u'h';
+        else if (QStringView(u"abB").contains(letter) && !format.endsWith(u"Ap"))
+            format += u"Ap";
+    }
+    return format.trimmed();
+}
+
 QString formatted(std::int64_t wall, const icu::DateFormat* format) {
     if (!format)
         return {};
@@ -152,8 +187,8 @@ QString NSDateFormatter::timeString(std::int64_t wall, Style style) {
 }
 
 QLocale NSDateFormatter::locale() {
-    const QByteArray name = timeLocaleName();
-    const QLocale named(QString::fromLatin1(name.left(name.indexOf('.'))));
+    const icu::Locale locale = icuLocale(timeLocaleName());
+    const QLocale named(QLatin1String(locale.getBaseName()));
     return named.language() == QLocale::C ? QLocale(QLocale::English, QLocale::UnitedStates) : named;
 }
 
@@ -161,13 +196,9 @@ QString NSDateFormatter::editingFormat() {
     QString date = locale().dateFormat(QLocale::ShortFormat);
     if (!date.contains(u"yyyy"))
         date.replace(QStringLiteral("yy"), QStringLiteral("yyyy"));
-    QString time = locale().timeFormat(QLocale::ShortFormat);
-    time.remove(QLatin1Char('t'));
-    const bool twelve = time.contains(QLatin1Char('a'), Qt::CaseInsensitive);
-    const HourCycle cycle = desktopHourCycle();
-    if (cycle != HourCycle::OfLocale && twelve != (cycle == HourCycle::Twelve))
-        time = twelve ? QStringLiteral("HH:mm") : QStringLiteral("h:mm AP");
-    if (!time.contains(u"s"))
-        time.replace(QStringLiteral("mm"), QStringLiteral("mm:ss"));
-    return date + QLatin1Char(' ') + time.trimmed();
+    icu::UnicodeString time;
+    if (const auto* format =
+            dynamic_cast<const icu::SimpleDateFormat*>(formatter(Style::None, Style::Medium)))
+        format->toPattern(time);
+    return date + QLatin1Char(' ') + qtTimeFormat(fromICU(time));
 }

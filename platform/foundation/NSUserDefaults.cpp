@@ -106,6 +106,10 @@ void NSUserDefaults::registerDefaults(const QVariantMap& defaults) {
     registered_.insert(defaults);
 }
 
+void NSUserDefaults::registerRange(const QString& key, const Range& range) {
+    ranges_.insert(key, range);
+}
+
 QVariant NSUserDefaults::objectForKey(const QString& key) const {
     const QVariant stored = settings_->value(key);
     return stored.isValid() ? stored : registered_.value(key);
@@ -120,7 +124,7 @@ T NSUserDefaults::typedValue(const QString& key, Convert convert) const {
         if (!reportedKeys_.contains(key)) {
             reportedKeys_.append(key);
             NSLog(QStringLiteral(
-                      "The preference %1 holds \"%2\", which is not of its kind; its default serves.")
+                      "The preference %1 holds \"%2\", which is no value for it; its default serves.")
                       .arg(key, stored.toString()));
         }
     }
@@ -132,7 +136,10 @@ int NSUserDefaults::integerForKey(const QString& key) const {
 }
 
 float NSUserDefaults::floatForKey(const QString& key) const {
-    return typedValue<float>(key, toFloat);
+    return typedValue<float>(key, [range = rangeForKey(key)](const QString& text) {
+        const std::optional<float> value = toFloat(text);
+        return value && *value >= range.smallest && *value <= range.largest ? value : std::nullopt;
+    });
 }
 
 bool NSUserDefaults::boolForKey(const QString& key) const {

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QHash>
 #include <QObject>
 #include <QVariantMap>
 
+#include <limits>
 #include <memory>
 
 class QSettings;
@@ -24,10 +26,19 @@ public:
     /// Adds to the registration domain, which is never written to the file.
     void registerDefaults(const QVariantMap& defaults);
 
+    /// The numbers that a key may have.
+    struct Range {
+        float smallest = std::numeric_limits<float>::lowest();
+        float largest = std::numeric_limits<float>::max();
+    };
+    void registerRange(const QString& key, const Range& range);
+    /// All numbers for a key without a range of its own.
+    Range rangeForKey(const QString& key) const { return ranges_.value(key); }
+
     /// The user's value, else the registered one, else an invalid variant.
     QVariant objectForKey(const QString& key) const;
-    /// Typed reads. A stored value of another kind is logged once and the registered one is given, else 0,
-    /// false or an empty string.
+    /// Typed reads. A stored value of another kind or outside its range is logged once and the registered one
+    /// is given, else 0, false or an empty string.
     int integerForKey(const QString& key) const;
     float floatForKey(const QString& key) const;
     bool boolForKey(const QString& key) const;
@@ -58,6 +69,7 @@ private:
 
     std::unique_ptr<QSettings> settings_;
     QVariantMap registered_;
+    QHash<QString, Range> ranges_;
     mutable QStringList reportedKeys_;
     bool synchronizesLater_ = false;
     bool refused_ = false; ///< by the disk, the last time

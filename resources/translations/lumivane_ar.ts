@@ -635,5 +635,13 @@
         <source>url: &lt;%1&gt;, browser: &lt;%2&gt;</source>
         <translation>‏URL: ⁦&lt;%1&gt;⁩، المتصفح: ⁦&lt;%2&gt;⁩</translation>
     </message>
+    <message>
+        <source>This is not a number. Example: %1</source>
+        <translation>هذا ليس رقمًا. مثال: ⁦%1⁩</translation>
+    </message>
+    <message>
+        <source>%1 is not between %2 and %3.</source>
+        <translation>⁦%1⁩ ليس بين ⁦%2⁩ و⁦%3⁩.</translation>
+    </message>
 </context>
 </TS>

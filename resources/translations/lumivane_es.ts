@@ -635,5 +635,13 @@
         <source>url: &lt;%1&gt;, browser: &lt;%2&gt;</source>
         <translation>URL: &lt;%1&gt;, navegador: &lt;%2&gt;</translation>
     </message>
+    <message>
+        <source>This is not a number. Example: %1</source>
+        <translation>Esto no es un número. Ejemplo: %1</translation>
+    </message>
+    <message>
+        <source>%1 is not between %2 and %3.</source>
+        <translation>%1 no está entre %2 y %3.</translation>
+    </message>
 </context>
 </TS>

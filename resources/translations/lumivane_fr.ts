@@ -635,5 +635,13 @@
         <source>url: &lt;%1&gt;, browser: &lt;%2&gt;</source>
         <translation>URL&#xa0;: &lt;%1&gt;, navigateur&#xa0;: &lt;%2&gt;</translation>
     </message>
+    <message>
+        <source>This is not a number. Example: %1</source>
+        <translation>Ce n’est pas un nombre. Exemple&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>%1 is not between %2 and %3.</source>
+        <translation>%1 n’est pas compris entre %2 et %3.</translation>
+    </message>
 </context>
 </TS>

@@ -635,5 +635,13 @@
         <source>url: &lt;%1&gt;, browser: &lt;%2&gt;</source>
         <translation>URL：&lt;%1&gt;，浏览器：&lt;%2&gt;</translation>
     </message>
+    <message>
+        <source>This is not a number. Example: %1</source>
+        <translation>这不是数字。例如：%1</translation>
+    </message>
+    <message>
+        <source>%1 is not between %2 and %3.</source>
+        <translation>%1 不在 %2 到 %3 的范围内。</translation>
+    </message>
 </context>
 </TS>

@@ -8,12 +8,10 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QMimeData>
-#include <QRegularExpression>
 
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <limits>
 #include <stdexcept>
 
 #include <unistd.h>
@@ -45,15 +43,6 @@ QString ExtraStringUtilities::stringWithFloat(float number) {
 
 QString ExtraStringUtilities::stringWithInteger(std::int64_t number) {
     return QString::number(number);
-}
-
-float ExtraStringUtilities::floatValue(const QString& text) {
-    static const QRegularExpression leadingNumber(
-        QStringLiteral(R"(^\s*([+-]?(?:[0-9]+(?:\.[0-9]*)?|\.[0-9]+)(?:[eE][+-]?[0-9]+)?))"),
-        QRegularExpression::UseUnicodePropertiesOption);
-    const double number = leadingNumber.match(text).captured(1).toDouble();
-    constexpr double kLargest = std::numeric_limits<float>::max();
-    return static_cast<float>(std::clamp(number, -kLargest, kLargest));
 }
 
 QChar ExtraStringUtilities::firstCharacter(const QString& text) {

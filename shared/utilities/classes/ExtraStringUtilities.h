@@ -23,11 +23,6 @@ QString stringWithFloat(float number);
 /// An integer in plain decimal.
 QString stringWithInteger(std::int64_t number);
 
-/// The decimal number that `text` starts with after any white space: an optional sign, digits, an optional
-/// point and fraction, an optional exponent. 0 when there is none; the rest is ignored. A number that is too
-/// large gives the largest single-precision one.
-float floatValue(const QString& text);
-
 /// The first and the last character; an empty string raises std::out_of_range.
 QChar firstCharacter(const QString& text);
 QChar lastCharacter(const QString& text);

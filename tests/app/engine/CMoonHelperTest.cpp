@@ -179,20 +179,3 @@ TEST_F(CMoonHelperTest, TimesOfDayAtTheCalendarsOddPlaces) {
     const InZone chatham("Pacific/Chatham");
     EXPECT_EQ(CMoonHelper::DateStringFromComponents(2026, 7, 1, 13, 5), QStringLiteral("1:05 PM"));
 }
-
-TEST_F(CMoonHelperTest, DaylightSavingIsThatOfThePresent) {
-    const InZone newYork("America/New_York");
-    {
-        const NSDate::Hold summer(gmt(2026, 7, 1));
-        EXPECT_TRUE(CMoonHelper::DaylightSavingsIsOn());
-        EXPECT_EQ(CMoonHelper::GetGMTOffset(), -14400);
-    }
-    const NSDate::Hold winter(gmt(2026, 1, 1));
-    EXPECT_FALSE(CMoonHelper::DaylightSavingsIsOn());
-    EXPECT_EQ(CMoonHelper::GetGMTOffset(), -18000);
-    const CaughtLog log;
-    const InZone misspelt("Nowhere/Atall");
-    EXPECT_EQ(CMoonHelper::GetGMTOffset(), 0);
-    EXPECT_EQ(CMoonHelper::GetGMTOffset(), 0);
-    EXPECT_EQ(log.lines().size(), 1);
-}

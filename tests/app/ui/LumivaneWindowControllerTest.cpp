@@ -19,9 +19,12 @@
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QComboBox>
 #include <QDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
+#include <QPushButton>
 
 #include <gtest/gtest.h>
 
@@ -50,7 +53,8 @@ class LumivaneWindowControllerTest : public testing::Test {
 protected:
     LumivaneWindowControllerTest() { load(); }
     ~LumivaneWindowControllerTest() override {
-        for (const char* key : {"LVTimeZoneType", "LVTimeZoneCustomGMTOffset", "LVTimeZoneGMTOffsetTitle"})
+        for (const char* key : {"LVTimeZoneType", "LVTimeZoneCustomGMTOffset", "LVTimeZoneGMTOffsetTitle",
+                                "LVLatitude", "LVLongitude"})
             defaults()->removeObjectForKey(QLatin1String(key));
     }
 
@@ -265,6 +269,37 @@ TEST_F(LumivaneWindowControllerTest, AChangedLineIsDarkRedForOneUpdate) {
     EXPECT_TRUE(isRed("lunation_") && isRed("timeFull_") && isRed("moonRiseSet_"));
     controller_->updateStaticMoonInfo();
     EXPECT_FALSE(isRed("illumination_") || isRed("lunation_") || isRed("timeFull_") || isRed("moonRiseSet_"));
+}
+
+TEST_F(LumivaneWindowControllerTest, NumbersAreShownAndReadInTheLocale) {
+    QLocale::setDefault(QLocale(QLocale::German));
+    defaults()->setObject(QStringLiteral("GMT +5.5"), QStringLiteral("LVTimeZoneGMTOffsetTitle"));
+    load();
+    const auto* zones = controller_->window()->findChild<QComboBox*>(QStringLiteral("timeZonePopup_"));
+    EXPECT_EQ(zones->itemText(2), u"GMT +5,5") << "which an earlier run may have stored";
+    controller_->setDatePickerGMTSeconds(seconds(gmt(2026, 7, 1)));
+    controller_->updateStaticMoonInfo();
+    EXPECT_EQ(field("illumination_")->text().indexOf(u','), 2)
+        << field("illumination_")->text().toStdString();
+
+    controller_->timeZoneOther(nullptr);
+    const auto* dialog = controller_->window()->findChild<QDialog*>();
+    EXPECT_EQ(dialog->findChild<QLabel*>(QStringLiteral("smallMessage_"))->text(),
+              u"For Example: -5; +1,5; 12; 0");
+    dialog->findChild<QLineEdit*>()->setText(QStringLiteral("\u22123,5 hours"));
+    dialog->findChild<QPushButton*>(QStringLiteral("okButton_"))->click();
+    EXPECT_EQ(defaults()->floatForKey(QStringLiteral("LVTimeZoneCustomGMTOffset")), -3.5F);
+    EXPECT_EQ(defaults()->stringForKey(QStringLiteral("LVTimeZoneGMTOffsetTitle")), u"GMT -3.5");
+    EXPECT_EQ(zones->currentText(), u"GMT -3,5");
+
+    const auto* latitude = controller_->window()->findChild<QLineEdit*>(QStringLiteral("latitude_"));
+    controller_->latitudeAndLongitudeFromSystemSettings(nullptr);
+    const QString shown = latitude->text();
+    EXPECT_EQ(shown.left(6), u"40,714");
+    EXPECT_EQ(latitude->cursorPosition(), 0);
+    load();
+    EXPECT_EQ(controller_->window()->findChild<QLineEdit*>(QStringLiteral("latitude_"))->text(), shown);
+    QLocale::setDefault(QLocale::system());
 }
 
 namespace {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/appkit/NSNib.h"
 
+#include "platform/appkit/FieldNote.h"
 #include "platform/foundation/NSUserDefaults.h"
 #include "tests/TestMain.h"
 
@@ -226,7 +227,8 @@ TEST_F(NSNibTest, ABoundControlFollowsAndStoresItsPreference) {
     EXPECT_EQ(owner_.seen, QList<float>{0}) << "the action sees what was stored";
 }
 
-TEST_F(NSNibTest, ABoundTextFieldStoresNumbersOnly) {
+TEST_F(NSNibTest, ABoundTextFieldTakesNumbersWithinTheRangeOnly) {
+    defaults()->registerRange(QStringLiteral("NibFloat"), {-90.0F, 90.0F});
     ASSERT_TRUE(load(control("QLineEdit", "field", "pushed", "NibFloat"))) << error_.toStdString();
     auto* field = get<QLineEdit>("field");
     const auto type = [field](const char* text) {
@@ -235,23 +237,40 @@ TEST_F(NSNibTest, ABoundTextFieldStoresNumbersOnly) {
         for (const char* letter = text; *letter; ++letter)
             press(field, 0, QString(QLatin1Char(*letter)));
         press(field, Qt::Key_Return);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     };
     EXPECT_EQ(field->text(), u"1.5");
     type(" -33.25 ");
     EXPECT_EQ(owner_.seen, QList<float>{-33.25F});
     EXPECT_EQ(field->text(), u"-33.25");
-    for (const char* noNumber : {"north", "", "1,234", "nan", "1e99"}) {
-        type(noNumber);
-        EXPECT_EQ(field->text(), u"-33.25") << noNumber;
+    const QString noNumber = QStringLiteral("This is not a number. Example: 12.5");
+    for (const auto& [typed, reason] :
+         {std::pair{"north", noNumber}, std::pair{"", noNumber}, std::pair{"1,234", noNumber},
+          std::pair{"nan", noNumber}, std::pair{"1e99", noNumber},
+          std::pair{"90.5", QStringLiteral("90.5 is not between -90 and 90.")},
+          std::pair{"-1000", QStringLiteral("-1000 is not between -90 and 90.")}}) {
+        type(typed);
+        EXPECT_EQ(field->text(), u"-33.25") << typed;
+        EXPECT_EQ(field->accessibleDescription(), reason) << typed;
+        const auto notes = root_->findChildren<FieldNote*>();
+        ASSERT_EQ(notes.size(), 1) << typed;
+        EXPECT_EQ(notes.front()->text(), reason);
     }
     EXPECT_EQ(owner_.seen.size(), 1);
-    defaults()->setFloat(5.4F, QStringLiteral("NibFloat"));
-    EXPECT_EQ(field->text(), u"5.4");
+    type("90");
+    EXPECT_EQ(owner_.seen.size(), 2);
+    EXPECT_TRUE(root_->findChildren<FieldNote*>().isEmpty()) << "it goes with the next edit";
+    EXPECT_TRUE(field->accessibleDescription().isEmpty());
 
     QLocale::setDefault(QLocale(QLocale::German));
-    type("48,5");
+    type("48,123455");
+    EXPECT_EQ(field->text(), u"48,123455");
+    EXPECT_EQ(field->cursorPosition(), 0);
+    EXPECT_EQ(defaults()->floatForKey(QStringLiteral("NibFloat")), 48.123455F);
+    defaults()->setFloat(5.4F, QStringLiteral("NibFloat"));
+    EXPECT_EQ(field->text(), u"5,4");
     QLocale::setDefault(QLocale::system());
-    EXPECT_EQ(defaults()->floatForKey(QStringLiteral("NibFloat")), 48.5F);
+    defaults()->registerRange(QStringLiteral("NibFloat"), {});
 }
 
 TEST_F(NSNibTest, RegisteredClassesAreMadeAndBoundByTheirDoubleValue) {

@@ -94,11 +94,12 @@ TEST_F(NSUserDefaultsTest, RegisteredValuesAnswerAndAreNeverWritten) {
     EXPECT_FALSE(read().contains("Number") || read().contains("Text") || read().contains("Flag"));
 }
 
-TEST_F(NSUserDefaultsTest, AValueOfAnotherKindIsLoggedOnceAndTheDefaultServes) {
-    for (const char* wrong : {"north", "nan", "1e99", "\"1, 2\"", ""}) {
+TEST_F(NSUserDefaultsTest, AValueOfAnotherKindOrRangeIsLoggedOnceAndTheDefaultServes) {
+    for (const char* wrong : {"north", "nan", "1e99", "\"1, 2\"", "", "90.5", "-91"}) {
         write(QByteArray("[General]\nNumber=") + wrong + "\nFlag=maybe\nWhole=1.5\n");
         const CaughtLog log;
         const auto defaults = open();
+        defaults->registerRange(kNumber, {-90.0F, 90.0F});
         for (int i = 0; i < 2; ++i) {
             EXPECT_EQ(defaults->floatForKey(kNumber), 2.5F) << wrong;
             EXPECT_TRUE(defaults->boolForKey(QStringLiteral("Flag")));

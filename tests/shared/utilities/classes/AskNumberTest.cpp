@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "shared/utilities/classes/AskNumber.h"
 
-#include "shared/utilities/classes/ExtraStringUtilities.h"
 #include "tests/TestMain.h"
 
 #include <QApplication>
@@ -13,8 +12,6 @@
 #include <QTimer>
 
 #include <gtest/gtest.h>
-
-#include <limits>
 
 namespace {
 
@@ -64,22 +61,6 @@ TEST_F(AskNumberTest, AcceptsWhatIsLeftWithoutOneLeadingPlus) {
     EXPECT_EQ(accepted("+2"), Answer(QStringLiteral("2")));
     EXPECT_EQ(accepted("++2"), Answer(QStringLiteral("+2")));
     EXPECT_EQ(accepted(" +abc"), Answer(QStringLiteral(" +abc")));
-}
-
-TEST_F(AskNumberTest, TheLeadingNumberCounts) {
-    const auto value = [](const char* text) { return ExtraStringUtilities::floatValue(QLatin1String(text)); };
-    EXPECT_EQ(value("  7x"), 7.0F);
-    EXPECT_EQ(value("\t-3.5 hours"), -3.5F);
-    EXPECT_EQ(value("+2."), 2.0F);
-    EXPECT_EQ(value(".5.5"), 0.5F);
-    EXPECT_EQ(value("25e-1"), 2.5F);
-    EXPECT_EQ(value("5e"), 5.0F);
-    EXPECT_EQ(value("5,5"), 5.0F);
-    for (const char* none : {"", "abc", ".", "-", "--1", "- 1", "e5", "nan", "inf"})
-        EXPECT_EQ(value(none), 0.0F) << none;
-    EXPECT_EQ(value("0x10"), 0.0F);
-    EXPECT_EQ(value("-1e999"), -std::numeric_limits<float>::max());
-    EXPECT_EQ(value("1e-999"), 0.0F);
 }
 
 TEST_F(AskNumberTest, ASheetAnswersAfterTheCallAndEndsItself) {
