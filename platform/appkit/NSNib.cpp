@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/appkit/NSNib.h"
 
+#include "platform/appkit/Mnemonics.h"
+#include "platform/appkit/WheelFocus.h"
 #include "platform/foundation/NSBundle.h"
 #include "platform/foundation/NSUserDefaults.h"
 
@@ -303,6 +305,13 @@ QString tie(QObject* control, QObject* owner) {
     return controlTie->watch() ? QString() : QStringLiteral("%1 reports no changes.").arg(name);
 }
 
+/// Assistive programs say a button's text, and of "(&M)" Qt takes but the mark away.
+void nameButton(QObject* object) {
+    auto* button = qobject_cast<QAbstractButton*>(object);
+    if (button && button->accessibleName().isEmpty() && button->text().contains(u"(&"))
+        button->setAccessibleName(withoutMnemonic(button->text()));
+}
+
 } // namespace
 
 void NSNib::registerClass(const QString& className, Factory factory) {
@@ -334,6 +343,8 @@ std::unique_ptr<QWidget> NSNib::load(const QString& name, QObject* owner, QStrin
     for (QObject* object : std::as_const(objects)) {
         if (const QString reason = tie(object, owner); !reason.isEmpty())
             reasons.append(reason);
+        actOnWheelOnlyWithFocus(object);
+        nameButton(object);
     }
     if (reasons.isEmpty())
         return root;

@@ -24,6 +24,8 @@
 ///   point or the locale's decimal sign; anything else brings the old number back. A slider: its value, or
 ///   its property `doubleValue` where its class declares one with a change signal.
 /// - `tag` (integer): for the slot to read with `tag`.
+/// Texts mark the letter to press with Alt by '&'; a button is spoken without it. The mouse wheel changes a
+/// control only while that has the focus.
 class NSNib {
 public:
     /// Makes widgets of a class that layouts name and Qt does not know.

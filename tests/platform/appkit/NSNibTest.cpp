@@ -9,12 +9,17 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDateTimeEdit>
+#include <QDoubleSpinBox>
 #include <QFile>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMetaProperty>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSlider>
 #include <QTemporaryDir>
+#include <QWheelEvent>
 
 #include <gtest/gtest.h>
 
@@ -263,6 +268,54 @@ TEST_F(NSNibTest, RegisteredClassesAreMadeAndBoundByTheirDoubleValue) {
     EXPECT_TRUE(owner_.senders.isEmpty());
     dial->setDoubleValue(0.25);
     EXPECT_EQ(owner_.seen, QList<float>{0.25F});
+}
+
+TEST_F(NSNibTest, TheWheelChangesOnlyTheControlThatHasTheFocus) {
+    ASSERT_TRUE(load(control("QComboBox", "box", nullptr) + control("QSlider", "slider", nullptr) +
+                     control("QDoubleSpinBox", "number", nullptr) +
+                     control("QDateTimeEdit", "date", nullptr) +
+                     control("QPushButton", "elsewhere", nullptr)))
+        << error_.toStdString();
+    get<QComboBox>("box")->addItems({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")});
+    get<QSlider>("slider")->setValue(50);
+    get<QDoubleSpinBox>("number")->setValue(50);
+    QScrollArea area;
+    root_->resize(100, 5000);
+    area.setWidget(root_.release());
+    area.show();
+    area.activateWindow();
+    QApplication::processEvents();
+    ASSERT_GT(area.verticalScrollBar()->maximum(), 1000);
+    // A notched wheel, and a touchpad's gesture.
+    struct Turn {
+        QPoint pixels;
+        QPoint angle;
+        Qt::ScrollPhase phase;
+    };
+    const QList<QList<Turn>> gestures{{{{}, {0, -120}, Qt::NoScrollPhase}},
+                                      {{{0, -20}, {0, -60}, Qt::ScrollBegin},
+                                       {{0, -20}, {0, -60}, Qt::ScrollUpdate},
+                                       {{}, {}, Qt::ScrollEnd}}};
+    for (const char* name : {"box", "slider", "number", "date"}) {
+        auto* control = area.findChild<QWidget*>(QLatin1String(name));
+        const auto value = [control] { return control->metaObject()->userProperty().read(control); };
+        for (const QList<Turn>& gesture : gestures) {
+            for (const bool focused : {false, true}) {
+                (focused ? control : area.findChild<QWidget*>(QStringLiteral("elsewhere")))->setFocus();
+                ASSERT_EQ(control->hasFocus(), focused) << name;
+                const QVariant before = value();
+                area.verticalScrollBar()->setValue(100);
+                for (const Turn& turn : gesture) {
+                    QWheelEvent event({1, 1}, {1, 1}, turn.pixels, turn.angle, Qt::NoButton, Qt::NoModifier,
+                                      turn.phase, false);
+                    QApplication::sendEvent(control, &event);
+                }
+                EXPECT_EQ(value() != before, focused) << name;
+                EXPECT_EQ(area.verticalScrollBar()->value() > 100, !focused) << name;
+            }
+        }
+        EXPECT_EQ(control->focusPolicy(), Qt::StrongFocus) << name;
+    }
 }
 
 #include "NSNibTest.moc"
