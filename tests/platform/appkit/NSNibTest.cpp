@@ -15,8 +15,6 @@
 #include <QLineEdit>
 #include <QMetaProperty>
 #include <QPushButton>
-#include <QScrollArea>
-#include <QScrollBar>
 #include <QSlider>
 #include <QTemporaryDir>
 #include <QWheelEvent>
@@ -279,42 +277,33 @@ TEST_F(NSNibTest, TheWheelChangesOnlyTheControlThatHasTheFocus) {
     get<QComboBox>("box")->addItems({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")});
     get<QSlider>("slider")->setValue(50);
     get<QDoubleSpinBox>("number")->setValue(50);
-    QScrollArea area;
-    root_->resize(100, 5000);
-    area.setWidget(root_.release());
-    area.show();
-    area.activateWindow();
+    get<QDateTimeEdit>("date")->setDateTime(gmt(2026, 7, 15));
+    root_->show();
+    root_->activateWindow();
     QApplication::processEvents();
-    ASSERT_GT(area.verticalScrollBar()->maximum(), 1000);
     // A notched wheel, and a touchpad's gesture.
-    struct Turn {
-        QPoint pixels;
-        QPoint angle;
-        Qt::ScrollPhase phase;
-    };
-    const QList<QList<Turn>> gestures{{{{}, {0, -120}, Qt::NoScrollPhase}},
-                                      {{{0, -20}, {0, -60}, Qt::ScrollBegin},
-                                       {{0, -20}, {0, -60}, Qt::ScrollUpdate},
-                                       {{}, {}, Qt::ScrollEnd}}};
+    using Turn = std::pair<QPoint, Qt::ScrollPhase>;
+    const QList<QList<Turn>> gestures{{{{0, -120}, Qt::NoScrollPhase}},
+                                      {{{0, -60}, Qt::ScrollBegin}, {{0, -60}, Qt::ScrollUpdate}}};
     for (const char* name : {"box", "slider", "number", "date"}) {
-        auto* control = area.findChild<QWidget*>(QLatin1String(name));
-        const auto value = [control] { return control->metaObject()->userProperty().read(control); };
+        SCOPED_TRACE(name);
+        auto* controlled = get<QWidget>(name);
+        const auto value = [&] { return controlled->metaObject()->userProperty().read(controlled); };
         for (const QList<Turn>& gesture : gestures) {
             for (const bool focused : {false, true}) {
-                (focused ? control : area.findChild<QWidget*>(QStringLiteral("elsewhere")))->setFocus();
-                ASSERT_EQ(control->hasFocus(), focused) << name;
+                get<QWidget>(focused ? name : "elsewhere")->setFocus();
+                ASSERT_EQ(controlled->hasFocus(), focused);
                 const QVariant before = value();
-                area.verticalScrollBar()->setValue(100);
-                for (const Turn& turn : gesture) {
-                    QWheelEvent event({1, 1}, {1, 1}, turn.pixels, turn.angle, Qt::NoButton, Qt::NoModifier,
-                                      turn.phase, false);
-                    QApplication::sendEvent(control, &event);
+                for (const auto& [angle, phase] : gesture) {
+                    QWheelEvent event({1, 1}, {1, 1}, angle / 3, angle, Qt::NoButton, Qt::NoModifier, phase,
+                                      false);
+                    QApplication::sendEvent(controlled, &event);
+                    EXPECT_EQ(event.isAccepted(), focused) << "else what lies around gets it";
                 }
-                EXPECT_EQ(value() != before, focused) << name;
-                EXPECT_EQ(area.verticalScrollBar()->value() > 100, !focused) << name;
+                EXPECT_EQ(value() != before, focused);
             }
         }
-        EXPECT_EQ(control->focusPolicy(), Qt::StrongFocus) << name;
+        EXPECT_EQ(controlled->focusPolicy(), Qt::StrongFocus);
     }
 }
 
