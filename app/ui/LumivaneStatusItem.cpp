@@ -185,7 +185,7 @@ void LumivaneStatusItem::loadController(std::uint32_t styleMask) {
         keepUnderIcon(lumivaneWindow_->window());
 
     menu_->clear();
-    menu_->addAction(NSBundle::mainBundle().localizedString(QT_TRANSLATE_NOOP("Lumivane", "Show Lumivane")),
+    menu_->addAction(NSBundle::mainBundle().localizedString(QT_TRANSLATE_NOOP("Lumivane", "&Show Lumivane")),
                      this, &LumivaneStatusItem::showPanel);
     menu_->addSeparator();
     menu_->addActions(lumivaneWindow_->gearMenu()->actions());

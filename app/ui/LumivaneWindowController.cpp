@@ -25,12 +25,14 @@
 
 #include <QComboBox>
 #include <QCoreApplication>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QShortcut>
 
 #include <algorithm>
 #include <cstdlib>
@@ -181,6 +183,7 @@ void LumivaneWindowController::awakeFromNib() {
     hideButton_->setIcon(ControlIcon::icon(ControlIcon::Symbol::Hide));
     title_->setVisible(!isWindoid()); // a windoid has it in its title bar
     makeMenus();
+    giveKeys();
     prepareTimeZonePopup();
     connect(NSUserDefaults::standardUserDefaults(), &NSUserDefaults::valueChanged, this,
             &LumivaneWindowController::defaultsChanged);
@@ -223,6 +226,49 @@ void LumivaneWindowController::makeMenus() {
         command->setShortcutContext(Qt::WindowShortcut);
 }
 
+void LumivaneWindowController::giveKeys() {
+    const bool mirrored = window_->isRightToLeft();
+    const std::pair<const char*, QKeySequence> keys[]{
+        {"gearButton_", Qt::Key_F10},
+        {"hideButton_", Qt::CTRL | Qt::Key_W},
+        {"showNew_", Qt::ALT | Qt::Key_1},
+        {"showQ1_", Qt::ALT | Qt::Key_2},
+        {"showFull_", Qt::ALT | Qt::Key_3},
+        {"showQ3_", Qt::ALT | Qt::Key_4},
+        {"nowButton_", Qt::CTRL | Qt::Key_T},
+        {"hourBack_", Qt::ALT | (mirrored ? Qt::Key_Right : Qt::Key_Left)},
+        {"hourOn_", Qt::ALT | (mirrored ? Qt::Key_Left : Qt::Key_Right)},
+        {"dayBack_", Qt::ALT | Qt::Key_PageUp},
+        {"dayOn_", Qt::ALT | Qt::Key_PageDown},
+        {"lunationBack_", Qt::ALT | Qt::SHIFT | Qt::Key_PageUp},
+        {"lunationOn_", Qt::ALT | Qt::SHIFT | Qt::Key_PageDown},
+    };
+    for (const auto& [name, key] : keys) {
+        auto* button = window_->findChild<QAbstractButton*>(QLatin1String(name));
+        if (!button)
+            continue;
+        connect(new QShortcut(key, window_.get()), &QShortcut::activated, button, &QAbstractButton::click);
+        const QString shown = key.toString(QKeySequence::NativeText);
+        button->setToolTip(QStringLiteral("%1 (%2)").arg(button->toolTip(), shown));
+        button->setAccessibleDescription(shown); // not the tool tip, which begins with the name
+    }
+    for (QWidget* field : std::initializer_list<QWidget*>{latitude_, longitude_, datePicker_})
+        field->installEventFilter(this);
+}
+
+bool LumivaneWindowController::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::ShortcutOverride ||
+        !static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy))
+        return QObject::eventFilter(watched, event);
+    const auto* field = qobject_cast<QLineEdit*>(watched);
+    if (!field)
+        field = watched->findChild<QLineEdit*>(); // the date picker's
+    if (field && field->hasSelectedText())
+        return QObject::eventFilter(watched, event);
+    event->ignore(); // the field would take the key and copy nothing
+    return true;
+}
+
 void LumivaneWindowController::prepareTriangles() {
     window_->setContent(scrollArea_, contentView_);
     const auto triangles = contentView_->findChildren<DisclosureTriangleWithResize*>();
@@ -236,6 +282,12 @@ bool LumivaneWindowController::isWindoid() const {
 
 void LumivaneWindowController::setStatusItem(LumivaneStatusItem* statusItem) {
     statusItem_ = statusItem;
+    if (isWindoid()) {
+        const QString back =
+            NSBundle::mainBundle().localizedString(QT_TRANSLATE_NOOP("Lumivane", "Back to the tray icon"));
+        windoidButton_->setToolTip(back);
+        windoidButton_->setAccessibleName(back);
+    }
     updateForTray();
     connect(statusItem, &LumivaneStatusItem::trayKnown, this, &LumivaneWindowController::updateForTray);
     connect(window_.get(), &LumivaneWindow::windowWillClose, statusItem,

@@ -73,6 +73,9 @@ public:
     /// times `withMultiplier`.
     static std::uint32_t applyDatePickerOffset(std::uint32_t seconds, int withMultiplier);
 
+    /// Lets the key for copying copy the information where a text field has nothing selected.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
     /// Brings a command's check mark and title up to date. Every command may be used.
     bool validateMenuItem(QAction* item);
 
@@ -110,6 +113,7 @@ private:
     void connectOutlets();
     void awakeFromNib();
     void makeMenus();
+    void giveKeys();
     void prepareTimeZonePopup();
     void prepareTriangles();
     void defaultsChanged(const QString& key);

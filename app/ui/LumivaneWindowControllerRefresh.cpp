@@ -7,6 +7,7 @@
 #include "app/ui/LumivaneStatusItem.h"
 #include "app/ui/LumivaneWindow.h"
 #include "app/ui/LumivaneWindowController.h"
+#include "platform/appkit/NSDatePicker.h"
 #include "platform/appkit/NSSlider.h"
 #include "platform/foundation/NSDate.h"
 #include "platform/foundation/NSNumberFormatter.h"
@@ -93,6 +94,10 @@ void LumivaneWindowController::updateStaticMoonInfo() {
                           information(12, CMoonHelper::stringForMoonName(gMoon.GetAlmanacIndex(t))));
     updateQuarterTimes(t);
     updateRiseSetLines(t);
+    // A screen reader says this as the slider moves.
+    const QDateTime date = datePicker_->dateValue();
+    lunationSlider_->setAccessibleDescription(ExtraDateUtilities::dateStringWithFormat(date, 2) + u' ' +
+                                              ExtraDateUtilities::timeStringWithSeconds(date, false));
 }
 
 void LumivaneWindowController::updateQuarterTimes(std::uint32_t t) {

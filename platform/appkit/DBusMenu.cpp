@@ -28,6 +28,23 @@ QString withUnderscores(const QString& text) {
     return label;
 }
 
+/// The keys of a shortcut as the bus has them: for each press its modifiers and then the key, by GTK's names.
+QList<QStringList> keysOf(const QKeySequence& shortcut) {
+    QList<QStringList> presses;
+    for (int i = 0; i < shortcut.count(); ++i) {
+        QStringList press;
+        for (const auto& [modifier, name] :
+             {std::pair{Qt::ControlModifier, "Control"}, std::pair{Qt::AltModifier, "Alt"},
+              std::pair{Qt::ShiftModifier, "Shift"}, std::pair{Qt::MetaModifier, "Super"}}) {
+            if (shortcut[i].keyboardModifiers().testFlag(modifier))
+                press.append(QLatin1String(name));
+        }
+        press.append(QKeySequence(shortcut[i].key()).toString(QKeySequence::PortableText).toLower());
+        presses.append(press);
+    }
+    return presses;
+}
+
 QVariantMap allProperties(const QAction& action) {
     if (action.isSeparator())
         return {{QStringLiteral("type"), QStringLiteral("separator")},
@@ -41,19 +58,18 @@ QVariantMap allProperties(const QAction& action) {
                           radio ? QStringLiteral("radio") : QStringLiteral("checkmark"));
         properties.insert(QStringLiteral("toggle-state"), action.isChecked() ? 1 : 0);
     }
+    if (!action.shortcut().isEmpty() && action.isShortcutVisibleInContextMenu())
+        properties.insert(QStringLiteral("shortcut"), QVariant::fromValue(keysOf(action.shortcut())));
     if (action.menu())
         properties.insert(QStringLiteral("children-display"), QStringLiteral("submenu"));
     return properties;
 }
 
 const QStringList& propertyNames() {
-    static const QStringList names{QStringLiteral("type"),
-                                   QStringLiteral("label"),
-                                   QStringLiteral("enabled"),
-                                   QStringLiteral("visible"),
-                                   QStringLiteral("toggle-type"),
-                                   QStringLiteral("toggle-state"),
-                                   QStringLiteral("children-display")};
+    static const QStringList names{QStringLiteral("type"),        QStringLiteral("label"),
+                                   QStringLiteral("enabled"),     QStringLiteral("visible"),
+                                   QStringLiteral("toggle-type"), QStringLiteral("toggle-state"),
+                                   QStringLiteral("shortcut"),    QStringLiteral("children-display")};
     return names;
 }
 
@@ -134,6 +150,7 @@ DBusMenu::DBusMenu(QObject* parent) : QObject(parent) {
     qDBusRegisterMetaType<QList<DBusMenuItemKeys>>();
     qDBusRegisterMetaType<DBusMenuEvent>();
     qDBusRegisterMetaType<QList<DBusMenuEvent>>();
+    qDBusRegisterMetaType<QList<QStringList>>();
 }
 
 DBusMenu::~DBusMenu() = default;

@@ -2,6 +2,8 @@
 #include "platform/appkit/NSNib.h"
 
 #include "platform/appkit/FieldNote.h"
+#include "platform/appkit/Mnemonics.h"
+#include "platform/appkit/WheelFocus.h"
 #include "platform/foundation/NSBundle.h"
 #include "platform/foundation/NSNumberFormatter.h"
 #include "platform/foundation/NSUserDefaults.h"
@@ -306,6 +308,13 @@ QString tie(QObject* control, QObject* owner) {
     return controlTie->watch() ? QString() : QStringLiteral("%1 reports no changes.").arg(name);
 }
 
+/// Assistive programs say a button's text, and of "(&M)" Qt takes but the mark away.
+void nameButton(QObject* object) {
+    auto* button = qobject_cast<QAbstractButton*>(object);
+    if (button && button->accessibleName().isEmpty() && button->text().contains(u"(&"))
+        button->setAccessibleName(withoutMnemonic(button->text()));
+}
+
 } // namespace
 
 void NSNib::registerClass(const QString& className, Factory factory) {
@@ -337,6 +346,8 @@ std::unique_ptr<QWidget> NSNib::load(const QString& name, QObject* owner, QStrin
     for (QObject* object : std::as_const(objects)) {
         if (const QString reason = tie(object, owner); !reason.isEmpty())
             reasons.append(reason);
+        actOnWheelOnlyWithFocus(object);
+        nameButton(object);
     }
     if (reasons.isEmpty())
         return root;

@@ -25,6 +25,8 @@
 ///   comes back, with a note that says why, and no action is sent. A slider: its value, or
 ///   its property `doubleValue` where its class declares one with a change signal.
 /// - `tag` (integer): for the slot to read with `tag`.
+/// Texts mark the letter to press with Alt by '&'; a button is spoken without it. The mouse wheel changes a
+/// control only while that has the focus.
 class NSNib {
 public:
     /// Makes widgets of a class that layouts name and Qt does not know.

@@ -1,16 +1,60 @@
 // SPDX-License-Identifier: MIT
 #include "platform/appkit/NSSlider.h"
 
+#include <QAccessibleWidget>
+#include <QLocale>
 #include <QSignalBlocker>
 
 #include <algorithm>
 #include <cmath>
 
 namespace {
+
 constexpr int kSteps = 10000;
+constexpr double kStepsInPercent = kSteps / 100.0;
+
+/// Tells where the knob is in percent; the steps mean nothing to anybody.
+class AccessibleSlider : public QAccessibleWidget, public QAccessibleValueInterface {
+public:
+    explicit AccessibleSlider(NSSlider* slider)
+        : QAccessibleWidget(slider, QAccessible::Slider), slider_(slider) {}
+
+    void* interface_cast(QAccessible::InterfaceType type) override {
+        return type == QAccessible::ValueInterface ? static_cast<QAccessibleValueInterface*>(this)
+                                                   : QAccessibleWidget::interface_cast(type);
+    }
+
+    QString text(QAccessible::Text kind) const override {
+        const bool meaning = kind == QAccessible::Value || kind == QAccessible::Description;
+        if (!meaning)
+            return QAccessibleWidget::text(kind);
+        const QString described = slider_->accessibleDescription();
+        const QLocale locale;
+        return described.isEmpty() ? locale.toString(qRound(currentValue().toDouble())) + locale.percent()
+                                   : described;
+    }
+
+    QVariant currentValue() const override { return slider_->value() / kStepsInPercent; }
+    void setCurrentValue(const QVariant& percent) override {
+        slider_->setValue(qRound(percent.toDouble() * kStepsInPercent));
+    }
+    QVariant minimumValue() const override { return 0.0; }
+    QVariant maximumValue() const override { return 100.0; }
+    QVariant minimumStepSize() const override { return slider_->singleStep() / kStepsInPercent; }
+
+private:
+    NSSlider* const slider_;
+};
+
+QAccessibleInterface* accessibleFor(const QString& className, QObject* object) {
+    auto* slider = className == u"NSSlider" ? qobject_cast<NSSlider*>(object) : nullptr;
+    return slider ? new AccessibleSlider(slider) : nullptr;
 }
 
+} // namespace
+
 NSSlider::NSSlider(QWidget* parent) : QSlider(Qt::Horizontal, parent) {
+    QAccessible::installFactory(accessibleFor);
     setRange(0, kSteps);
     setSingleStep(kSteps / 200);
     setPageStep(kSteps / 20);

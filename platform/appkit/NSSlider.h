@@ -4,7 +4,8 @@
 #include <QSlider>
 
 /// Stands for a slider with a value in double precision. Backed by QSlider, whose whole steps only place the
-/// knob: a value that was set comes back exactly, until the user moves the knob.
+/// knob: a value that was set comes back exactly, until the user moves the knob. Assistive programs hear the
+/// knob's place in percent, and what the value means where an `accessibleDescription` tells that.
 class NSSlider : public QSlider {
     Q_OBJECT
     Q_PROPERTY(double minValue READ minValue WRITE setMinValue)

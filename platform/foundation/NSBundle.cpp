@@ -28,15 +28,17 @@ public:
     }
 };
 
-/// The texts of the first language that there are any for; none where English, the sources' own, comes first.
+/// The texts of the first language that there are any for; English where that comes first or none is known.
 std::unique_ptr<QTranslator> translatorFor(const QStringList& languages, const QString& folder) {
     auto translator = std::make_unique<TextTranslator>();
     for (const QString& language : languages) {
-        const bool english = language == u"C" || language == u"en" || language.startsWith(u"en-");
-        if (english ||
-            translator->load(QLocale(language), QStringLiteral("lumivane"), QStringLiteral("_"), folder))
+        if (language == u"C" || language == u"en" || language.startsWith(u"en-"))
             break;
+        if (translator->load(QLocale(language), QStringLiteral("lumivane"), QStringLiteral("_"), folder))
+            return translator;
     }
+    // The sources' texts are English, but not all of them are what is to be read here.
+    (void)translator->load(QStringLiteral("lumivane_en"), folder);
     return translator;
 }
 

@@ -39,7 +39,9 @@ public:
     /// The reverse-DNS name that running copies and desktop entries are known by.
     QString bundleIdentifier() const;
 
-    /// The user's language for `key`, an English text; `key` itself where there is no translation.
+    /// The user's language for `key`, an English text; `key` itself where there is no translation. English
+    /// has its own, `lumivane_en`, for keys whose words would not be true or not be complete (a letter to
+    /// underline) on this system.
     QString localizedString(const char* key) const;
 
     /// Makes every text follow `languages` ("de", "pt-BR"), best first, by default the user's: those looked

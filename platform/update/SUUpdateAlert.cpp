@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/update/SUUpdateAlert.h"
 
+#include "platform/appkit/Mnemonics.h"
 #include "platform/foundation/NSBundle.h"
 
 #include <QApplication>
@@ -106,11 +107,11 @@ SUUpdateAlert* SUUpdateAlert::updateAvailable(const SUAppcastItem& item, const Q
             .arg(programName(), item.version, currentVersion));
     if (!item.notes.isEmpty())
         alert->addNotes(item.title, item.notes);
-    auto* later = alert->buttons_->addButton(localized(QT_TRANSLATE_NOOP("Lumivane", "Remind Me Later")),
+    auto* later = alert->buttons_->addButton(localized(QT_TRANSLATE_NOOP("Lumivane", "&Remind Me Later")),
                                              QDialogButtonBox::RejectRole);
     later->setObjectName(QStringLiteral("remindLater"));
     // Of all roles this one stands apart from the two answers that do no harm.
-    auto* skip = alert->buttons_->addButton(localized(QT_TRANSLATE_NOOP("Lumivane", "Skip This Version")),
+    auto* skip = alert->buttons_->addButton(localized(QT_TRANSLATE_NOOP("Lumivane", "&Skip This Version")),
                                             QDialogButtonBox::ResetRole);
     skip->setObjectName(QStringLiteral("skip"));
     connect(skip, &QPushButton::clicked, alert, [alert] { alert->done(Skip); });
@@ -118,7 +119,7 @@ SUUpdateAlert* SUUpdateAlert::updateAvailable(const SUAppcastItem& item, const Q
         later->setDefault(true);
         return alert;
     }
-    auto* learn = alert->buttons_->addButton(localized(QT_TRANSLATE_NOOP("Lumivane", "Learn More...")),
+    auto* learn = alert->buttons_->addButton(localized(QT_TRANSLATE_NOOP("Lumivane", "&Learn More...")),
                                              QDialogButtonBox::AcceptRole);
     learn->setObjectName(QStringLiteral("learnMore"));
     learn->setToolTip(item.page.toDisplayString());
@@ -155,15 +156,15 @@ SUUpdateAlert* SUUpdateAlert::failure(const QString& sentence) {
 }
 
 void SUUpdateAlert::addNotes(const QString& title, const QString& notes) {
-    const QString shown =
-        title.isEmpty() ? localized(QT_TRANSLATE_NOOP("Lumivane", "Release Notes:")) : title;
+    const QString shown = title.isEmpty() ? localized(QT_TRANSLATE_NOOP("Lumivane", "Release &Notes:"))
+                                          : QString(title).replace(u'&', QStringLiteral("&&"));
     texts_->addSpacing(8);
     QLabel* label = addLabel(texts_, shown, "title");
     auto* box = new QPlainTextEdit(notes);
     box->setObjectName(QStringLiteral("notes"));
     box->setReadOnly(true);
     box->setTabChangesFocus(true);
-    box->setAccessibleName(shown);
+    box->setAccessibleName(withoutMnemonic(shown));
     box->setMinimumHeight(kLeastNotesHeight);
     label->setBuddy(box);
     texts_->addWidget(box, 1);

@@ -4,16 +4,16 @@
 <context>
     <name>Lumivane</name>
     <message>
-        <source>Number:</source>
-        <translation>الرقم:</translation>
+        <source>&amp;Number:</source>
+        <translation>الر&amp;قم:</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation>حسنًا</translation>
+        <translation>&amp;حسنًا</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation>إلغاء</translation>
+        <translation>إ&amp;لغاء</translation>
     </message>
     <message>
         <source>Lumivane</source>
@@ -32,12 +32,12 @@
         <translation>إخفاء</translation>
     </message>
     <message>
-        <source>Moon</source>
-        <translation>القمر</translation>
+        <source>&amp;Moon</source>
+        <translation>&amp;القمر</translation>
     </message>
     <message>
-        <source>Information</source>
-        <translation>معلومات</translation>
+        <source>&amp;Information</source>
+        <translation>معلوما&amp;ت</translation>
     </message>
     <message>
         <source>New moon</source>
@@ -56,20 +56,20 @@
         <translation>التربيع الأخير</translation>
     </message>
     <message>
-        <source>Rise and Set</source>
-        <translation>الشروق والغروب</translation>
+        <source>&amp;Rise and Set</source>
+        <translation>الشر&amp;وق والغروب</translation>
     </message>
     <message>
-        <source>Calculation</source>
-        <translation>الحساب</translation>
+        <source>&amp;Calculation</source>
+        <translation>الحسا&amp;ب</translation>
     </message>
     <message>
         <source>Date and time</source>
         <translation>التاريخ والوقت</translation>
     </message>
     <message>
-        <source>Now</source>
-        <translation>الآن</translation>
+        <source>&amp;Now</source>
+        <translation>الآ&amp;ن</translation>
     </message>
     <message>
         <source>Back to the present</source>
@@ -128,12 +128,12 @@
         <translation>بدر الدورة القمرية التالية</translation>
     </message>
     <message>
-        <source>Settings</source>
-        <translation>الإعدادات</translation>
+        <source>&amp;Settings</source>
+        <translation>الإعدا&amp;دات</translation>
     </message>
     <message>
-        <source>Time zone:</source>
-        <translation>المنطقة الزمنية:</translation>
+        <source>&amp;Time zone:</source>
+        <translation>المنطقة الز&amp;منية:</translation>
     </message>
     <message>
         <source>Time zone</source>
@@ -152,68 +152,68 @@
         <translation>أخرى…</translation>
     </message>
     <message>
-        <source>Place:</source>
-        <translation>المكان:</translation>
+        <source>&amp;Place:</source>
+        <translation>المو&amp;قع:</translation>
     </message>
     <message>
-        <source>Set Latitude and Longitude</source>
-        <translation>تعيين خط العرض وخط الطول</translation>
+        <source>S&amp;et Latitude and Longitude</source>
+        <translation>تعيين &amp;خط العرض وخط الطول</translation>
     </message>
     <message>
-        <source>Latitude:</source>
-        <translation>العرض:</translation>
+        <source>&amp;Latitude:</source>
+        <translation>العر&amp;ض:</translation>
     </message>
     <message>
         <source>Latitude in degrees, north positive</source>
         <translation>خط العرض بالدرجات، موجب شمالًا</translation>
     </message>
     <message>
-        <source>Longitude:</source>
-        <translation>الطول:</translation>
+        <source>L&amp;ongitude:</source>
+        <translation>الطو&amp;ل:</translation>
     </message>
     <message>
         <source>Longitude in degrees, east positive</source>
         <translation>خط الطول بالدرجات، موجب شرقًا</translation>
     </message>
     <message>
-        <source>Brightness:</source>
-        <translation>السطوع:</translation>
+        <source>&amp;Brightness:</source>
+        <translation>السطو&amp;ع:</translation>
     </message>
     <message>
         <source>Brightness of the pictures</source>
         <translation>سطوع الصور</translation>
     </message>
     <message>
-        <source>Copy Information to Clipboard</source>
-        <translation>نسخ المعلومات إلى الحافظة</translation>
+        <source>&amp;Copy Information to Clipboard</source>
+        <translation>نسخ المعلوما&amp;ت إلى الحافظة</translation>
     </message>
     <message>
-        <source>Open at Login</source>
-        <translation>الفتح عند تسجيل الدخول</translation>
+        <source>&amp;Open at Login</source>
+        <translation>الفتح &amp;عند تسجيل الدخول</translation>
     </message>
     <message>
-        <source>Check for Update...</source>
-        <translation>التحقق من وجود تحديث…</translation>
+        <source>Check for &amp;Update...</source>
+        <translation>التحقق &amp;من وجود تحديث…</translation>
     </message>
     <message>
-        <source>Lumivane Home Page</source>
-        <translation>صفحة Lumivane على الويب</translation>
+        <source>Lumivane &amp;Home Page</source>
+        <translation>&amp;صفحة Lumivane على الويب</translation>
     </message>
     <message>
-        <source>About Lumivane</source>
-        <translation>حول Lumivane</translation>
+        <source>&amp;About Lumivane</source>
+        <translation>&amp;حول Lumivane</translation>
     </message>
     <message>
-        <source>Quit Lumivane</source>
-        <translation>إنهاء Lumivane</translation>
+        <source>&amp;Quit Lumivane</source>
+        <translation>إ&amp;نهاء Lumivane</translation>
     </message>
     <message>
-        <source>From System Settings</source>
-        <translation>من إعدادات النظام</translation>
+        <source>From &amp;System Settings</source>
+        <translation>&amp;من إعدادات النظام</translation>
     </message>
     <message>
-        <source>Find on the Web...</source>
-        <translation>البحث على الويب…</translation>
+        <source>Find on the &amp;Web...</source>
+        <translation>البحث &amp;على الويب…</translation>
     </message>
     <message>
         <source>Text</source>
@@ -384,6 +384,10 @@
         <translation>فتح Lumivane…</translation>
     </message>
     <message>
+        <source>Copy Information to Clipboard</source>
+        <translation>نسخ المعلومات إلى الحافظة</translation>
+    </message>
+    <message>
         <source>Sun: ^1</source>
         <translation>الشمس: ^1</translation>
     </message>
@@ -433,23 +437,23 @@
     </message>
     <message>
         <source>Lumivane is not inside your Applications folder.</source>
-        <translation>لا يوجد Lumivane داخل مجلد «Applications» الخاص بك.</translation>
+        <translation>Lumivane غير مثبَّت ضمن تطبيقاتك.</translation>
     </message>
     <message>
         <source>We highly recommend you install Lumivane in to your Applications folder.  (This warning will only be shown once for the current install location.)  Please quit Lumivane before moving it, if you do so.</source>
-        <translation>نوصي بشدة بتثبيت Lumivane في مجلد «Applications». (يظهر هذا التحذير مرة واحدة فقط لموقع التثبيت الحالي.) إذا أردت نقل Lumivane فأنهِه أولًا.</translation>
+        <translation>نوصي بشدة بتثبيت Lumivane ليظهر ضمن تطبيقاتك ويُفتح عند تسجيل الدخول من مكان ثابت. (يظهر هذا التحذير مرة واحدة فقط للمكان الحالي.) إذا أردت نقل Lumivane فأنهِه أولًا.</translation>
     </message>
     <message>
-        <source>Show Lumivane</source>
-        <translation>إظهار Lumivane</translation>
+        <source>&amp;Show Lumivane</source>
+        <translation>إ&amp;ظهار Lumivane</translation>
     </message>
     <message>
         <source>It appears that Lumivane.app was moved while it was running!</source>
-        <translation>يبدو أن Lumivane قد نُقل أثناء تشغيله!</translation>
+        <translation>يبدو أن Lumivane قد نُقل أو حُذف أثناء تشغيله!</translation>
     </message>
     <message>
         <source>Mac OS X does not support moving or renaming applications while they are running.  Lumivane needs to quit now before bad things happen.</source>
-        <translation>لا يدعم النظام نقل التطبيقات أو إعادة تسميتها أثناء تشغيلها. يجب إنهاء Lumivane الآن قبل أن يحدث ضرر.</translation>
+        <translation>لم تعد ملفات Lumivane في المكان الذي كانت فيه عند بدء تشغيله. يجب إنهاء Lumivane الآن؛ يرجى تشغيله من جديد من مكانه الحالي.</translation>
     </message>
     <message>
         <source>Quit</source>
@@ -541,7 +545,7 @@
     </message>
     <message>
         <source>GMT Time Zone Offset:</source>
-        <translation>الفارق الزمني عن GMT:</translation>
+        <translation>الفا&amp;رق الزمني عن GMT:</translation>
     </message>
     <message>
         <source>For Example: -5, +1.5, 12, 0</source>
@@ -592,16 +596,16 @@
         <translation>يتوفر الآن ⁦%1 %2⁩ (لديك الإصدار ⁦%3⁩).</translation>
     </message>
     <message>
-        <source>Remind Me Later</source>
-        <translation>ذكّرني لاحقًا</translation>
+        <source>&amp;Remind Me Later</source>
+        <translation>&amp;ذكّرني لاحقًا</translation>
     </message>
     <message>
-        <source>Skip This Version</source>
-        <translation>تخطي هذا الإصدار</translation>
+        <source>&amp;Skip This Version</source>
+        <translation>&amp;تخطي هذا الإصدار</translation>
     </message>
     <message>
-        <source>Learn More...</source>
-        <translation>معرفة المزيد…</translation>
+        <source>&amp;Learn More...</source>
+        <translation>&amp;معرفة المزيد…</translation>
     </message>
     <message>
         <source>You&apos;re up to date!</source>
@@ -620,8 +624,8 @@
         <translation>خطأ في التحديث!</translation>
     </message>
     <message>
-        <source>Release Notes:</source>
-        <translation>ملاحظات الإصدار:</translation>
+        <source>Release &amp;Notes:</source>
+        <translation>ملا&amp;حظات الإصدار:</translation>
     </message>
     <message>
         <source>Checking for updates...</source>
@@ -642,6 +646,10 @@
     <message>
         <source>%1 is not between %2 and %3.</source>
         <translation>⁦%1⁩ ليس بين ⁦%2⁩ و⁦%3⁩.</translation>
+    </message>
+    <message>
+        <source>Back to the tray icon</source>
+        <translation>العودة إلى أيقونة شريط النظام</translation>
     </message>
 </context>
 </TS>

@@ -4,16 +4,16 @@
 <context>
     <name>Lumivane</name>
     <message>
-        <source>Number:</source>
-        <translation>Zahl:</translation>
+        <source>&amp;Number:</source>
+        <translation>&amp;Zahl:</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation>OK</translation>
+        <translation>&amp;OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation>Abbrechen</translation>
+        <translation>&amp;Abbrechen</translation>
     </message>
     <message>
         <source>Lumivane</source>
@@ -32,12 +32,12 @@
         <translation>Ausblenden</translation>
     </message>
     <message>
-        <source>Moon</source>
-        <translation>Mond</translation>
+        <source>&amp;Moon</source>
+        <translation>&amp;Mond</translation>
     </message>
     <message>
-        <source>Information</source>
-        <translation>Informationen</translation>
+        <source>&amp;Information</source>
+        <translation>&amp;Informationen</translation>
     </message>
     <message>
         <source>New moon</source>
@@ -56,20 +56,20 @@
         <translation>Letztes Viertel</translation>
     </message>
     <message>
-        <source>Rise and Set</source>
-        <translation>Auf- und Untergang</translation>
+        <source>&amp;Rise and Set</source>
+        <translation>Auf- und &amp;Untergang</translation>
     </message>
     <message>
-        <source>Calculation</source>
-        <translation>Berechnung</translation>
+        <source>&amp;Calculation</source>
+        <translation>&amp;Berechnung</translation>
     </message>
     <message>
         <source>Date and time</source>
         <translation>Datum und Uhrzeit</translation>
     </message>
     <message>
-        <source>Now</source>
-        <translation>Jetzt</translation>
+        <source>&amp;Now</source>
+        <translation>&amp;Jetzt</translation>
     </message>
     <message>
         <source>Back to the present</source>
@@ -128,12 +128,12 @@
         <translation>Vollmond der nächsten Lunation</translation>
     </message>
     <message>
-        <source>Settings</source>
-        <translation>Einstellungen</translation>
+        <source>&amp;Settings</source>
+        <translation>&amp;Einstellungen</translation>
     </message>
     <message>
-        <source>Time zone:</source>
-        <translation>Zeitzone:</translation>
+        <source>&amp;Time zone:</source>
+        <translation>&amp;Zeitzone:</translation>
     </message>
     <message>
         <source>Time zone</source>
@@ -152,68 +152,68 @@
         <translation>Andere …</translation>
     </message>
     <message>
-        <source>Place:</source>
-        <translation>Ort:</translation>
+        <source>&amp;Place:</source>
+        <translation>&amp;Ort:</translation>
     </message>
     <message>
-        <source>Set Latitude and Longitude</source>
-        <translation>Breite und Länge festlegen</translation>
+        <source>S&amp;et Latitude and Longitude</source>
+        <translation>Breite und Länge &amp;festlegen</translation>
     </message>
     <message>
-        <source>Latitude:</source>
-        <translation>Breite:</translation>
+        <source>&amp;Latitude:</source>
+        <translation>B&amp;reite:</translation>
     </message>
     <message>
         <source>Latitude in degrees, north positive</source>
         <translation>Breite in Grad, Norden positiv</translation>
     </message>
     <message>
-        <source>Longitude:</source>
-        <translation>Länge:</translation>
+        <source>L&amp;ongitude:</source>
+        <translation>&amp;Länge:</translation>
     </message>
     <message>
         <source>Longitude in degrees, east positive</source>
         <translation>Länge in Grad, Osten positiv</translation>
     </message>
     <message>
-        <source>Brightness:</source>
-        <translation>Helligkeit:</translation>
+        <source>&amp;Brightness:</source>
+        <translation>&amp;Helligkeit:</translation>
     </message>
     <message>
         <source>Brightness of the pictures</source>
         <translation>Helligkeit der Bilder</translation>
     </message>
     <message>
-        <source>Copy Information to Clipboard</source>
-        <translation>Informationen in die Zwischenablage kopieren</translation>
+        <source>&amp;Copy Information to Clipboard</source>
+        <translation>Informationen in die Zwischenablage &amp;kopieren</translation>
     </message>
     <message>
-        <source>Open at Login</source>
-        <translation>Bei der Anmeldung starten</translation>
+        <source>&amp;Open at Login</source>
+        <translation>Bei der &amp;Anmeldung starten</translation>
     </message>
     <message>
-        <source>Check for Update...</source>
-        <translation>Nach Aktualisierung suchen …</translation>
+        <source>Check for &amp;Update...</source>
+        <translation>Nach Akt&amp;ualisierung suchen …</translation>
     </message>
     <message>
-        <source>Lumivane Home Page</source>
-        <translation>Webseite von Lumivane</translation>
+        <source>Lumivane &amp;Home Page</source>
+        <translation>&amp;Webseite von Lumivane</translation>
     </message>
     <message>
-        <source>About Lumivane</source>
-        <translation>Über Lumivane</translation>
+        <source>&amp;About Lumivane</source>
+        <translation>Ü&amp;ber Lumivane</translation>
     </message>
     <message>
-        <source>Quit Lumivane</source>
-        <translation>Lumivane beenden</translation>
+        <source>&amp;Quit Lumivane</source>
+        <translation>Lumivane b&amp;eenden</translation>
     </message>
     <message>
-        <source>From System Settings</source>
-        <translation>Aus den Systemeinstellungen</translation>
+        <source>From &amp;System Settings</source>
+        <translation>Aus den &amp;Systemeinstellungen</translation>
     </message>
     <message>
-        <source>Find on the Web...</source>
-        <translation>Im Web suchen …</translation>
+        <source>Find on the &amp;Web...</source>
+        <translation>Im &amp;Web suchen …</translation>
     </message>
     <message>
         <source>Text</source>
@@ -384,6 +384,10 @@
         <translation>Lumivane öffnen …</translation>
     </message>
     <message>
+        <source>Copy Information to Clipboard</source>
+        <translation>Informationen in die Zwischenablage kopieren</translation>
+    </message>
+    <message>
         <source>Sun: ^1</source>
         <translation>Sonne: ^1</translation>
     </message>
@@ -433,23 +437,23 @@
     </message>
     <message>
         <source>Lumivane is not inside your Applications folder.</source>
-        <translation>Lumivane liegt nicht in Ihrem Ordner „Applications“.</translation>
+        <translation>Lumivane ist nicht unter Ihren Anwendungen installiert.</translation>
     </message>
     <message>
         <source>We highly recommend you install Lumivane in to your Applications folder.  (This warning will only be shown once for the current install location.)  Please quit Lumivane before moving it, if you do so.</source>
-        <translation>Wir empfehlen Ihnen dringend, Lumivane im Ordner „Applications“ zu installieren. (Diese Warnung erscheint für den aktuellen Installationsort nur einmal.) Beenden Sie Lumivane, bevor Sie es dorthin verschieben.</translation>
+        <translation>Wir empfehlen Ihnen dringend, Lumivane zu installieren, damit es unter Ihren Anwendungen zu finden ist und bei der Anmeldung von einem festen Ort startet. (Diese Warnung erscheint für den aktuellen Ort nur einmal.) Beenden Sie Lumivane, bevor Sie es verschieben.</translation>
     </message>
     <message>
-        <source>Show Lumivane</source>
-        <translation>Lumivane anzeigen</translation>
+        <source>&amp;Show Lumivane</source>
+        <translation>Lumivane an&amp;zeigen</translation>
     </message>
     <message>
         <source>It appears that Lumivane.app was moved while it was running!</source>
-        <translation>Lumivane wurde anscheinend verschoben, während es lief!</translation>
+        <translation>Lumivane wurde anscheinend verschoben oder entfernt, während es lief!</translation>
     </message>
     <message>
         <source>Mac OS X does not support moving or renaming applications while they are running.  Lumivane needs to quit now before bad things happen.</source>
-        <translation>Programme dürfen nicht verschoben oder umbenannt werden, während sie laufen. Lumivane muss jetzt beendet werden, bevor Schlimmeres passiert.</translation>
+        <translation>Die Dateien von Lumivane liegen nicht mehr dort, wo sie beim Start lagen. Lumivane muss jetzt beendet werden; bitte starten Sie es an seinem jetzigen Ort neu.</translation>
     </message>
     <message>
         <source>Quit</source>
@@ -541,7 +545,7 @@
     </message>
     <message>
         <source>GMT Time Zone Offset:</source>
-        <translation>Zeitverschiebung zu GMT:</translation>
+        <translation>Zeitverschiebung zu &amp;GMT:</translation>
     </message>
     <message>
         <source>For Example: -5, +1.5, 12, 0</source>
@@ -592,16 +596,16 @@
         <translation>%1 %2 ist jetzt verfügbar (Sie haben %3).</translation>
     </message>
     <message>
-        <source>Remind Me Later</source>
-        <translation>Später erinnern</translation>
+        <source>&amp;Remind Me Later</source>
+        <translation>&amp;Später erinnern</translation>
     </message>
     <message>
-        <source>Skip This Version</source>
-        <translation>Diese Version überspringen</translation>
+        <source>&amp;Skip This Version</source>
+        <translation>Diese &amp;Version überspringen</translation>
     </message>
     <message>
-        <source>Learn More...</source>
-        <translation>Mehr erfahren …</translation>
+        <source>&amp;Learn More...</source>
+        <translation>&amp;Mehr erfahren …</translation>
     </message>
     <message>
         <source>You&apos;re up to date!</source>
@@ -620,8 +624,8 @@
         <translation>Fehler bei der Aktualisierung!</translation>
     </message>
     <message>
-        <source>Release Notes:</source>
-        <translation>Versionshinweise:</translation>
+        <source>Release &amp;Notes:</source>
+        <translation>Versions&amp;hinweise:</translation>
     </message>
     <message>
         <source>Checking for updates...</source>
@@ -642,6 +646,10 @@
     <message>
         <source>%1 is not between %2 and %3.</source>
         <translation>%1 liegt nicht zwischen %2 und %3.</translation>
+    </message>
+    <message>
+        <source>Back to the tray icon</source>
+        <translation>Zurück zum Symbol im Systembereich</translation>
     </message>
 </context>
 </TS>

@@ -4,16 +4,16 @@
 <context>
     <name>Lumivane</name>
     <message>
-        <source>Number:</source>
-        <translation>Número:</translation>
+        <source>&amp;Number:</source>
+        <translation>&amp;Número:</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation>Aceptar</translation>
+        <translation>&amp;Aceptar</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation>Cancelar</translation>
+        <translation>&amp;Cancelar</translation>
     </message>
     <message>
         <source>Lumivane</source>
@@ -32,12 +32,12 @@
         <translation>Ocultar</translation>
     </message>
     <message>
-        <source>Moon</source>
-        <translation>Luna</translation>
+        <source>&amp;Moon</source>
+        <translation>&amp;Luna</translation>
     </message>
     <message>
-        <source>Information</source>
-        <translation>Información</translation>
+        <source>&amp;Information</source>
+        <translation>&amp;Información</translation>
     </message>
     <message>
         <source>New moon</source>
@@ -56,20 +56,20 @@
         <translation>Cuarto menguante</translation>
     </message>
     <message>
-        <source>Rise and Set</source>
-        <translation>Salida y puesta</translation>
+        <source>&amp;Rise and Set</source>
+        <translation>Salida y &amp;puesta</translation>
     </message>
     <message>
-        <source>Calculation</source>
-        <translation>Cálculo</translation>
+        <source>&amp;Calculation</source>
+        <translation>&amp;Cálculo</translation>
     </message>
     <message>
         <source>Date and time</source>
         <translation>Fecha y hora</translation>
     </message>
     <message>
-        <source>Now</source>
-        <translation>Ahora</translation>
+        <source>&amp;Now</source>
+        <translation>A&amp;hora</translation>
     </message>
     <message>
         <source>Back to the present</source>
@@ -128,12 +128,12 @@
         <translation>Luna llena de la lunación siguiente</translation>
     </message>
     <message>
-        <source>Settings</source>
-        <translation>Ajustes</translation>
+        <source>&amp;Settings</source>
+        <translation>&amp;Ajustes</translation>
     </message>
     <message>
-        <source>Time zone:</source>
-        <translation>Zona horaria:</translation>
+        <source>&amp;Time zone:</source>
+        <translation>&amp;Zona horaria:</translation>
     </message>
     <message>
         <source>Time zone</source>
@@ -152,68 +152,68 @@
         <translation>Otra…</translation>
     </message>
     <message>
-        <source>Place:</source>
-        <translation>Lugar:</translation>
+        <source>&amp;Place:</source>
+        <translation>L&amp;ugar:</translation>
     </message>
     <message>
-        <source>Set Latitude and Longitude</source>
-        <translation>Definir latitud y longitud</translation>
+        <source>S&amp;et Latitude and Longitude</source>
+        <translation>&amp;Definir latitud y longitud</translation>
     </message>
     <message>
-        <source>Latitude:</source>
-        <translation>Latitud:</translation>
+        <source>&amp;Latitude:</source>
+        <translation>La&amp;titud:</translation>
     </message>
     <message>
         <source>Latitude in degrees, north positive</source>
         <translation>Latitud en grados, norte positivo</translation>
     </message>
     <message>
-        <source>Longitude:</source>
-        <translation>Longitud:</translation>
+        <source>L&amp;ongitude:</source>
+        <translation>Lon&amp;gitud:</translation>
     </message>
     <message>
         <source>Longitude in degrees, east positive</source>
         <translation>Longitud en grados, este positivo</translation>
     </message>
     <message>
-        <source>Brightness:</source>
-        <translation>Brillo:</translation>
+        <source>&amp;Brightness:</source>
+        <translation>&amp;Brillo:</translation>
     </message>
     <message>
         <source>Brightness of the pictures</source>
         <translation>Brillo de las imágenes</translation>
     </message>
     <message>
-        <source>Copy Information to Clipboard</source>
-        <translation>Copiar la información al portapapeles</translation>
+        <source>&amp;Copy Information to Clipboard</source>
+        <translation>&amp;Copiar la información al portapapeles</translation>
     </message>
     <message>
-        <source>Open at Login</source>
-        <translation>Abrir al iniciar sesión</translation>
+        <source>&amp;Open at Login</source>
+        <translation>&amp;Abrir al iniciar sesión</translation>
     </message>
     <message>
-        <source>Check for Update...</source>
-        <translation>Buscar actualizaciones…</translation>
+        <source>Check for &amp;Update...</source>
+        <translation>&amp;Buscar actualizaciones…</translation>
     </message>
     <message>
-        <source>Lumivane Home Page</source>
-        <translation>Página web de Lumivane</translation>
+        <source>Lumivane &amp;Home Page</source>
+        <translation>&amp;Página web de Lumivane</translation>
     </message>
     <message>
-        <source>About Lumivane</source>
-        <translation>Acerca de Lumivane</translation>
+        <source>&amp;About Lumivane</source>
+        <translation>Acerca &amp;de Lumivane</translation>
     </message>
     <message>
-        <source>Quit Lumivane</source>
-        <translation>Salir de Lumivane</translation>
+        <source>&amp;Quit Lumivane</source>
+        <translation>&amp;Salir de Lumivane</translation>
     </message>
     <message>
-        <source>From System Settings</source>
-        <translation>Según los ajustes del sistema</translation>
+        <source>From &amp;System Settings</source>
+        <translation>Según los ajustes del &amp;sistema</translation>
     </message>
     <message>
-        <source>Find on the Web...</source>
-        <translation>Buscar en la web…</translation>
+        <source>Find on the &amp;Web...</source>
+        <translation>Buscar en la &amp;web…</translation>
     </message>
     <message>
         <source>Text</source>
@@ -384,6 +384,10 @@
         <translation>Abrir Lumivane…</translation>
     </message>
     <message>
+        <source>Copy Information to Clipboard</source>
+        <translation>Copiar la información al portapapeles</translation>
+    </message>
+    <message>
         <source>Sun: ^1</source>
         <translation>Sol: ^1</translation>
     </message>
@@ -433,23 +437,23 @@
     </message>
     <message>
         <source>Lumivane is not inside your Applications folder.</source>
-        <translation>Lumivane no está en su carpeta «Applications».</translation>
+        <translation>Lumivane no está instalado entre sus aplicaciones.</translation>
     </message>
     <message>
         <source>We highly recommend you install Lumivane in to your Applications folder.  (This warning will only be shown once for the current install location.)  Please quit Lumivane before moving it, if you do so.</source>
-        <translation>Le recomendamos encarecidamente que instale Lumivane en su carpeta «Applications». (Esta advertencia solo se mostrará una vez para la ubicación actual.) Si lo mueve, salga antes de Lumivane.</translation>
+        <translation>Le recomendamos encarecidamente que instale Lumivane, para que figure entre sus aplicaciones y se abra al iniciar sesión desde una ubicación fija. (Esta advertencia solo se mostrará una vez para la ubicación actual.) Si lo mueve, salga antes de Lumivane.</translation>
     </message>
     <message>
-        <source>Show Lumivane</source>
-        <translation>Mostrar Lumivane</translation>
+        <source>&amp;Show Lumivane</source>
+        <translation>&amp;Mostrar Lumivane</translation>
     </message>
     <message>
         <source>It appears that Lumivane.app was moved while it was running!</source>
-        <translation>¡Parece que Lumivane se ha movido mientras estaba en ejecución!</translation>
+        <translation>¡Parece que Lumivane se ha movido o eliminado mientras estaba en ejecución!</translation>
     </message>
     <message>
         <source>Mac OS X does not support moving or renaming applications while they are running.  Lumivane needs to quit now before bad things happen.</source>
-        <translation>El sistema no admite que se muevan o se cambien de nombre las aplicaciones mientras se ejecutan. Lumivane debe cerrarse ahora, antes de que ocurra algo malo.</translation>
+        <translation>Los archivos de Lumivane ya no están donde estaban al iniciarlo. Lumivane debe cerrarse ahora; vuelva a abrirlo desde su ubicación actual.</translation>
     </message>
     <message>
         <source>Quit</source>
@@ -541,7 +545,7 @@
     </message>
     <message>
         <source>GMT Time Zone Offset:</source>
-        <translation>Diferencia respecto a GMT:</translation>
+        <translation>Diferencia respecto a &amp;GMT:</translation>
     </message>
     <message>
         <source>For Example: -5, +1.5, 12, 0</source>
@@ -592,16 +596,16 @@
         <translation>%1 %2 ya está disponible (usted tiene la %3).</translation>
     </message>
     <message>
-        <source>Remind Me Later</source>
-        <translation>Recordármelo más tarde</translation>
+        <source>&amp;Remind Me Later</source>
+        <translation>&amp;Recordármelo más tarde</translation>
     </message>
     <message>
-        <source>Skip This Version</source>
-        <translation>Omitir esta versión</translation>
+        <source>&amp;Skip This Version</source>
+        <translation>&amp;Omitir esta versión</translation>
     </message>
     <message>
-        <source>Learn More...</source>
-        <translation>Más información…</translation>
+        <source>&amp;Learn More...</source>
+        <translation>&amp;Más información…</translation>
     </message>
     <message>
         <source>You&apos;re up to date!</source>
@@ -620,8 +624,8 @@
         <translation>¡Error de actualización!</translation>
     </message>
     <message>
-        <source>Release Notes:</source>
-        <translation>Notas de la versión:</translation>
+        <source>Release &amp;Notes:</source>
+        <translation>&amp;Notas de la versión:</translation>
     </message>
     <message>
         <source>Checking for updates...</source>
@@ -642,6 +646,10 @@
     <message>
         <source>%1 is not between %2 and %3.</source>
         <translation>%1 no está entre %2 y %3.</translation>
+    </message>
+    <message>
+        <source>Back to the tray icon</source>
+        <translation>Volver al icono de la bandeja</translation>
     </message>
 </context>
 </TS>

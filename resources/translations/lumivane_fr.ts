@@ -4,16 +4,16 @@
 <context>
     <name>Lumivane</name>
     <message>
-        <source>Number:</source>
-        <translation>Nombre&#xa0;:</translation>
+        <source>&amp;Number:</source>
+        <translation>&amp;Nombre&#xa0;:</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation>OK</translation>
+        <translation>&amp;OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation>Annuler</translation>
+        <translation>&amp;Annuler</translation>
     </message>
     <message>
         <source>Lumivane</source>
@@ -32,12 +32,12 @@
         <translation>Masquer</translation>
     </message>
     <message>
-        <source>Moon</source>
-        <translation>Lune</translation>
+        <source>&amp;Moon</source>
+        <translation>&amp;Lune</translation>
     </message>
     <message>
-        <source>Information</source>
-        <translation>Informations</translation>
+        <source>&amp;Information</source>
+        <translation>&amp;Informations</translation>
     </message>
     <message>
         <source>New moon</source>
@@ -56,20 +56,20 @@
         <translation>Dernier quartier</translation>
     </message>
     <message>
-        <source>Rise and Set</source>
-        <translation>Lever et coucher</translation>
+        <source>&amp;Rise and Set</source>
+        <translation>Lever et &amp;coucher</translation>
     </message>
     <message>
-        <source>Calculation</source>
-        <translation>Calcul</translation>
+        <source>&amp;Calculation</source>
+        <translation>C&amp;alcul</translation>
     </message>
     <message>
         <source>Date and time</source>
         <translation>Date et heure</translation>
     </message>
     <message>
-        <source>Now</source>
-        <translation>Maintenant</translation>
+        <source>&amp;Now</source>
+        <translation>&amp;Maintenant</translation>
     </message>
     <message>
         <source>Back to the present</source>
@@ -128,12 +128,12 @@
         <translation>Pleine lune de la lunaison suivante</translation>
     </message>
     <message>
-        <source>Settings</source>
-        <translation>Réglages</translation>
+        <source>&amp;Settings</source>
+        <translation>&amp;Réglages</translation>
     </message>
     <message>
-        <source>Time zone:</source>
-        <translation>Fuseau horaire&#xa0;:</translation>
+        <source>&amp;Time zone:</source>
+        <translation>&amp;Fuseau horaire&#xa0;:</translation>
     </message>
     <message>
         <source>Time zone</source>
@@ -152,68 +152,68 @@
         <translation>Autre…</translation>
     </message>
     <message>
-        <source>Place:</source>
-        <translation>Lieu&#xa0;:</translation>
+        <source>&amp;Place:</source>
+        <translation>Li&amp;eu&#xa0;:</translation>
     </message>
     <message>
-        <source>Set Latitude and Longitude</source>
-        <translation>Définir latitude et longitude</translation>
+        <source>S&amp;et Latitude and Longitude</source>
+        <translation>&amp;Définir latitude et longitude</translation>
     </message>
     <message>
-        <source>Latitude:</source>
-        <translation>Latitude&#xa0;:</translation>
+        <source>&amp;Latitude:</source>
+        <translation>La&amp;titude&#xa0;:</translation>
     </message>
     <message>
         <source>Latitude in degrees, north positive</source>
         <translation>Latitude en degrés, positive vers le nord</translation>
     </message>
     <message>
-        <source>Longitude:</source>
-        <translation>Longitude&#xa0;:</translation>
+        <source>L&amp;ongitude:</source>
+        <translation>Lon&amp;gitude&#xa0;:</translation>
     </message>
     <message>
         <source>Longitude in degrees, east positive</source>
         <translation>Longitude en degrés, positive vers l’est</translation>
     </message>
     <message>
-        <source>Brightness:</source>
-        <translation>Luminosité&#xa0;:</translation>
+        <source>&amp;Brightness:</source>
+        <translation>Lumino&amp;sité&#xa0;:</translation>
     </message>
     <message>
         <source>Brightness of the pictures</source>
         <translation>Luminosité des images</translation>
     </message>
     <message>
-        <source>Copy Information to Clipboard</source>
-        <translation>Copier les informations dans le presse-papiers</translation>
+        <source>&amp;Copy Information to Clipboard</source>
+        <translation>&amp;Copier les informations dans le presse-papiers</translation>
     </message>
     <message>
-        <source>Open at Login</source>
-        <translation>Lancer à l’ouverture de session</translation>
+        <source>&amp;Open at Login</source>
+        <translation>Lancer à l’&amp;ouverture de session</translation>
     </message>
     <message>
-        <source>Check for Update...</source>
-        <translation>Rechercher une mise à jour…</translation>
+        <source>Check for &amp;Update...</source>
+        <translation>&amp;Rechercher une mise à jour…</translation>
     </message>
     <message>
-        <source>Lumivane Home Page</source>
-        <translation>Site web de Lumivane</translation>
+        <source>Lumivane &amp;Home Page</source>
+        <translation>&amp;Site web de Lumivane</translation>
     </message>
     <message>
-        <source>About Lumivane</source>
-        <translation>À propos de Lumivane</translation>
+        <source>&amp;About Lumivane</source>
+        <translation>À &amp;propos de Lumivane</translation>
     </message>
     <message>
-        <source>Quit Lumivane</source>
-        <translation>Quitter Lumivane</translation>
+        <source>&amp;Quit Lumivane</source>
+        <translation>&amp;Quitter Lumivane</translation>
     </message>
     <message>
-        <source>From System Settings</source>
-        <translation>D’après les réglages du système</translation>
+        <source>From &amp;System Settings</source>
+        <translation>D’après les réglages du &amp;système</translation>
     </message>
     <message>
-        <source>Find on the Web...</source>
-        <translation>Chercher sur le Web…</translation>
+        <source>Find on the &amp;Web...</source>
+        <translation>Chercher sur le &amp;Web…</translation>
     </message>
     <message>
         <source>Text</source>
@@ -384,6 +384,10 @@
         <translation>Ouvrir Lumivane…</translation>
     </message>
     <message>
+        <source>Copy Information to Clipboard</source>
+        <translation>Copier les informations dans le presse-papiers</translation>
+    </message>
+    <message>
         <source>Sun: ^1</source>
         <translation>Soleil&#xa0;: ^1</translation>
     </message>
@@ -433,23 +437,23 @@
     </message>
     <message>
         <source>Lumivane is not inside your Applications folder.</source>
-        <translation>Lumivane n’est pas dans votre dossier «&#xa0;Applications&#xa0;».</translation>
+        <translation>Lumivane n’est pas installé parmi vos applications.</translation>
     </message>
     <message>
         <source>We highly recommend you install Lumivane in to your Applications folder.  (This warning will only be shown once for the current install location.)  Please quit Lumivane before moving it, if you do so.</source>
-        <translation>Nous vous recommandons vivement d’installer Lumivane dans votre dossier «&#xa0;Applications&#xa0;». (Cet avertissement ne s’affiche qu’une seule fois pour l’emplacement actuel.) Si vous déplacez Lumivane, quittez-le d’abord.</translation>
+        <translation>Nous vous recommandons vivement d’installer Lumivane, afin qu’il figure parmi vos applications et se lance à l’ouverture de session depuis un emplacement fixe. (Cet avertissement ne s’affiche qu’une seule fois pour l’emplacement actuel.) Si vous déplacez Lumivane, quittez-le d’abord.</translation>
     </message>
     <message>
-        <source>Show Lumivane</source>
-        <translation>Afficher Lumivane</translation>
+        <source>&amp;Show Lumivane</source>
+        <translation>&amp;Afficher Lumivane</translation>
     </message>
     <message>
         <source>It appears that Lumivane.app was moved while it was running!</source>
-        <translation>Il semble que Lumivane ait été déplacé pendant son exécution&#xa0;!</translation>
+        <translation>Il semble que Lumivane ait été déplacé ou supprimé pendant son exécution&#xa0;!</translation>
     </message>
     <message>
         <source>Mac OS X does not support moving or renaming applications while they are running.  Lumivane needs to quit now before bad things happen.</source>
-        <translation>Le système ne permet pas de déplacer ou de renommer une application pendant son exécution. Lumivane doit quitter maintenant pour éviter tout dégât.</translation>
+        <translation>Les fichiers de Lumivane ne se trouvent plus là où ils étaient à son lancement. Lumivane doit quitter maintenant&#xa0;; relancez-le depuis son emplacement actuel.</translation>
     </message>
     <message>
         <source>Quit</source>
@@ -541,7 +545,7 @@
     </message>
     <message>
         <source>GMT Time Zone Offset:</source>
-        <translation>Décalage par rapport à GMT&#xa0;:</translation>
+        <translation>Décalage par rapport à &amp;GMT&#xa0;:</translation>
     </message>
     <message>
         <source>For Example: -5, +1.5, 12, 0</source>
@@ -592,16 +596,16 @@
         <translation>%1 %2 est maintenant disponible (vous avez la version %3).</translation>
     </message>
     <message>
-        <source>Remind Me Later</source>
-        <translation>Me le rappeler plus tard</translation>
+        <source>&amp;Remind Me Later</source>
+        <translation>Me le &amp;rappeler plus tard</translation>
     </message>
     <message>
-        <source>Skip This Version</source>
-        <translation>Ignorer cette version</translation>
+        <source>&amp;Skip This Version</source>
+        <translation>&amp;Ignorer cette version</translation>
     </message>
     <message>
-        <source>Learn More...</source>
-        <translation>En savoir plus…</translation>
+        <source>&amp;Learn More...</source>
+        <translation>En savoir &amp;plus…</translation>
     </message>
     <message>
         <source>You&apos;re up to date!</source>
@@ -620,8 +624,8 @@
         <translation>Erreur de mise à jour&#xa0;!</translation>
     </message>
     <message>
-        <source>Release Notes:</source>
-        <translation>Notes de version&#xa0;:</translation>
+        <source>Release &amp;Notes:</source>
+        <translation>&amp;Notes de version&#xa0;:</translation>
     </message>
     <message>
         <source>Checking for updates...</source>
@@ -642,6 +646,10 @@
     <message>
         <source>%1 is not between %2 and %3.</source>
         <translation>%1 n’est pas compris entre %2 et %3.</translation>
+    </message>
+    <message>
+        <source>Back to the tray icon</source>
+        <translation>Revenir à l’icône de la zone de notification</translation>
     </message>
 </context>
 </TS>

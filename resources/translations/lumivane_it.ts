@@ -4,16 +4,16 @@
 <context>
     <name>Lumivane</name>
     <message>
-        <source>Number:</source>
-        <translation>Numero:</translation>
+        <source>&amp;Number:</source>
+        <translation>&amp;Numero:</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation>OK</translation>
+        <translation>&amp;OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation>Annulla</translation>
+        <translation>&amp;Annulla</translation>
     </message>
     <message>
         <source>Lumivane</source>
@@ -32,12 +32,12 @@
         <translation>Nascondi</translation>
     </message>
     <message>
-        <source>Moon</source>
-        <translation>Luna</translation>
+        <source>&amp;Moon</source>
+        <translation>&amp;Luna</translation>
     </message>
     <message>
-        <source>Information</source>
-        <translation>Informazioni</translation>
+        <source>&amp;Information</source>
+        <translation>&amp;Informazioni</translation>
     </message>
     <message>
         <source>New moon</source>
@@ -56,20 +56,20 @@
         <translation>Ultimo quarto</translation>
     </message>
     <message>
-        <source>Rise and Set</source>
-        <translation>Sorgere e tramonto</translation>
+        <source>&amp;Rise and Set</source>
+        <translation>Sorgere e &amp;tramonto</translation>
     </message>
     <message>
-        <source>Calculation</source>
-        <translation>Calcolo</translation>
+        <source>&amp;Calculation</source>
+        <translation>&amp;Calcolo</translation>
     </message>
     <message>
         <source>Date and time</source>
         <translation>Data e ora</translation>
     </message>
     <message>
-        <source>Now</source>
-        <translation>Adesso</translation>
+        <source>&amp;Now</source>
+        <translation>&amp;Adesso</translation>
     </message>
     <message>
         <source>Back to the present</source>
@@ -128,12 +128,12 @@
         <translation>Luna piena della lunazione successiva</translation>
     </message>
     <message>
-        <source>Settings</source>
-        <translation>Impostazioni</translation>
+        <source>&amp;Settings</source>
+        <translation>I&amp;mpostazioni</translation>
     </message>
     <message>
-        <source>Time zone:</source>
-        <translation>Fuso orario:</translation>
+        <source>&amp;Time zone:</source>
+        <translation>&amp;Fuso orario:</translation>
     </message>
     <message>
         <source>Time zone</source>
@@ -152,68 +152,68 @@
         <translation>Altro…</translation>
     </message>
     <message>
-        <source>Place:</source>
-        <translation>Luogo:</translation>
+        <source>&amp;Place:</source>
+        <translation>Lu&amp;ogo:</translation>
     </message>
     <message>
-        <source>Set Latitude and Longitude</source>
-        <translation>Imposta latitudine e longitudine</translation>
+        <source>S&amp;et Latitude and Longitude</source>
+        <translation>Im&amp;posta latitudine e longitudine</translation>
     </message>
     <message>
-        <source>Latitude:</source>
-        <translation>Latitudine:</translation>
+        <source>&amp;Latitude:</source>
+        <translation>Latit&amp;udine:</translation>
     </message>
     <message>
         <source>Latitude in degrees, north positive</source>
         <translation>Latitudine in gradi, positiva verso nord</translation>
     </message>
     <message>
-        <source>Longitude:</source>
-        <translation>Longitudine:</translation>
+        <source>L&amp;ongitude:</source>
+        <translation>Lon&amp;gitudine:</translation>
     </message>
     <message>
         <source>Longitude in degrees, east positive</source>
         <translation>Longitudine in gradi, positiva verso est</translation>
     </message>
     <message>
-        <source>Brightness:</source>
-        <translation>Luminosità:</translation>
+        <source>&amp;Brightness:</source>
+        <translation>Lumino&amp;sità:</translation>
     </message>
     <message>
         <source>Brightness of the pictures</source>
         <translation>Luminosità delle immagini</translation>
     </message>
     <message>
-        <source>Copy Information to Clipboard</source>
-        <translation>Copia le informazioni negli appunti</translation>
+        <source>&amp;Copy Information to Clipboard</source>
+        <translation>&amp;Copia le informazioni negli appunti</translation>
     </message>
     <message>
-        <source>Open at Login</source>
-        <translation>Apri all’accesso</translation>
+        <source>&amp;Open at Login</source>
+        <translation>&amp;Apri all’accesso</translation>
     </message>
     <message>
-        <source>Check for Update...</source>
-        <translation>Controlla aggiornamenti…</translation>
+        <source>Check for &amp;Update...</source>
+        <translation>Controlla a&amp;ggiornamenti…</translation>
     </message>
     <message>
-        <source>Lumivane Home Page</source>
-        <translation>Sito web di Lumivane</translation>
+        <source>Lumivane &amp;Home Page</source>
+        <translation>Sito &amp;web di Lumivane</translation>
     </message>
     <message>
-        <source>About Lumivane</source>
-        <translation>Informazioni su Lumivane</translation>
+        <source>&amp;About Lumivane</source>
+        <translation>&amp;Informazioni su Lumivane</translation>
     </message>
     <message>
-        <source>Quit Lumivane</source>
-        <translation>Esci da Lumivane</translation>
+        <source>&amp;Quit Lumivane</source>
+        <translation>&amp;Esci da Lumivane</translation>
     </message>
     <message>
-        <source>From System Settings</source>
-        <translation>Dalle impostazioni di sistema</translation>
+        <source>From &amp;System Settings</source>
+        <translation>Dalle impostazioni di &amp;sistema</translation>
     </message>
     <message>
-        <source>Find on the Web...</source>
-        <translation>Cerca sul Web…</translation>
+        <source>Find on the &amp;Web...</source>
+        <translation>Cerca sul &amp;Web…</translation>
     </message>
     <message>
         <source>Text</source>
@@ -384,6 +384,10 @@
         <translation>Apri Lumivane…</translation>
     </message>
     <message>
+        <source>Copy Information to Clipboard</source>
+        <translation>Copia le informazioni negli appunti</translation>
+    </message>
+    <message>
         <source>Sun: ^1</source>
         <translation>Sole: ^1</translation>
     </message>
@@ -433,23 +437,23 @@
     </message>
     <message>
         <source>Lumivane is not inside your Applications folder.</source>
-        <translation>Lumivane non si trova nella cartella «Applications».</translation>
+        <translation>Lumivane non è installato tra le applicazioni.</translation>
     </message>
     <message>
         <source>We highly recommend you install Lumivane in to your Applications folder.  (This warning will only be shown once for the current install location.)  Please quit Lumivane before moving it, if you do so.</source>
-        <translation>Si consiglia vivamente di installare Lumivane nella cartella «Applications». (Questo avviso viene mostrato una sola volta per la posizione attuale.) Prima di spostare Lumivane, chiuderlo.</translation>
+        <translation>Si consiglia vivamente di installare Lumivane, in modo che compaia tra le applicazioni e si apra all’accesso da una posizione stabile. (Questo avviso viene mostrato una sola volta per la posizione attuale.) Prima di spostare Lumivane, chiuderlo.</translation>
     </message>
     <message>
-        <source>Show Lumivane</source>
-        <translation>Mostra Lumivane</translation>
+        <source>&amp;Show Lumivane</source>
+        <translation>&amp;Mostra Lumivane</translation>
     </message>
     <message>
         <source>It appears that Lumivane.app was moved while it was running!</source>
-        <translation>Sembra che Lumivane sia stato spostato mentre era in esecuzione!</translation>
+        <translation>Sembra che Lumivane sia stato spostato o rimosso mentre era in esecuzione!</translation>
     </message>
     <message>
         <source>Mac OS X does not support moving or renaming applications while they are running.  Lumivane needs to quit now before bad things happen.</source>
-        <translation>Il sistema non consente di spostare o rinominare le applicazioni mentre sono in esecuzione. Lumivane deve chiudersi ora, prima che succeda qualcosa di grave.</translation>
+        <translation>I file di Lumivane non si trovano più dove erano all’avvio. Lumivane deve chiudersi ora; riavviarlo dalla posizione attuale.</translation>
     </message>
     <message>
         <source>Quit</source>
@@ -541,7 +545,7 @@
     </message>
     <message>
         <source>GMT Time Zone Offset:</source>
-        <translation>Differenza rispetto a GMT:</translation>
+        <translation>Differenza rispetto a &amp;GMT:</translation>
     </message>
     <message>
         <source>For Example: -5, +1.5, 12, 0</source>
@@ -592,16 +596,16 @@
         <translation>%1 %2 è ora disponibile (la versione in uso è la %3).</translation>
     </message>
     <message>
-        <source>Remind Me Later</source>
-        <translation>Ricordamelo più tardi</translation>
+        <source>&amp;Remind Me Later</source>
+        <translation>&amp;Ricordamelo più tardi</translation>
     </message>
     <message>
-        <source>Skip This Version</source>
-        <translation>Salta questa versione</translation>
+        <source>&amp;Skip This Version</source>
+        <translation>&amp;Salta questa versione</translation>
     </message>
     <message>
-        <source>Learn More...</source>
-        <translation>Ulteriori informazioni…</translation>
+        <source>&amp;Learn More...</source>
+        <translation>&amp;Ulteriori informazioni…</translation>
     </message>
     <message>
         <source>You&apos;re up to date!</source>
@@ -620,8 +624,8 @@
         <translation>Errore di aggiornamento!</translation>
     </message>
     <message>
-        <source>Release Notes:</source>
-        <translation>Note sulla versione:</translation>
+        <source>Release &amp;Notes:</source>
+        <translation>&amp;Note sulla versione:</translation>
     </message>
     <message>
         <source>Checking for updates...</source>
@@ -642,6 +646,10 @@
     <message>
         <source>%1 is not between %2 and %3.</source>
         <translation>%1 non è compreso tra %2 e %3.</translation>
+    </message>
+    <message>
+        <source>Back to the tray icon</source>
+        <translation>Torna all’icona nell’area di notifica</translation>
     </message>
 </context>
 </TS>

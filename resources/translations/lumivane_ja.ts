@@ -4,16 +4,16 @@
 <context>
     <name>Lumivane</name>
     <message>
-        <source>Number:</source>
-        <translation>数値:</translation>
+        <source>&amp;Number:</source>
+        <translation>数値(&amp;N):</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation>OK</translation>
+        <translation>OK(&amp;O)</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation>キャンセル</translation>
+        <translation>キャンセル(&amp;C)</translation>
     </message>
     <message>
         <source>Lumivane</source>
@@ -32,12 +32,12 @@
         <translation>隠す</translation>
     </message>
     <message>
-        <source>Moon</source>
-        <translation>月</translation>
+        <source>&amp;Moon</source>
+        <translation>月(&amp;M)</translation>
     </message>
     <message>
-        <source>Information</source>
-        <translation>情報</translation>
+        <source>&amp;Information</source>
+        <translation>情報(&amp;I)</translation>
     </message>
     <message>
         <source>New moon</source>
@@ -56,20 +56,20 @@
         <translation>下弦の月</translation>
     </message>
     <message>
-        <source>Rise and Set</source>
-        <translation>出入りの時刻</translation>
+        <source>&amp;Rise and Set</source>
+        <translation>出入りの時刻(&amp;R)</translation>
     </message>
     <message>
-        <source>Calculation</source>
-        <translation>計算</translation>
+        <source>&amp;Calculation</source>
+        <translation>計算(&amp;C)</translation>
     </message>
     <message>
         <source>Date and time</source>
         <translation>日付と時刻</translation>
     </message>
     <message>
-        <source>Now</source>
-        <translation>現在</translation>
+        <source>&amp;Now</source>
+        <translation>現在(&amp;N)</translation>
     </message>
     <message>
         <source>Back to the present</source>
@@ -128,12 +128,12 @@
         <translation>次の朔望月の満月へ</translation>
     </message>
     <message>
-        <source>Settings</source>
-        <translation>設定</translation>
+        <source>&amp;Settings</source>
+        <translation>設定(&amp;S)</translation>
     </message>
     <message>
-        <source>Time zone:</source>
-        <translation>タイムゾーン:</translation>
+        <source>&amp;Time zone:</source>
+        <translation>タイムゾーン(&amp;T):</translation>
     </message>
     <message>
         <source>Time zone</source>
@@ -152,68 +152,68 @@
         <translation>その他...</translation>
     </message>
     <message>
-        <source>Place:</source>
-        <translation>場所:</translation>
+        <source>&amp;Place:</source>
+        <translation>場所(&amp;P):</translation>
     </message>
     <message>
-        <source>Set Latitude and Longitude</source>
-        <translation>緯度と経度を設定</translation>
+        <source>S&amp;et Latitude and Longitude</source>
+        <translation>緯度と経度を設定(&amp;E)</translation>
     </message>
     <message>
-        <source>Latitude:</source>
-        <translation>緯度:</translation>
+        <source>&amp;Latitude:</source>
+        <translation>緯度(&amp;L):</translation>
     </message>
     <message>
         <source>Latitude in degrees, north positive</source>
         <translation>緯度 (度、北が正)</translation>
     </message>
     <message>
-        <source>Longitude:</source>
-        <translation>経度:</translation>
+        <source>L&amp;ongitude:</source>
+        <translation>経度(&amp;O):</translation>
     </message>
     <message>
         <source>Longitude in degrees, east positive</source>
         <translation>経度 (度、東が正)</translation>
     </message>
     <message>
-        <source>Brightness:</source>
-        <translation>明るさ:</translation>
+        <source>&amp;Brightness:</source>
+        <translation>明るさ(&amp;B):</translation>
     </message>
     <message>
         <source>Brightness of the pictures</source>
         <translation>画像の明るさ</translation>
     </message>
     <message>
-        <source>Copy Information to Clipboard</source>
-        <translation>情報をクリップボードにコピー</translation>
+        <source>&amp;Copy Information to Clipboard</source>
+        <translation>情報をクリップボードにコピー(&amp;C)</translation>
     </message>
     <message>
-        <source>Open at Login</source>
-        <translation>ログイン時に起動</translation>
+        <source>&amp;Open at Login</source>
+        <translation>ログイン時に起動(&amp;O)</translation>
     </message>
     <message>
-        <source>Check for Update...</source>
-        <translation>アップデートを確認...</translation>
+        <source>Check for &amp;Update...</source>
+        <translation>アップデートを確認(&amp;U)...</translation>
     </message>
     <message>
-        <source>Lumivane Home Page</source>
-        <translation>Lumivane のホームページ</translation>
+        <source>Lumivane &amp;Home Page</source>
+        <translation>Lumivane のホームページ(&amp;H)</translation>
     </message>
     <message>
-        <source>About Lumivane</source>
-        <translation>Lumivane について</translation>
+        <source>&amp;About Lumivane</source>
+        <translation>Lumivane について(&amp;A)</translation>
     </message>
     <message>
-        <source>Quit Lumivane</source>
-        <translation>Lumivane を終了</translation>
+        <source>&amp;Quit Lumivane</source>
+        <translation>Lumivane を終了(&amp;Q)</translation>
     </message>
     <message>
-        <source>From System Settings</source>
-        <translation>システム設定から</translation>
+        <source>From &amp;System Settings</source>
+        <translation>システム設定から(&amp;S)</translation>
     </message>
     <message>
-        <source>Find on the Web...</source>
-        <translation>Web で調べる...</translation>
+        <source>Find on the &amp;Web...</source>
+        <translation>Web で調べる(&amp;W)...</translation>
     </message>
     <message>
         <source>Text</source>
@@ -384,6 +384,10 @@
         <translation>Lumivane を開く...</translation>
     </message>
     <message>
+        <source>Copy Information to Clipboard</source>
+        <translation>情報をクリップボードにコピー</translation>
+    </message>
+    <message>
         <source>Sun: ^1</source>
         <translation>太陽: ^1</translation>
     </message>
@@ -433,23 +437,23 @@
     </message>
     <message>
         <source>Lumivane is not inside your Applications folder.</source>
-        <translation>Lumivane が「Applications」フォルダーの中にありません。</translation>
+        <translation>Lumivane がアプリケーションとしてインストールされていません。</translation>
     </message>
     <message>
         <source>We highly recommend you install Lumivane in to your Applications folder.  (This warning will only be shown once for the current install location.)  Please quit Lumivane before moving it, if you do so.</source>
-        <translation>Lumivane を「Applications」フォルダーにインストールすることを強くお勧めします。(この警告は、現在のインストール場所については一度だけ表示されます。) 移動する場合は、先に Lumivane を終了してください。</translation>
+        <translation>Lumivane をインストールすることを強くお勧めします。アプリケーションの一覧に表示され、ログイン時に決まった場所から起動するようになります。(この警告は、現在の場所については一度だけ表示されます。) 移動する場合は、先に Lumivane を終了してください。</translation>
     </message>
     <message>
-        <source>Show Lumivane</source>
-        <translation>Lumivane を表示</translation>
+        <source>&amp;Show Lumivane</source>
+        <translation>Lumivane を表示(&amp;S)</translation>
     </message>
     <message>
         <source>It appears that Lumivane.app was moved while it was running!</source>
-        <translation>Lumivane は実行中に移動されたようです。</translation>
+        <translation>Lumivane は実行中に移動または削除されたようです。</translation>
     </message>
     <message>
         <source>Mac OS X does not support moving or renaming applications while they are running.  Lumivane needs to quit now before bad things happen.</source>
-        <translation>実行中のアプリケーションの移動や名前の変更には対応していません。問題が起きる前に、Lumivane を終了する必要があります。</translation>
+        <translation>Lumivane のファイルが起動時の場所にありません。Lumivane を終了する必要があります。現在の場所からもう一度起動してください。</translation>
     </message>
     <message>
         <source>Quit</source>
@@ -541,7 +545,7 @@
     </message>
     <message>
         <source>GMT Time Zone Offset:</source>
-        <translation>GMT との時差:</translation>
+        <translation>GMT との時差(&amp;T):</translation>
     </message>
     <message>
         <source>For Example: -5, +1.5, 12, 0</source>
@@ -592,16 +596,16 @@
         <translation>%1 %2 が公開されています (お使いのバージョンは %3 です)。</translation>
     </message>
     <message>
-        <source>Remind Me Later</source>
-        <translation>後で知らせる</translation>
+        <source>&amp;Remind Me Later</source>
+        <translation>後で知らせる(&amp;R)</translation>
     </message>
     <message>
-        <source>Skip This Version</source>
-        <translation>このバージョンをスキップ</translation>
+        <source>&amp;Skip This Version</source>
+        <translation>このバージョンをスキップ(&amp;S)</translation>
     </message>
     <message>
-        <source>Learn More...</source>
-        <translation>詳しい情報...</translation>
+        <source>&amp;Learn More...</source>
+        <translation>詳しい情報(&amp;L)...</translation>
     </message>
     <message>
         <source>You&apos;re up to date!</source>
@@ -620,8 +624,8 @@
         <translation>アップデートエラー</translation>
     </message>
     <message>
-        <source>Release Notes:</source>
-        <translation>リリースノート:</translation>
+        <source>Release &amp;Notes:</source>
+        <translation>リリースノート(&amp;N):</translation>
     </message>
     <message>
         <source>Checking for updates...</source>
@@ -642,6 +646,10 @@
     <message>
         <source>%1 is not between %2 and %3.</source>
         <translation>%1 は %2 から %3 の範囲にありません。</translation>
+    </message>
+    <message>
+        <source>Back to the tray icon</source>
+        <translation>トレイのアイコンに戻す</translation>
     </message>
 </context>
 </TS>

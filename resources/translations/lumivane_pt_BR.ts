@@ -4,16 +4,16 @@
 <context>
     <name>Lumivane</name>
     <message>
-        <source>Number:</source>
-        <translation>Número:</translation>
+        <source>&amp;Number:</source>
+        <translation>&amp;Número:</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation>OK</translation>
+        <translation>&amp;OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation>Cancelar</translation>
+        <translation>&amp;Cancelar</translation>
     </message>
     <message>
         <source>Lumivane</source>
@@ -32,12 +32,12 @@
         <translation>Ocultar</translation>
     </message>
     <message>
-        <source>Moon</source>
-        <translation>Lua</translation>
+        <source>&amp;Moon</source>
+        <translation>&amp;Lua</translation>
     </message>
     <message>
-        <source>Information</source>
-        <translation>Informações</translation>
+        <source>&amp;Information</source>
+        <translation>&amp;Informações</translation>
     </message>
     <message>
         <source>New moon</source>
@@ -56,20 +56,20 @@
         <translation>Quarto minguante</translation>
     </message>
     <message>
-        <source>Rise and Set</source>
-        <translation>Nascer e ocaso</translation>
+        <source>&amp;Rise and Set</source>
+        <translation>&amp;Nascer e ocaso</translation>
     </message>
     <message>
-        <source>Calculation</source>
-        <translation>Cálculo</translation>
+        <source>&amp;Calculation</source>
+        <translation>&amp;Cálculo</translation>
     </message>
     <message>
         <source>Date and time</source>
         <translation>Data e hora</translation>
     </message>
     <message>
-        <source>Now</source>
-        <translation>Agora</translation>
+        <source>&amp;Now</source>
+        <translation>&amp;Agora</translation>
     </message>
     <message>
         <source>Back to the present</source>
@@ -128,12 +128,12 @@
         <translation>Lua cheia da próxima lunação</translation>
     </message>
     <message>
-        <source>Settings</source>
-        <translation>Configurações</translation>
+        <source>&amp;Settings</source>
+        <translation>Confi&amp;gurações</translation>
     </message>
     <message>
-        <source>Time zone:</source>
-        <translation>Fuso horário:</translation>
+        <source>&amp;Time zone:</source>
+        <translation>&amp;Fuso horário:</translation>
     </message>
     <message>
         <source>Time zone</source>
@@ -152,68 +152,68 @@
         <translation>Outro…</translation>
     </message>
     <message>
-        <source>Place:</source>
-        <translation>Local:</translation>
+        <source>&amp;Place:</source>
+        <translation>L&amp;ocal:</translation>
     </message>
     <message>
-        <source>Set Latitude and Longitude</source>
-        <translation>Definir latitude e longitude</translation>
+        <source>S&amp;et Latitude and Longitude</source>
+        <translation>&amp;Definir latitude e longitude</translation>
     </message>
     <message>
-        <source>Latitude:</source>
-        <translation>Latitude:</translation>
+        <source>&amp;Latitude:</source>
+        <translation>La&amp;titude:</translation>
     </message>
     <message>
         <source>Latitude in degrees, north positive</source>
         <translation>Latitude em graus, norte positivo</translation>
     </message>
     <message>
-        <source>Longitude:</source>
-        <translation>Longitude:</translation>
+        <source>L&amp;ongitude:</source>
+        <translation>Longit&amp;ude:</translation>
     </message>
     <message>
         <source>Longitude in degrees, east positive</source>
         <translation>Longitude em graus, leste positivo</translation>
     </message>
     <message>
-        <source>Brightness:</source>
-        <translation>Brilho:</translation>
+        <source>&amp;Brightness:</source>
+        <translation>&amp;Brilho:</translation>
     </message>
     <message>
         <source>Brightness of the pictures</source>
         <translation>Brilho das imagens</translation>
     </message>
     <message>
-        <source>Copy Information to Clipboard</source>
-        <translation>Copiar informações para a área de transferência</translation>
+        <source>&amp;Copy Information to Clipboard</source>
+        <translation>&amp;Copiar informações para a área de transferência</translation>
     </message>
     <message>
-        <source>Open at Login</source>
-        <translation>Abrir ao iniciar a sessão</translation>
+        <source>&amp;Open at Login</source>
+        <translation>A&amp;brir ao iniciar a sessão</translation>
     </message>
     <message>
-        <source>Check for Update...</source>
-        <translation>Verificar atualizações…</translation>
+        <source>Check for &amp;Update...</source>
+        <translation>&amp;Verificar atualizações…</translation>
     </message>
     <message>
-        <source>Lumivane Home Page</source>
-        <translation>Página do Lumivane</translation>
+        <source>Lumivane &amp;Home Page</source>
+        <translation>&amp;Página do Lumivane</translation>
     </message>
     <message>
-        <source>About Lumivane</source>
-        <translation>Sobre o Lumivane</translation>
+        <source>&amp;About Lumivane</source>
+        <translation>S&amp;obre o Lumivane</translation>
     </message>
     <message>
-        <source>Quit Lumivane</source>
-        <translation>Sair do Lumivane</translation>
+        <source>&amp;Quit Lumivane</source>
+        <translation>&amp;Sair do Lumivane</translation>
     </message>
     <message>
-        <source>From System Settings</source>
-        <translation>Das configurações do sistema</translation>
+        <source>From &amp;System Settings</source>
+        <translation>Das configurações do &amp;sistema</translation>
     </message>
     <message>
-        <source>Find on the Web...</source>
-        <translation>Procurar na Web…</translation>
+        <source>Find on the &amp;Web...</source>
+        <translation>Procurar na &amp;Web…</translation>
     </message>
     <message>
         <source>Text</source>
@@ -384,6 +384,10 @@
         <translation>Abrir o Lumivane…</translation>
     </message>
     <message>
+        <source>Copy Information to Clipboard</source>
+        <translation>Copiar informações para a área de transferência</translation>
+    </message>
+    <message>
         <source>Sun: ^1</source>
         <translation>Sol: ^1</translation>
     </message>
@@ -433,23 +437,23 @@
     </message>
     <message>
         <source>Lumivane is not inside your Applications folder.</source>
-        <translation>O Lumivane não está na sua pasta “Applications”.</translation>
+        <translation>O Lumivane não está instalado entre os seus aplicativos.</translation>
     </message>
     <message>
         <source>We highly recommend you install Lumivane in to your Applications folder.  (This warning will only be shown once for the current install location.)  Please quit Lumivane before moving it, if you do so.</source>
-        <translation>Recomendamos fortemente que você instale o Lumivane na sua pasta “Applications”. (Este aviso só será exibido uma vez para o local de instalação atual.) Antes de movê-lo, saia do Lumivane.</translation>
+        <translation>Recomendamos fortemente que você instale o Lumivane, para que ele apareça entre os seus aplicativos e seja aberto ao iniciar a sessão a partir de um local fixo. (Este aviso só será exibido uma vez para o local atual.) Antes de movê-lo, saia do Lumivane.</translation>
     </message>
     <message>
-        <source>Show Lumivane</source>
-        <translation>Mostrar o Lumivane</translation>
+        <source>&amp;Show Lumivane</source>
+        <translation>&amp;Mostrar o Lumivane</translation>
     </message>
     <message>
         <source>It appears that Lumivane.app was moved while it was running!</source>
-        <translation>Parece que o Lumivane foi movido enquanto estava em execução!</translation>
+        <translation>Parece que o Lumivane foi movido ou removido enquanto estava em execução!</translation>
     </message>
     <message>
         <source>Mac OS X does not support moving or renaming applications while they are running.  Lumivane needs to quit now before bad things happen.</source>
-        <translation>O sistema não permite mover nem renomear aplicativos em execução. O Lumivane precisa ser encerrado agora, antes que algo ruim aconteça.</translation>
+        <translation>Os arquivos do Lumivane não estão mais onde estavam quando ele foi aberto. O Lumivane precisa ser encerrado agora; abra-o novamente a partir do local atual.</translation>
     </message>
     <message>
         <source>Quit</source>
@@ -541,7 +545,7 @@
     </message>
     <message>
         <source>GMT Time Zone Offset:</source>
-        <translation>Diferença em relação ao GMT:</translation>
+        <translation>Diferença em relação ao &amp;GMT:</translation>
     </message>
     <message>
         <source>For Example: -5, +1.5, 12, 0</source>
@@ -592,16 +596,16 @@
         <translation>O %1 %2 já está disponível (você tem a versão %3).</translation>
     </message>
     <message>
-        <source>Remind Me Later</source>
-        <translation>Lembrar mais tarde</translation>
+        <source>&amp;Remind Me Later</source>
+        <translation>&amp;Lembrar mais tarde</translation>
     </message>
     <message>
-        <source>Skip This Version</source>
-        <translation>Pular esta versão</translation>
+        <source>&amp;Skip This Version</source>
+        <translation>&amp;Pular esta versão</translation>
     </message>
     <message>
-        <source>Learn More...</source>
-        <translation>Saiba mais…</translation>
+        <source>&amp;Learn More...</source>
+        <translation>&amp;Saiba mais…</translation>
     </message>
     <message>
         <source>You&apos;re up to date!</source>
@@ -620,8 +624,8 @@
         <translation>Erro de atualização!</translation>
     </message>
     <message>
-        <source>Release Notes:</source>
-        <translation>Notas da versão:</translation>
+        <source>Release &amp;Notes:</source>
+        <translation>&amp;Notas da versão:</translation>
     </message>
     <message>
         <source>Checking for updates...</source>
@@ -642,6 +646,10 @@
     <message>
         <source>%1 is not between %2 and %3.</source>
         <translation>%1 não está entre %2 e %3.</translation>
+    </message>
+    <message>
+        <source>Back to the tray icon</source>
+        <translation>Voltar ao ícone da bandeja</translation>
     </message>
 </context>
 </TS>

@@ -4,16 +4,16 @@
 <context>
     <name>Lumivane</name>
     <message>
-        <source>Number:</source>
-        <translation>Число:</translation>
+        <source>&amp;Number:</source>
+        <translation>&amp;Число:</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation>ОК</translation>
+        <translation>&amp;ОК</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation>Отмена</translation>
+        <translation>О&amp;тмена</translation>
     </message>
     <message>
         <source>Lumivane</source>
@@ -32,12 +32,12 @@
         <translation>Скрыть</translation>
     </message>
     <message>
-        <source>Moon</source>
-        <translation>Луна</translation>
+        <source>&amp;Moon</source>
+        <translation>&amp;Луна</translation>
     </message>
     <message>
-        <source>Information</source>
-        <translation>Сведения</translation>
+        <source>&amp;Information</source>
+        <translation>&amp;Сведения</translation>
     </message>
     <message>
         <source>New moon</source>
@@ -56,20 +56,20 @@
         <translation>Последняя четверть</translation>
     </message>
     <message>
-        <source>Rise and Set</source>
-        <translation>Восход и заход</translation>
+        <source>&amp;Rise and Set</source>
+        <translation>&amp;Восход и заход</translation>
     </message>
     <message>
-        <source>Calculation</source>
-        <translation>Расчёт</translation>
+        <source>&amp;Calculation</source>
+        <translation>&amp;Расчёт</translation>
     </message>
     <message>
         <source>Date and time</source>
         <translation>Дата и время</translation>
     </message>
     <message>
-        <source>Now</source>
-        <translation>Сейчас</translation>
+        <source>&amp;Now</source>
+        <translation>Сей&amp;час</translation>
     </message>
     <message>
         <source>Back to the present</source>
@@ -128,12 +128,12 @@
         <translation>Полнолуние следующей лунации</translation>
     </message>
     <message>
-        <source>Settings</source>
-        <translation>Настройки</translation>
+        <source>&amp;Settings</source>
+        <translation>&amp;Настройки</translation>
     </message>
     <message>
-        <source>Time zone:</source>
-        <translation>Часовой пояс:</translation>
+        <source>&amp;Time zone:</source>
+        <translation>Часовой &amp;пояс:</translation>
     </message>
     <message>
         <source>Time zone</source>
@@ -152,68 +152,68 @@
         <translation>Другой…</translation>
     </message>
     <message>
-        <source>Place:</source>
-        <translation>Место:</translation>
+        <source>&amp;Place:</source>
+        <translation>&amp;Место:</translation>
     </message>
     <message>
-        <source>Set Latitude and Longitude</source>
-        <translation>Задать широту и долготу</translation>
+        <source>S&amp;et Latitude and Longitude</source>
+        <translation>&amp;Задать широту и долготу</translation>
     </message>
     <message>
-        <source>Latitude:</source>
-        <translation>Широта:</translation>
+        <source>&amp;Latitude:</source>
+        <translation>&amp;Широта:</translation>
     </message>
     <message>
         <source>Latitude in degrees, north positive</source>
         <translation>Широта в градусах, к северу положительная</translation>
     </message>
     <message>
-        <source>Longitude:</source>
-        <translation>Долгота:</translation>
+        <source>L&amp;ongitude:</source>
+        <translation>&amp;Долгота:</translation>
     </message>
     <message>
         <source>Longitude in degrees, east positive</source>
         <translation>Долгота в градусах, к востоку положительная</translation>
     </message>
     <message>
-        <source>Brightness:</source>
-        <translation>Яркость:</translation>
+        <source>&amp;Brightness:</source>
+        <translation>&amp;Яркость:</translation>
     </message>
     <message>
         <source>Brightness of the pictures</source>
         <translation>Яркость изображений</translation>
     </message>
     <message>
-        <source>Copy Information to Clipboard</source>
-        <translation>Копировать сведения в буфер обмена</translation>
+        <source>&amp;Copy Information to Clipboard</source>
+        <translation>&amp;Копировать сведения в буфер обмена</translation>
     </message>
     <message>
-        <source>Open at Login</source>
-        <translation>Запускать при входе в систему</translation>
+        <source>&amp;Open at Login</source>
+        <translation>Запускать при в&amp;ходе в систему</translation>
     </message>
     <message>
-        <source>Check for Update...</source>
-        <translation>Проверить наличие обновлений…</translation>
+        <source>Check for &amp;Update...</source>
+        <translation>Проверить наличие &amp;обновлений…</translation>
     </message>
     <message>
-        <source>Lumivane Home Page</source>
-        <translation>Веб-сайт Lumivane</translation>
+        <source>Lumivane &amp;Home Page</source>
+        <translation>&amp;Веб-сайт Lumivane</translation>
     </message>
     <message>
-        <source>About Lumivane</source>
-        <translation>О программе Lumivane</translation>
+        <source>&amp;About Lumivane</source>
+        <translation>О &amp;программе Lumivane</translation>
     </message>
     <message>
-        <source>Quit Lumivane</source>
-        <translation>Завершить Lumivane</translation>
+        <source>&amp;Quit Lumivane</source>
+        <translation>&amp;Завершить Lumivane</translation>
     </message>
     <message>
-        <source>From System Settings</source>
-        <translation>Из настроек системы</translation>
+        <source>From &amp;System Settings</source>
+        <translation>Из настроек &amp;системы</translation>
     </message>
     <message>
-        <source>Find on the Web...</source>
-        <translation>Найти в интернете…</translation>
+        <source>Find on the &amp;Web...</source>
+        <translation>&amp;Найти в интернете…</translation>
     </message>
     <message>
         <source>Text</source>
@@ -384,6 +384,10 @@
         <translation>Открыть Lumivane…</translation>
     </message>
     <message>
+        <source>Copy Information to Clipboard</source>
+        <translation>Копировать сведения в буфер обмена</translation>
+    </message>
+    <message>
         <source>Sun: ^1</source>
         <translation>Солнце: ^1</translation>
     </message>
@@ -433,23 +437,23 @@
     </message>
     <message>
         <source>Lumivane is not inside your Applications folder.</source>
-        <translation>Программа Lumivane находится не в вашей папке «Applications».</translation>
+        <translation>Программа Lumivane не установлена среди ваших приложений.</translation>
     </message>
     <message>
         <source>We highly recommend you install Lumivane in to your Applications folder.  (This warning will only be shown once for the current install location.)  Please quit Lumivane before moving it, if you do so.</source>
-        <translation>Настоятельно рекомендуем установить Lumivane в папку «Applications». (Для текущего места установки это предупреждение показывается только один раз.) Перед перемещением завершите Lumivane.</translation>
+        <translation>Настоятельно рекомендуем установить Lumivane, чтобы программа была среди ваших приложений и запускалась при входе в систему из постоянного места. (Для текущего места это предупреждение показывается только один раз.) Перед перемещением завершите Lumivane.</translation>
     </message>
     <message>
-        <source>Show Lumivane</source>
-        <translation>Показать Lumivane</translation>
+        <source>&amp;Show Lumivane</source>
+        <translation>Показ&amp;ать Lumivane</translation>
     </message>
     <message>
         <source>It appears that Lumivane.app was moved while it was running!</source>
-        <translation>Похоже, программу Lumivane переместили во время её работы!</translation>
+        <translation>Похоже, программу Lumivane переместили или удалили во время её работы!</translation>
     </message>
     <message>
         <source>Mac OS X does not support moving or renaming applications while they are running.  Lumivane needs to quit now before bad things happen.</source>
-        <translation>Система не поддерживает перемещение и переименование работающих программ. Lumivane необходимо завершить сейчас, пока не случилось ничего плохого.</translation>
+        <translation>Файлов Lumivane больше нет там, где они были при запуске. Lumivane необходимо завершить сейчас; запустите программу снова из её нынешнего места.</translation>
     </message>
     <message>
         <source>Quit</source>
@@ -541,7 +545,7 @@
     </message>
     <message>
         <source>GMT Time Zone Offset:</source>
-        <translation>Смещение относительно GMT:</translation>
+        <translation>&amp;Смещение относительно GMT:</translation>
     </message>
     <message>
         <source>For Example: -5, +1.5, 12, 0</source>
@@ -592,16 +596,16 @@
         <translation>Доступна версия %1 %2 (у вас установлена %3).</translation>
     </message>
     <message>
-        <source>Remind Me Later</source>
-        <translation>Напомнить позже</translation>
+        <source>&amp;Remind Me Later</source>
+        <translation>&amp;Напомнить позже</translation>
     </message>
     <message>
-        <source>Skip This Version</source>
-        <translation>Пропустить эту версию</translation>
+        <source>&amp;Skip This Version</source>
+        <translation>&amp;Пропустить эту версию</translation>
     </message>
     <message>
-        <source>Learn More...</source>
-        <translation>Подробнее…</translation>
+        <source>&amp;Learn More...</source>
+        <translation>По&amp;дробнее…</translation>
     </message>
     <message>
         <source>You&apos;re up to date!</source>
@@ -620,8 +624,8 @@
         <translation>Ошибка обновления!</translation>
     </message>
     <message>
-        <source>Release Notes:</source>
-        <translation>Что нового:</translation>
+        <source>Release &amp;Notes:</source>
+        <translation>&amp;Что нового:</translation>
     </message>
     <message>
         <source>Checking for updates...</source>
@@ -642,6 +646,10 @@
     <message>
         <source>%1 is not between %2 and %3.</source>
         <translation>%1 не входит в диапазон от %2 до %3.</translation>
+    </message>
+    <message>
+        <source>Back to the tray icon</source>
+        <translation>Вернуть к значку в области уведомлений</translation>
     </message>
 </context>
 </TS>

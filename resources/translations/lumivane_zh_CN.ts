@@ -4,16 +4,16 @@
 <context>
     <name>Lumivane</name>
     <message>
-        <source>Number:</source>
-        <translation>数值：</translation>
+        <source>&amp;Number:</source>
+        <translation>数值(&amp;N)：</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation>确定</translation>
+        <translation>确定(&amp;O)</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation>取消</translation>
+        <translation>取消(&amp;C)</translation>
     </message>
     <message>
         <source>Lumivane</source>
@@ -32,12 +32,12 @@
         <translation>隐藏</translation>
     </message>
     <message>
-        <source>Moon</source>
-        <translation>月亮</translation>
+        <source>&amp;Moon</source>
+        <translation>月亮(&amp;M)</translation>
     </message>
     <message>
-        <source>Information</source>
-        <translation>信息</translation>
+        <source>&amp;Information</source>
+        <translation>信息(&amp;I)</translation>
     </message>
     <message>
         <source>New moon</source>
@@ -56,20 +56,20 @@
         <translation>下弦月</translation>
     </message>
     <message>
-        <source>Rise and Set</source>
-        <translation>升落时间</translation>
+        <source>&amp;Rise and Set</source>
+        <translation>升落时间(&amp;R)</translation>
     </message>
     <message>
-        <source>Calculation</source>
-        <translation>计算</translation>
+        <source>&amp;Calculation</source>
+        <translation>计算(&amp;C)</translation>
     </message>
     <message>
         <source>Date and time</source>
         <translation>日期和时间</translation>
     </message>
     <message>
-        <source>Now</source>
-        <translation>现在</translation>
+        <source>&amp;Now</source>
+        <translation>现在(&amp;N)</translation>
     </message>
     <message>
         <source>Back to the present</source>
@@ -128,12 +128,12 @@
         <translation>下一个朔望月的满月</translation>
     </message>
     <message>
-        <source>Settings</source>
-        <translation>设置</translation>
+        <source>&amp;Settings</source>
+        <translation>设置(&amp;S)</translation>
     </message>
     <message>
-        <source>Time zone:</source>
-        <translation>时区：</translation>
+        <source>&amp;Time zone:</source>
+        <translation>时区(&amp;T)：</translation>
     </message>
     <message>
         <source>Time zone</source>
@@ -152,68 +152,68 @@
         <translation>其他…</translation>
     </message>
     <message>
-        <source>Place:</source>
-        <translation>地点：</translation>
+        <source>&amp;Place:</source>
+        <translation>地点(&amp;P)：</translation>
     </message>
     <message>
-        <source>Set Latitude and Longitude</source>
-        <translation>设置纬度和经度</translation>
+        <source>S&amp;et Latitude and Longitude</source>
+        <translation>设置纬度和经度(&amp;E)</translation>
     </message>
     <message>
-        <source>Latitude:</source>
-        <translation>纬度：</translation>
+        <source>&amp;Latitude:</source>
+        <translation>纬度(&amp;L)：</translation>
     </message>
     <message>
         <source>Latitude in degrees, north positive</source>
         <translation>纬度（度，北纬为正）</translation>
     </message>
     <message>
-        <source>Longitude:</source>
-        <translation>经度：</translation>
+        <source>L&amp;ongitude:</source>
+        <translation>经度(&amp;O)：</translation>
     </message>
     <message>
         <source>Longitude in degrees, east positive</source>
         <translation>经度（度，东经为正）</translation>
     </message>
     <message>
-        <source>Brightness:</source>
-        <translation>亮度：</translation>
+        <source>&amp;Brightness:</source>
+        <translation>亮度(&amp;B)：</translation>
     </message>
     <message>
         <source>Brightness of the pictures</source>
         <translation>图片的亮度</translation>
     </message>
     <message>
-        <source>Copy Information to Clipboard</source>
-        <translation>将信息复制到剪贴板</translation>
+        <source>&amp;Copy Information to Clipboard</source>
+        <translation>将信息复制到剪贴板(&amp;C)</translation>
     </message>
     <message>
-        <source>Open at Login</source>
-        <translation>登录时启动</translation>
+        <source>&amp;Open at Login</source>
+        <translation>登录时启动(&amp;O)</translation>
     </message>
     <message>
-        <source>Check for Update...</source>
-        <translation>检查更新…</translation>
+        <source>Check for &amp;Update...</source>
+        <translation>检查更新(&amp;U)…</translation>
     </message>
     <message>
-        <source>Lumivane Home Page</source>
-        <translation>Lumivane 主页</translation>
+        <source>Lumivane &amp;Home Page</source>
+        <translation>Lumivane 主页(&amp;H)</translation>
     </message>
     <message>
-        <source>About Lumivane</source>
-        <translation>关于 Lumivane</translation>
+        <source>&amp;About Lumivane</source>
+        <translation>关于 Lumivane(&amp;A)</translation>
     </message>
     <message>
-        <source>Quit Lumivane</source>
-        <translation>退出 Lumivane</translation>
+        <source>&amp;Quit Lumivane</source>
+        <translation>退出 Lumivane(&amp;Q)</translation>
     </message>
     <message>
-        <source>From System Settings</source>
-        <translation>来自系统设置</translation>
+        <source>From &amp;System Settings</source>
+        <translation>来自系统设置(&amp;S)</translation>
     </message>
     <message>
-        <source>Find on the Web...</source>
-        <translation>在网上查找…</translation>
+        <source>Find on the &amp;Web...</source>
+        <translation>在网上查找(&amp;W)…</translation>
     </message>
     <message>
         <source>Text</source>
@@ -384,6 +384,10 @@
         <translation>打开 Lumivane…</translation>
     </message>
     <message>
+        <source>Copy Information to Clipboard</source>
+        <translation>将信息复制到剪贴板</translation>
+    </message>
+    <message>
         <source>Sun: ^1</source>
         <translation>太阳：^1</translation>
     </message>
@@ -433,23 +437,23 @@
     </message>
     <message>
         <source>Lumivane is not inside your Applications folder.</source>
-        <translation>Lumivane 不在您的“Applications”文件夹中。</translation>
+        <translation>Lumivane 尚未安装到您的应用程序中。</translation>
     </message>
     <message>
         <source>We highly recommend you install Lumivane in to your Applications folder.  (This warning will only be shown once for the current install location.)  Please quit Lumivane before moving it, if you do so.</source>
-        <translation>强烈建议您将 Lumivane 安装到“Applications”文件夹中。（对于当前的安装位置，此警告只会显示一次。）如要移动 Lumivane，请先将其退出。</translation>
+        <translation>强烈建议您安装 Lumivane，使其出现在您的应用程序列表中，并在登录时从固定的位置启动。（对于当前的位置，此警告只会显示一次。）如要移动 Lumivane，请先将其退出。</translation>
     </message>
     <message>
-        <source>Show Lumivane</source>
-        <translation>显示 Lumivane</translation>
+        <source>&amp;Show Lumivane</source>
+        <translation>显示 Lumivane(&amp;S)</translation>
     </message>
     <message>
         <source>It appears that Lumivane.app was moved while it was running!</source>
-        <translation>Lumivane 似乎在运行时被移动了！</translation>
+        <translation>Lumivane 似乎在运行时被移动或删除了！</translation>
     </message>
     <message>
         <source>Mac OS X does not support moving or renaming applications while they are running.  Lumivane needs to quit now before bad things happen.</source>
-        <translation>系统不支持移动或重命名正在运行的应用程序。为避免出现问题，Lumivane 现在需要退出。</translation>
+        <translation>Lumivane 的文件已不在启动时的位置。Lumivane 现在需要退出；请从其当前位置重新启动。</translation>
     </message>
     <message>
         <source>Quit</source>
@@ -541,7 +545,7 @@
     </message>
     <message>
         <source>GMT Time Zone Offset:</source>
-        <translation>与 GMT 的时差：</translation>
+        <translation>与 GMT 的时差(&amp;T)：</translation>
     </message>
     <message>
         <source>For Example: -5, +1.5, 12, 0</source>
@@ -592,16 +596,16 @@
         <translation>%1 %2 现已可用（您的版本是 %3）。</translation>
     </message>
     <message>
-        <source>Remind Me Later</source>
-        <translation>稍后提醒我</translation>
+        <source>&amp;Remind Me Later</source>
+        <translation>稍后提醒我(&amp;R)</translation>
     </message>
     <message>
-        <source>Skip This Version</source>
-        <translation>跳过此版本</translation>
+        <source>&amp;Skip This Version</source>
+        <translation>跳过此版本(&amp;S)</translation>
     </message>
     <message>
-        <source>Learn More...</source>
-        <translation>了解更多…</translation>
+        <source>&amp;Learn More...</source>
+        <translation>了解更多(&amp;L)…</translation>
     </message>
     <message>
         <source>You&apos;re up to date!</source>
@@ -620,8 +624,8 @@
         <translation>更新出错！</translation>
     </message>
     <message>
-        <source>Release Notes:</source>
-        <translation>发行说明：</translation>
+        <source>Release &amp;Notes:</source>
+        <translation>发行说明(&amp;N)：</translation>
     </message>
     <message>
         <source>Checking for updates...</source>
@@ -642,6 +646,10 @@
     <message>
         <source>%1 is not between %2 and %3.</source>
         <translation>%1 不在 %2 到 %3 的范围内。</translation>
+    </message>
+    <message>
+        <source>Back to the tray icon</source>
+        <translation>回到托盘图标</translation>
     </message>
 </context>
 </TS>

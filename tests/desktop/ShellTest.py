@@ -71,13 +71,13 @@ class ShellTest(unittest.TestCase):
         self.assertEqual(self.desktop.program.wait(10), 0)
 
     def test_warning_comes_once_for_a_place(self):
-        # The same tree without a desktop entry lies in no Applications folder.
+        # The same tree without a desktop entry is not among the applications.
         tree = pathlib.Path(self.desktop.home, "elsewhere")
         shutil.copytree(pathlib.Path(PROGRAM).parent.parent, tree, dirs_exist_ok=True)
         shutil.rmtree(tree / "share/applications")
         program = str(tree / "bin/Lumivane")
         self.desktop.start(program)
-        warning = "Lumivane is not inside your Applications folder."
+        warning = "Lumivane is not installed among your applications."
         wait_for("the warning", lambda: self.desktop.shown_text(warning))
         self.desktop.key("Return")
         wait_for("the warning to go", lambda: not self.desktop.shown_text(warning))

@@ -499,7 +499,7 @@ class Desktop:
                            GLib.Variant("(iias)", (0, -1, []))).unpack()[1]
         items = [item[1] for item in layout[2] if item[1].get("type") != "separator"]
         return {item["label"].replace("_", ""): item.get("toggle-state") for item in items
-                if item["label"] != "Show Lumivane"}
+                if item["label"] != "_Show Lumivane"}
 
     def choose(self, command):
         """Chooses a command from the gear menu, by the keyboard: menus are not among what a screen reader walks."""

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shared/utilities/classes/AskNumber.h"
 
+#include "platform/appkit/Mnemonics.h"
 #include "platform/appkit/NSNib.h"
 
 #include <QApplication>
@@ -46,7 +47,7 @@ bool AskNumber::awakeFromNib(QString* error) {
         userText_->setText(defaultUserText_);
     if (!defaultSmallMessage_.isNull())
         smallMessage_->setText(defaultSmallMessage_);
-    userText_->setAccessibleName(message_->text());
+    userText_->setAccessibleName(withoutMnemonic(message_->text()));
     userText_->setAccessibleDescription(smallMessage_->text());
     userText_->setFocus();
     userText_->selectAll();

@@ -19,7 +19,8 @@ public:
     using Completion = std::function<void(const QString& answer, AskNumber* dialog)>;
 
     /// Opens the dialog over `window`, or with null by itself, in which case it has ended on return. A null
-    /// text leaves what the layout holds. Null, with a log line, when the layout can't be loaded.
+    /// text leaves what the layout holds. `message` marks the letter that leads to the answer by '&'. Null,
+    /// with a log line, when the layout can't be loaded.
     static AskNumber* AskNumberWithMessage(const QString& message, const QString& smallMessage,
                                            const QString& userText, QWidget* window, Completion completion);
 

@@ -190,7 +190,7 @@ void DisclosureTriangleWithResize::showFoldedViews() {
 }
 
 QSize DisclosureTriangleWithResize::sizeHint() const {
-    const int text = fontMetrics().horizontalAdvance(this->text());
+    const int text = fontMetrics().size(Qt::TextShowMnemonic, this->text()).width();
     return {kArrowSide + kGap + text + kGap, fontMetrics().height() + 2 * kPadding};
 }
 
@@ -207,8 +207,10 @@ void DisclosureTriangleWithResize::paintEvent(QPaintEvent*) {
     triangle.rect.moveCenter(arrow.center());
     const auto folded = isRightToLeft() ? QStyle::PE_IndicatorArrowLeft : QStyle::PE_IndicatorArrowRight;
     style()->drawPrimitive(isChecked() ? QStyle::PE_IndicatorArrowDown : folded, &triangle, &painter, this);
-    style()->drawItemText(&painter, text, Qt::AlignVCenter | Qt::AlignLeading, option.palette, isEnabled(),
-                          this->text(), foregroundRole());
+    const bool underlines = style()->styleHint(QStyle::SH_UnderlineShortcut, &option, this) != 0;
+    const int mnemonic = underlines ? Qt::TextShowMnemonic : Qt::TextHideMnemonic;
+    style()->drawItemText(&painter, text, Qt::AlignVCenter | Qt::AlignLeading | mnemonic, option.palette,
+                          isEnabled(), this->text(), foregroundRole());
     if (hasFocus()) {
         QStyleOptionFocusRect focus;
         focus.initFrom(this);

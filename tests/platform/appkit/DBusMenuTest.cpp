@@ -45,7 +45,9 @@ QVariant property(const DBusMenuLayout& item, const char* name) {
 } // namespace
 
 TEST_F(DBusMenuTest, GivesTheWholeMenu) {
-    menu.addAction(QStringLiteral("&Save && quit my_file &now"))->setEnabled(false);
+    QAction* const save = menu.addAction(QStringLiteral("&Save && quit my_file &now"));
+    save->setEnabled(false);
+    save->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_Q);
     menu.addSeparator();
     QAction* const check = menu.addAction(QStringLiteral("Check"));
     check->setCheckable(true);
@@ -63,6 +65,9 @@ TEST_F(DBusMenuTest, GivesTheWholeMenu) {
     ASSERT_EQ(root.children.size(), 4);
     EXPECT_EQ(property(root.children[0], "label"), QStringLiteral("_Save & quit my__file now"));
     EXPECT_EQ(property(root.children[0], "enabled"), false);
+    EXPECT_EQ(
+        property(root.children[0], "shortcut").value<QList<QStringList>>(),
+        QList<QStringList>({{QStringLiteral("Control"), QStringLiteral("Shift"), QStringLiteral("q")}}));
     EXPECT_EQ(property(root.children[1], "type"), QStringLiteral("separator"));
     EXPECT_EQ(property(root.children[2], "toggle-type"), QStringLiteral("checkmark"));
     EXPECT_EQ(property(root.children[2], "toggle-state"), 0);

@@ -10,12 +10,15 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDateTimeEdit>
+#include <QDoubleSpinBox>
 #include <QFile>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMetaProperty>
 #include <QPushButton>
 #include <QSlider>
 #include <QTemporaryDir>
+#include <QWheelEvent>
 
 #include <gtest/gtest.h>
 
@@ -282,6 +285,45 @@ TEST_F(NSNibTest, RegisteredClassesAreMadeAndBoundByTheirDoubleValue) {
     EXPECT_TRUE(owner_.senders.isEmpty());
     dial->setDoubleValue(0.25);
     EXPECT_EQ(owner_.seen, QList<float>{0.25F});
+}
+
+TEST_F(NSNibTest, TheWheelChangesOnlyTheControlThatHasTheFocus) {
+    ASSERT_TRUE(load(control("QComboBox", "box", nullptr) + control("QSlider", "slider", nullptr) +
+                     control("QDoubleSpinBox", "number", nullptr) +
+                     control("QDateTimeEdit", "date", nullptr) +
+                     control("QPushButton", "elsewhere", nullptr)))
+        << error_.toStdString();
+    get<QComboBox>("box")->addItems({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")});
+    get<QSlider>("slider")->setValue(50);
+    get<QDoubleSpinBox>("number")->setValue(50);
+    get<QDateTimeEdit>("date")->setDateTime(gmt(2026, 7, 15));
+    root_->show();
+    root_->activateWindow();
+    QApplication::processEvents();
+    // A notched wheel, and a touchpad's gesture.
+    using Turn = std::pair<QPoint, Qt::ScrollPhase>;
+    const QList<QList<Turn>> gestures{{{{0, -120}, Qt::NoScrollPhase}},
+                                      {{{0, -60}, Qt::ScrollBegin}, {{0, -60}, Qt::ScrollUpdate}}};
+    for (const char* name : {"box", "slider", "number", "date"}) {
+        SCOPED_TRACE(name);
+        auto* controlled = get<QWidget>(name);
+        const auto value = [&] { return controlled->metaObject()->userProperty().read(controlled); };
+        for (const QList<Turn>& gesture : gestures) {
+            for (const bool focused : {false, true}) {
+                get<QWidget>(focused ? name : "elsewhere")->setFocus();
+                ASSERT_EQ(controlled->hasFocus(), focused);
+                const QVariant before = value();
+                for (const auto& [angle, phase] : gesture) {
+                    QWheelEvent event({1, 1}, {1, 1}, angle / 3, angle, Qt::NoButton, Qt::NoModifier, phase,
+                                      false);
+                    QApplication::sendEvent(controlled, &event);
+                    EXPECT_EQ(event.isAccepted(), focused) << "else what lies around gets it";
+                }
+                EXPECT_EQ(value() != before, focused);
+            }
+        }
+        EXPECT_EQ(controlled->focusPolicy(), Qt::StrongFocus);
+    }
 }
 
 #include "NSNibTest.moc"

@@ -27,7 +27,7 @@ class AskNumberTest : public testing::Test {
 protected:
     AskNumber* open(const QString& userText, QWidget* window) {
         return AskNumber::AskNumberWithMessage(
-            QStringLiteral("Offset & more:"), QStringLiteral("For example: 0"), userText, window,
+            QStringLiteral("&Offset && more:"), QStringLiteral("For example: 0"), userText, window,
             [this](const QString& answer, AskNumber* dialog) {
                 outcomes_.append({answer, dialog->ok(), dialog->refCon(), dialog->window()->isVisible()});
             });
