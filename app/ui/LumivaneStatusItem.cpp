@@ -8,7 +8,6 @@
 #include "platform/appkit/NSScreen.h"
 #include "platform/appkit/NSStatusItem.h"
 #include "platform/appkit/SwayPlacement.h"
-#include "platform/carbon/GetMBarHeight.h"
 #include "platform/foundation/NSBundle.h"
 #include "platform/foundation/NSDate.h"
 #include "shared/utilities/classes/ExtraApplicationUtilities.h"
@@ -83,7 +82,7 @@ void LumivaneStatusItem::moonClockTimer() {
 }
 
 void LumivaneStatusItem::setImage(const QImage& image) {
-    const int side = GetMBarHeight() - 4;
+    const int side = NSStatusItem::kHeight - 4;
     QList<QImage> images;
     if (!image.isNull()) {
         // Averages of averages are the same averages: the large picture is gone through once, not for each
