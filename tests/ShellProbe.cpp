@@ -1,16 +1,12 @@
 // SPDX-License-Identifier: MIT
-// What the tests run as another copy of the program.
-//   shell_probe copy [dialog]     announces itself, ends older copies, and tells what reaches it, first in a
-//   dialog shell_probe ask CODE TICKS    sends 'aevt' CODE to a copy and prints the send's and the reply's
-//   status
-#include "platform/carbon/AppleEvents.h"
-#include "platform/carbon/Processes.h"
+// What the tests run as another copy of the program: `shell_probe [warned]` does what every start does and
+// tells what reaches it. Without the word it shows the warning of its folder first.
+#include "app/shell/ApplicationDelegate.h"
 #include "platform/foundation/NSBundle.h"
-#include "shared/utilities/classes/ExtraAppleEventManagerUtilities.h"
-#include "shared/utilities/classes/ExtraStringUtilities.h"
+#include "platform/foundation/NSUserDefaults.h"
 
 #include <QApplication>
-#include <QMessageBox>
+#include <QTimer>
 
 #include <cstdio>
 
@@ -21,57 +17,23 @@ void say(const QString& line) {
     std::fflush(stdout);
 }
 
-void sayWhenTold(AEEventID eventID, const QString& word) {
-    AEInstallEventHandler(kCoreEventClass, eventID, [word](const AppleEvent& event, AppleEvent*) {
-        AEDesc list;
-        AEDesc text;
-        if (AEGetParamDesc(event, keyDirectObject, typeAEList, &list) == noErr)
-            AEGetNthDesc(list, 1, typeUTF8Text, &text);
-        say(word + u' ' + QString::fromUtf8(text.data) + u' ' + qEnvironmentVariable("XDG_ACTIVATION_TOKEN"));
-        return noErr;
-    });
-}
-
-int runCopy(bool inDialog) {
-    sayWhenTold(kAEReopenApplication, QStringLiteral("raise"));
-    sayWhenTold(kAEOpenDocuments, QStringLiteral("open"));
-    announceProcess(NSBundle::mainBundle().bundleIdentifier());
-    ExtraAppleEventManagerUtilities::quickSend(kAEQuitApplication, NSBundle::mainBundle().bundleIdentifier());
-    say(QStringLiteral("ready"));
-    if (inDialog) {
-        QMessageBox().exec();
-        say(AEIsQuitting() ? QStringLiteral("quitting") : QStringLiteral("dialog closed"));
-    }
-    return QApplication::exec();
-}
-
-int ask(const QByteArray& code, long ticks) {
-    ProcessSerialNumber process;
-    if (code.size() != 4 ||
-        !ExtraStringUtilities::findProcess(NSBundle::mainBundle().bundleIdentifier(), &process))
-        return 2;
-    AEDesc target;
-    AppleEvent event;
-    AppleEvent reply;
-    AECreateDesc(typeProcessSerialNumber, &process, sizeof process, &target);
-    const char text[] = {code[0], code[1], code[2], code[3], '\0'};
-    AECreateAppleEvent(kCoreEventClass, fourCharCode(text), target, kAutoGenerateReturnID, kAnyTransactionID,
-                       &event);
-    const OSStatus sent = AESendMessage(event, &reply, kAEWaitReply, ticks);
-    std::int32_t answered = 0;
-    AEGetParamPtr(reply, keyErrorNumber, typeSInt32, &answered, sizeof answered, nullptr);
-    say(QStringLiteral("%1 %2").arg(sent).arg(answered));
-    return 0;
-}
-
 } // namespace
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
-    const QStringList arguments = QApplication::arguments();
-    if (arguments.value(1) == u"copy")
-        return runCopy(arguments.value(2) == u"dialog");
-    if (arguments.value(1) == u"ask")
-        return ask(arguments.value(2).toLatin1(), arguments.value(3).toLong());
-    return 2;
+    ApplicationDelegate delegate;
+    QObject::connect(&delegate, &ApplicationDelegate::raiseRequested, &application,
+                     [] { say(QStringLiteral("raise ") + qEnvironmentVariable("XDG_ACTIVATION_TOKEN")); });
+    const bool isWarned = QApplication::arguments().value(1) == u"warned";
+    if (isWarned)
+        NSUserDefaults::standardUserDefaults()->setObject(NSBundle::mainBundle().bundlePath(),
+                                                          QStringLiteral("LVNotApplicationsFolderWarning"));
+    else
+        QTimer::singleShot(0, [] { say(QStringLiteral("warning")); }); // in the warning's event loop
+    delegate.installNewVersion();
+    if (isWarned)
+        say(QStringLiteral("ready"));
+    else
+        say(delegate.alreadySetToStartup(std::nullopt) ? QStringLiteral("set") : QStringLiteral("not set"));
+    return QApplication::exec();
 }

@@ -2,7 +2,6 @@
 #include "app/engine/CMoonHelper.h"
 
 #include "app/engine/CRiseSet.h"
-#include "platform/carbon/MachineLocation.h"
 #include "platform/foundation/NSBundle.h"
 #include "platform/foundation/NSCalendar.h"
 #include "platform/foundation/NSLog.h"
@@ -163,10 +162,7 @@ int CMoonHelper::GetGMTOffset() {
 }
 
 bool CMoonHelper::DaylightSavingsIsOn() {
-    constexpr std::int8_t kDaylightSavingOn = -128;
-    MachineLocation location;
-    ReadLocation(&location);
-    return daylightSavingByte(location) == kDaylightSavingOn;
+    return NSTimeZone::isDaylightSavingTime(NSTimeZone::systemTimeZone());
 }
 
 QString CMoonHelper::stringForMoonName(int index) {

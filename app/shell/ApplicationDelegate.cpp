@@ -3,37 +3,25 @@
 
 #include "app/engine/CMoon.h"
 #include "app/engine/CMoonHelper.h"
-#include "platform/carbon/AppleEvents.h"
-#include "platform/carbon/Processes.h"
 #include "platform/foundation/NSBundle.h"
 #include "platform/foundation/NSLog.h"
 #include "platform/foundation/NSUserDefaults.h"
+#include "platform/instance/RunningCopies.h"
 #include "shared/utilities/classes/ExtraApplicationUtilities.h"
 #include "shared/utilities/classes/ExtraNumberUtilities.h"
 #include "shared/utilities/classes/ExtraStringUtilities.h"
 
 #include <QCoreApplication>
 #include <QMessageBox>
+#include <QTimer>
+
+#include <chrono>
 
 namespace {
 
 ApplicationDelegate* theDelegate = nullptr;
 
 constexpr int kSevenDays = 604800;
-
-/// The name in a desktop entry's action.
-QString actionName(const AppleEvent& event) {
-    AEDesc name;
-    return AEGetParamDesc(event, keyDirectObject, typeUTF8Text, &name) == noErr ? QString::fromUtf8(name.data)
-                                                                                : QString();
-}
-
-OSStatus quit(AppleEvent* reply) {
-    AppleEvent event;
-    const OSStatus err = AECreateAppleEvent(kCoreEventClass, kAEQuitApplication, {}, kAutoGenerateReturnID,
-                                            kAnyTransactionID, &event);
-    return err == noErr ? AEProcessAppleEvent(event, reply) : err;
-}
 
 } // namespace
 
@@ -46,8 +34,6 @@ ApplicationDelegate::ApplicationDelegate() {
 }
 
 ApplicationDelegate::~ApplicationDelegate() {
-    AEInstallEventHandler(kCoreEventClass, kAEReopenApplication, {});
-    AEInstallEventHandler(kCoreEventClass, kAEActivateAction, {});
     theDelegate = nullptr;
 }
 
@@ -84,35 +70,45 @@ void ApplicationDelegate::setupDefaultPreferences() {
 
 void ApplicationDelegate::awakeFromNib() {
     initCheckForUpdateURL();
-    answerDesktop();
     installNewVersion();
 }
 
-void ApplicationDelegate::answerDesktop() {
-    const auto show = [this](const AppleEvent&, AppleEvent*) {
+void ApplicationDelegate::announce() {
+    RunningCopies::announce(NSBundle::mainBundle().bundleIdentifier(),
+                            {.activate = [this] { Q_EMIT raiseRequested(); },
+                             .runAction = [this](const QString& name) { return runAction(name); },
+                             .quit = [this] { quit(); }},
+                            this);
+}
+
+bool ApplicationDelegate::runAction(const QString& name) {
+    if (name == u"show")
         Q_EMIT raiseRequested();
-        return noErr;
-    };
-    AEInstallEventHandler(kCoreEventClass, kAEReopenApplication, show);
-    AEInstallEventHandler(
-        kCoreEventClass, kAEActivateAction, [show](const AppleEvent& event, AppleEvent* reply) {
-            const QString action = actionName(event);
-            if (action == u"show")
-                return show(event, reply);
-            if (action == u"quit")
-                return quit(reply);
-            NSLog(QStringLiteral("The desktop asks for an action that is none: %1.").arg(action));
-            return errAEEventNotHandled;
-        });
+    else if (name == u"quit")
+        quit();
+    else
+        NSLog(QStringLiteral("The desktop asks for an action that is none: %1.").arg(name));
+    return name == u"show" || name == u"quit";
+}
+
+void ApplicationDelegate::quit() {
+    if (isQuitting_)
+        return;
+    isQuitting_ = true;
+    // Later, so that who asked still gets its answer; and again, since a dialog at the start has an event
+    // loop before the application has its own.
+    auto* timer = new QTimer(this);
+    timer->callOnTimeout([] { QCoreApplication::exit(0); });
+    timer->start(std::chrono::milliseconds(10));
 }
 
 void ApplicationDelegate::installNewVersion() {
-    announceProcess(NSBundle::mainBundle().bundleIdentifier());
+    announce();
     quitOlderCopies();
     const QString bundlePath = NSBundle::mainBundle().bundlePath();
     if (!ExtraStringUtilities::contains(bundlePath, QStringLiteral("Applications")))
         warnOutsideApplicationsOnce(bundlePath);
-    if (!AEIsQuitting()) // a newer copy, which starts at login now, may have ended the warning
+    if (!isQuitting_) // a newer copy, which starts at login now, may have ended the warning
         ensureSetToStartup();
 }
 

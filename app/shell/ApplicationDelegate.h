@@ -23,8 +23,7 @@ public:
     /// The one delegate; null before it is made.
     static ApplicationDelegate* sharedDelegate();
 
-    /// The second half of the start: the update feed's address, the desktop's requests, then
-    /// `installNewVersion`.
+    /// The second half of the start: the update feed's address, then `installNewVersion`.
     void awakeFromNib();
 
     /// Registers the defaults of time zone, place, brightness and update checks, and forbids the update
@@ -76,10 +75,13 @@ Q_SIGNALS:
 
 private:
     void setupDefaults();
-    void answerDesktop();
+    void announce();
+    bool runAction(const QString& name);
+    void quit();
     void quitOlderCopies();
     void warnOutsideApplicationsOnce(const QString& bundlePath);
     void ensureSetToStartup();
 
     std::unique_ptr<SUUpdater> sparkleUpdater_;
+    bool isQuitting_ = false;
 };

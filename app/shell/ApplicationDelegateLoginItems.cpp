@@ -21,12 +21,12 @@ QUrl urlOf(const QVariantMap& loginItem) {
 }
 
 void removeLoginItem(qsizetype index, const QUrl& url) {
-    if (const OSStatus err = LIAERemove(index); err != noErr)
+    if (const LIAEStatus err = LIAERemove(index); err != kLIAENoError)
         NSLog(QStringLiteral("Can't remove %1 from the login items (%2).").arg(url.toLocalFile()).arg(err));
 }
 
 void addLoginItem(const QUrl& url) {
-    if (const OSStatus err = LIAEAddURLAtEnd(&url, false); err != noErr)
+    if (const LIAEStatus err = LIAEAddURLAtEnd(&url, false); err != kLIAENoError)
         NSLog(QStringLiteral("Can't add %1 to the login items (%2).").arg(url.toLocalFile()).arg(err));
 }
 
@@ -34,8 +34,8 @@ void addLoginItem(const QUrl& url) {
 
 std::optional<QList<QVariantMap>> ApplicationDelegate::allLoginItems() const {
     std::unique_ptr<LoginItemsList> items;
-    const OSStatus err = LIAECopyLoginItems(&items);
-    if (err == noErr)
+    const LIAEStatus err = LIAECopyLoginItems(&items);
+    if (err == kLIAENoError)
         return *items;
     NSLog(QStringLiteral("Can't get login items list from system (%1).").arg(err));
     return std::nullopt;
@@ -68,10 +68,10 @@ void ApplicationDelegate::toggleSetToStartup(const std::optional<QUrl>& url) {
 }
 
 void ApplicationDelegate::quitOlderCopies() {
+    using namespace ExtraAppleEventManagerUtilities;
     const QString identifier = NSBundle::mainBundle().bundleIdentifier();
-    ExtraAppleEventManagerUtilities::quickSend(kAEQuitApplication,
-                                               identifier + QStringLiteral(".backgrounder.v203"));
-    ExtraAppleEventManagerUtilities::quickSend(kAEQuitApplication, identifier);
+    quickSend(Event::Quit, identifier + QStringLiteral(".backgrounder.v203"));
+    quickSend(Event::Quit, identifier);
     NSUserDefaults::standardUserDefaults()->synchronize();
 }
 

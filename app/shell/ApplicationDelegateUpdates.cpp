@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/shell/ApplicationDelegate.h"
 
-#include "platform/carbon/Processes.h"
 #include "platform/foundation/NSBundle.h"
 #include "platform/foundation/NSLog.h"
 #include "platform/foundation/NSUserDefaults.h"
@@ -44,11 +43,8 @@ QList<SUFeedParameter> ApplicationDelegate::feedParametersForUpdater(SUUpdater* 
 }
 
 bool ApplicationDelegate::openDownloadPage(const QUrl& page) {
-    const auto browser = InternetConfig::internetConfigWithApplicationSignature(kUnknownSignature);
-    if (!browser)
-        return false;
     try {
-        browser->launchURL(page.toString(QUrl::FullyEncoded), QString());
+        InternetConfig().launchURL(page.toString(QUrl::FullyEncoded), QString());
         return true;
     } catch (const std::exception& failure) {
         NSLog(QString::fromUtf8(failure.what()));

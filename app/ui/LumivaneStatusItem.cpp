@@ -8,7 +8,6 @@
 #include "platform/appkit/NSScreen.h"
 #include "platform/appkit/NSStatusItem.h"
 #include "platform/appkit/SwayPlacement.h"
-#include "platform/carbon/GetMBarHeight.h"
 #include "platform/foundation/NSBundle.h"
 #include "platform/foundation/NSDate.h"
 #include "platform/foundation/NSNumberFormatter.h"
@@ -119,7 +118,7 @@ void LumivaneStatusItem::moonClockTimer() {
 }
 
 void LumivaneStatusItem::setImage(const QImage& image) {
-    const int side = GetMBarHeight() - 4;
+    const int side = NSStatusItem::kHeight - 4;
     QList<QImage> images;
     // Averages of averages are the same averages: the large picture is gone through once, not for each size.
     const QImage small = NSImageUtilities::imageOfSize(image.isNull() ? pictureWithoutPhase() : image,

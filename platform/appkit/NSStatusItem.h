@@ -18,6 +18,10 @@ class NSStatusItem : public QObject {
     Q_OBJECT
 
 public:
+    /// The height, in points, that icons are drawn for first. A tray's own is known to the tray alone, which
+    /// scales from the sizes that it is given.
+    static constexpr int kHeight = 22;
+
     /// `identifier` names the item to trays that remember items ("lumivane"), `title` to people.
     /// Nothing is shown before the first `setImages`.
     NSStatusItem(const QString& identifier, const QString& title, QObject* parent = nullptr);

@@ -7,11 +7,11 @@
 
 #include <memory>
 
-/// Stands for making attributed text from RTF. Backed by a reader of our own of the part of the format that a
-/// short text uses: paragraphs with their alignment and spacing, bold, italic, underline, sizes, colours and
-/// links. Fonts are the application's; tables, pictures and whatever else is unknown are left out.
+/// Reads the part of RTF that the credits use: Latin-1 text, centred paragraphs and their spacing, line
+/// breaks, bold, italic, sizes, colours and links. Fonts are the application's; whatever else is unknown is
+/// left out.
 ///
 /// Nothing in `rtf` is trusted. Null, with the reason in `error`, when it is no RTF, breaks off, holds a
-/// malformed escape, or is larger or deeper nested than a text to be read on a screen is. Links to anything
-/// but web pages (http, https) and mail addresses become plain text.
+/// malformed character, is larger than 64 KiB or nested deeper than 100 groups. Links to anything but web
+/// pages (http, https) and mail addresses become plain text.
 std::unique_ptr<QTextDocument> documentFromRTF(const QByteArray& rtf, QString* error);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/foundation/NSBundle.h"
 
-#include "platform/foundation/DesktopEntry.h"
+#include "platform/desktop_entry/DesktopEntry.h"
 #include "platform/foundation/NSLog.h"
 #include "platform/foundation/NSPropertyList.h"
 

@@ -1,14 +1,17 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/carbon/AppleEvents.h"
-
 #include <QString>
+
+#include <cstdint>
 
 namespace ExtraAppleEventManagerUtilities {
 
-/// Sends an event of class 'aevt' to the first other process with this bundle identifier, letter case
-/// ignored, and does not wait. paramErr, and nothing is sent, when there is none; else the send's status.
-std::int16_t quickSend(AEEventID eventID, const QString& toProcess);
+/// What one program can tell another.
+enum class Event { Quit };
+
+/// Sends an event to the first other process with this bundle identifier, letter case ignored, and does not
+/// wait. -50, and nothing is sent, when there is none; -609 when it can't be sent; else 0.
+std::int16_t quickSend(Event event, const QString& toProcess);
 
 } // namespace ExtraAppleEventManagerUtilities

@@ -1,16 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "shared/utilities/classes/ExtraNumberUtilities.h"
 
-#include "platform/carbon/MachineLocation.h"
+#include "platform/location/StoredLocation.h"
 
 double ExtraNumberUtilities::numberWithLatitude() {
-    MachineLocation location;
-    ReadLocation(&location);
-    return Frac2X(location.latitude) * 90.0;
+    return StoredLocation::place().value_or(StoredLocation::Place()).latitude;
 }
 
 double ExtraNumberUtilities::numberWithLongitude() {
-    MachineLocation location;
-    ReadLocation(&location);
-    return Frac2X(location.longitude) * 90.0;
+    return StoredLocation::place().value_or(StoredLocation::Place()).longitude;
 }

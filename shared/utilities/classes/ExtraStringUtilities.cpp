@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "shared/utilities/classes/ExtraStringUtilities.h"
 
-#include "platform/carbon/Processes.h"
-#include "platform/foundation/NSException.h"
 #include "shared/utilities/classes/ExtraApplicationUtilities.h"
 
 #include <QClipboard>
@@ -17,8 +15,6 @@
 #include <unistd.h>
 
 namespace {
-
-constexpr qsizetype kLongestPascalText = 127;
 
 QChar characterAt(const QString& text, qsizetype index) {
     if (text.isEmpty())
@@ -53,42 +49,16 @@ QChar ExtraStringUtilities::lastCharacter(const QString& text) {
     return characterAt(text, text.size() - 1);
 }
 
-Str255 ExtraStringUtilities::pascalStringWithEncoding(const QString& text, std::uint32_t encoding) {
-    const auto bytes = NSStringEncoding::bytesOfString(text.left(kLongestPascalText), encoding);
-    Str255 pascalString{};
-    if (!bytes || bytes->size() >= static_cast<qsizetype>(pascalString.size()))
-        throw NSInternalInconsistencyException(QStringLiteral("Unable to CFStringGetPascalString."));
-    pascalString[0] = static_cast<std::uint8_t>(bytes->size());
-    std::ranges::copy(*bytes, pascalString.begin() + 1);
-    return pascalString;
-}
-
-QString ExtraStringUtilities::stringWithPascalString(std::span<const std::uint8_t> pascalString) {
-    if (pascalString.empty())
-        return {};
-    const auto text =
-        pascalString.subspan(1, std::min<std::size_t>(pascalString[0], pascalString.size() - 1));
-    return NSStringEncoding::stringWithBytes(QByteArrayView(text.data(), static_cast<qsizetype>(text.size())),
-                                             kCFStringEncodingMacRoman);
-}
-
 QString ExtraStringUtilities::stringWithOSVersion() {
     return QString::number(ExtraApplicationUtilities::systemVersion(), 16);
 }
 
-bool ExtraStringUtilities::findProcess(const QString& bundleIdentifier, ProcessSerialNumber* process) {
-    ProcessSerialNumber candidate = kNoProcess;
-    while (GetNextProcess(&candidate) == noErr) {
-        const QVariantMap information = ProcessInformationCopyDictionary(candidate);
-        const QString identifier = information.value(QStringLiteral("CFBundleIdentifier")).toString();
-        if (identifier.isEmpty() || identifier.compare(bundleIdentifier, Qt::CaseInsensitive) != 0 ||
-            information.value(QStringLiteral("pid")).toInt() == getpid())
-            continue;
-        if (process)
-            *process = candidate;
-        return true;
+std::optional<RunningCopies::Copy> ExtraStringUtilities::findProcess(const QString& bundleIdentifier) {
+    for (const RunningCopies::Copy& copy : RunningCopies::others()) {
+        if (copy.identifier.compare(bundleIdentifier, Qt::CaseInsensitive) == 0)
+            return copy;
     }
-    return false;
+    return std::nullopt;
 }
 
 void ExtraStringUtilities::copyToClipboard(const QString& text) {

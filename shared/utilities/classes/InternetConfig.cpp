@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shared/utilities/classes/InternetConfig.h"
 
-#include "platform/appkit/NSWorkspace.h"
-#include "platform/carbon/LaunchServices.h"
+#include "platform/browser/DefaultApplications.h"
 #include "platform/foundation/NSBundle.h"
 #include "platform/foundation/NSLog.h"
 #include "shared/utilities/classes/ExtraContainerUtilities.h"
@@ -18,8 +17,6 @@
 #include <algorithm>
 
 using ExtraContainerUtilities::isEmpty;
-using ExtraStringUtilities::pascalStringWithEncoding;
-using ExtraStringUtilities::stringWithPascalString;
 using ExtraURLUtilities::urlWithURLString;
 
 namespace {
@@ -27,6 +24,8 @@ namespace {
 // The log's lines are known by these numbers, wherever the statements move to.
 constexpr int kPreferenceLine = 78;
 constexpr int kLaunchLine = 236;
+
+constexpr int kNoneNamed = -666;
 
 const QString kWebScheme = QStringLiteral("http");
 
@@ -48,15 +47,24 @@ void runAlert(const QString& message, const QString& details) {
     delete alert;
 }
 
-/// "Helper•" and the scheme, which is left out when it doesn't fit.
-Str255 preferenceKey(const QString& scheme) {
-    Str255 key = pascalStringWithEncoding(QStringLiteral("Helper\u2022"), kCFStringEncodingMacRoman);
-    const Str255 name = pascalStringWithEncoding(scheme, kCFStringEncodingMacRoman);
-    if (key[0] + name[0] + 1U < key.size()) {
-        std::copy_n(name.begin() + 1, name[0], key.begin() + key[0] + 1);
-        key[0] = static_cast<std::uint8_t>(key[0] + name[0]);
+/// The numbers that these outcomes have always had in the log.
+int statusOf(DefaultApplications::Outcome outcome) {
+    using enum DefaultApplications::Outcome;
+    switch (outcome) {
+    case Opened:
+        return 0;
+    case NotAnAddress:
+        return -50;
+    case FileNotFound:
+        return -43;
+    case NotExecutable:
+        return -10811;
+    case NoApplication:
+        return -10814;
+    case StartFailed:
+        break;
     }
-    return key;
+    return -10810;
 }
 
 bool isWebPage(const QString& address) {
@@ -75,27 +83,19 @@ QString withScheme(const QString& address) {
                : kWebScheme + QStringLiteral("://") + address;
 }
 
-void openWith(const QUrl& application, const QString& address, const QString& browser) {
-    const OSStatus status = LSOpenFromURLSpec({application, {urlWithURLString(withScheme(address))}});
-    if (status == noErr)
+QString pathOf(const QString& browser) {
+    return urlWithURLString(browser).toLocalFile();
+}
+
+void openWith(const QString& application, const QString& address, const QString& browser) {
+    const int status =
+        statusOf(DefaultApplications::open(urlWithURLString(withScheme(address)), application));
+    if (status == 0)
         return;
     NSLog(QStringLiteral("InternetConfig %1").arg(kLaunchLine));
     throw InternetConfigException(QStringLiteral("LSOpenFromURLSpec faiure.  Returned (%1) with URL <%2> "
                                                  "Browser <%3>.  -43 means 'File Not Found'.")
                                       .arg(QString::number(status), address, browser));
-}
-
-bool isExecutable(const QString& browser) {
-    return NSWorkspace::isExecutableApplication(urlWithURLString(browser).toLocalFile());
-}
-
-/// Programs here have no signature unless their Info dictionary says one.
-OSType ownSignature() {
-    const QByteArray code = NSBundle::mainBundle().infoString(QStringLiteral("CFBundleSignature")).toLatin1();
-    char text[5] = "\?\?\?\?";
-    if (code.size() == 4)
-        std::ranges::copy(code, text);
-    return fourCharCode(text);
 }
 
 } // namespace
@@ -107,43 +107,22 @@ InternetConfigException::InternetConfigException(const QString& reason)
 }
 
 void InternetConfig::launchURL(const QString& address) {
-    launchURL(address, QString(), ownSignature());
-}
-
-void InternetConfig::launchURL(const QString& address, const QString& browser, OSType withSignature) {
-    const auto config = internetConfigWithApplicationSignature(withSignature);
-    if (!config)
-        return;
     try {
-        config->launchURL(address, browser);
+        InternetConfig().launchURL(address, QString());
     } catch (const std::exception& failure) {
         NSLog(QString::fromUtf8(failure.what()));
     }
 }
 
-std::unique_ptr<InternetConfig> InternetConfig::internetConfigWithApplicationSignature(OSType signature) {
-    ICInstance instance = nullptr;
-    if (ICStart(&instance, signature) != noErr)
-        return nullptr;
-    return std::unique_ptr<InternetConfig>(new InternetConfig(instance));
-}
-
-InternetConfig::~InternetConfig() {
-    ICStop(instance_);
-}
-
 QString InternetConfig::defaultBrowserForScheme(const QString& scheme) {
-    ICAppSpec application{};
-    const OSStatus status = ICGetPref(instance_, preferenceKey(scheme), &application);
-    if (status != noErr) {
+    const auto browser = DefaultApplications::forScheme(scheme.toLower());
+    if (!browser) {
         NSLog(QStringLiteral("-[InternetConfig defaultBrowserForScheme:] %1 error=%2")
-                  .arg(QString::number(kPreferenceLine), QString::number(status)));
+                  .arg(QString::number(kPreferenceLine), QString::number(kNoneNamed)));
         throw InternetConfigException(
-            QStringLiteral("ICGetPref faiure.  Can't find default browser.  Returned %1").arg(status));
+            QStringLiteral("ICGetPref faiure.  Can't find default browser.  Returned %1").arg(kNoneNamed));
     }
-    const QString name = stringWithPascalString(application.name);
-    const QString path = isEmpty(name) ? QString() : NSWorkspace::fullPathForApplication(name);
-    return isEmpty(path) ? QString() : QUrl::fromLocalFile(path).toString(QUrl::FullyEncoded);
+    return isEmpty(*browser) ? QString() : QUrl::fromLocalFile(*browser).toString(QUrl::FullyEncoded);
 }
 
 void InternetConfig::launchURL(const QString& urlString, const QString& browser) {
@@ -160,22 +139,16 @@ void InternetConfig::launchURL(const QString& urlString, const QString& browser)
             scheme = kWebScheme;
         chosen = defaultBrowserForScheme(scheme);
         if (isEmpty(chosen)) {
-            launchWithoutBrowser(address);
+            if (DefaultApplications::openTheSystemsWay(address) != DefaultApplications::Outcome::Opened)
+                NSLog(QStringLiteral("Can't find default browser from LaunchServices or InternetConfig."));
             return;
         }
     }
-    if (!isExecutable(chosen)) {
+    if (!DefaultApplications::isExecutable(pathOf(chosen))) {
         browserNotFound(address, chosen, scheme);
         return;
     }
-    openWith(bypassesBrowser ? QUrl() : urlWithURLString(chosen), address, chosen);
-}
-
-void InternetConfig::launchWithoutBrowser(const QString& address) {
-    const QByteArray text = address.toUtf8();
-    const Str255 hint = pascalStringWithEncoding(kWebScheme, kCFStringEncodingMacRoman);
-    if (ICLaunchURL(instance_, hint, text, 0, static_cast<std::int32_t>(text.size())) != noErr)
-        NSLog(QStringLiteral("Can't find default browser from LaunchServices or InternetConfig."));
+    openWith(bypassesBrowser ? QString() : pathOf(chosen), address, chosen);
 }
 
 void InternetConfig::browserNotFound(const QString& address, const QString& browser, const QString& scheme) {
@@ -184,6 +157,6 @@ void InternetConfig::browserNotFound(const QString& address, const QString& brow
               bundle.localizedString(QT_TRANSLATE_NOOP("Lumivane", "url: <%1>, browser: <%2>"))
                   .arg(address, browser));
     // The user may have put it right while the alert stood.
-    if (isExecutable(defaultBrowserForScheme(scheme)))
+    if (DefaultApplications::isExecutable(pathOf(defaultBrowserForScheme(scheme))))
         launchURL(address, QString());
 }

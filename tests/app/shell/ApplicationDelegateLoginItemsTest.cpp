@@ -1,21 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "app/shell/ApplicationDelegate.h"
 
-#include "platform/carbon/Agents.h"
-#include "platform/carbon/SystemEvents.h"
 #include "platform/foundation/NSBundle.h"
-#include "tests/platform/carbon/TestAutostart.h"
+#include "tests/platform/autostart/TestAutostart.h"
 
 namespace {
 
 class DelegateLoginItems : public TestAutostart {
 protected:
-    DelegateLoginItems() { Agents::install(kSystemEventsSignature, systemEventsAgent()); }
-    ~DelegateLoginItems() override { Agents::install(kSystemEventsSignature, systemEventsAgent()); }
-
     QUrl add(const QString& name) const {
         const QString program = makeProgram(name);
-        AutostartFolder::append(program, false);
+        Autostart::append(program, false);
         return QUrl::fromLocalFile(program);
     }
 
@@ -35,7 +30,7 @@ TEST_F(DelegateLoginItems, SwitchingOnClearsOlderCopiesAway) {
 
     delegate_.toggleSetToStartup(self);
     EXPECT_EQ(paths(), (QStringList{other.toLocalFile(), self.toLocalFile()}));
-    EXPECT_FALSE(AutostartFolder::items().constLast().hidden);
+    EXPECT_FALSE(Autostart::items().constLast().hidden);
     delegate_.toggleSetToStartup(self);
     EXPECT_EQ(paths(), QStringList{other.toLocalFile()});
 }
@@ -54,13 +49,4 @@ TEST_F(DelegateLoginItems, TheApplicationItselfIsMeantByNothing) {
     EXPECT_TRUE(delegate_.alreadySetToStartup(std::nullopt));
     delegate_.toggleSetToStartup(std::nullopt);
     EXPECT_FALSE(delegate_.alreadySetToStartup(std::nullopt));
-}
-
-TEST_F(DelegateLoginItems, WithoutAListNothingIsSet) {
-    Agents::install(kSystemEventsSignature, [](const AppleEvent&, AppleEvent*) { return OSStatus(-34); });
-    const CaughtLog log;
-    EXPECT_EQ(delegate_.allLoginItems(), std::nullopt);
-    EXPECT_FALSE(delegate_.alreadySetToStartup(std::nullopt));
-    delegate_.removeOldStartupItemsContaining(QStringLiteral("Lumivane"));
-    EXPECT_EQ(log.lines(), QStringList(3, QStringLiteral("Can't get login items list from system (-34).")));
 }

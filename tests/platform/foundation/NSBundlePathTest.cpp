@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/foundation/NSBundle.h"
-#include "tests/platform/carbon/TestAutostart.h"
+#include "tests/platform/autostart/TestAutostart.h"
 
 #include <QCoreApplication>
 

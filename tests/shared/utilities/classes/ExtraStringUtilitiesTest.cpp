@@ -3,6 +3,7 @@
 
 #include "platform/foundation/NSException.h"
 #include "shared/utilities/classes/ExtraMutableStringUtilities.h"
+#include "shared/utilities/classes/PascalString.h"
 
 #include <gtest/gtest.h>
 
@@ -41,7 +42,7 @@ TEST(ExtraStringUtilitiesTest, ReplacementsAreCountedOnce) {
 }
 
 TEST(ExtraStringUtilitiesTest, PascalStrings) {
-    const Str255 text = pascalStringWithEncoding(QStringLiteral("Mönd•"), 0);
+    const PascalString text = pascalStringWithEncoding(QStringLiteral("Mönd•"), 0);
     EXPECT_EQ(text[0], 5);
     EXPECT_EQ(text[2], 0x9A);
     EXPECT_EQ(text[5], 0xA5);
@@ -50,8 +51,10 @@ TEST(ExtraStringUtilitiesTest, PascalStrings) {
     EXPECT_EQ(pascalStringWithEncoding(QString(200, QLatin1Char('x')), 0)[0], 127);
     EXPECT_EQ(pascalStringWithEncoding(QString(127, QLatin1Char('x')), 0)[0], 127);
     EXPECT_EQ(pascalStringWithEncoding(QString(127, QLatin1Char('x')) + QChar(0x6708), 0)[0], 127);
-    EXPECT_THROW(pascalStringWithEncoding(QString(100, QChar(0x6708)), kCFStringEncodingUTF8),
+    EXPECT_THROW(pascalStringWithEncoding(QString(100, QChar(0x6708)), kEncodingUTF8),
                  NSInternalInconsistencyException);
+
+    EXPECT_THROW(pascalStringWithEncoding(QStringLiteral("a"), 12345), NSInternalInconsistencyException);
 
     EXPECT_TRUE(stringWithPascalString({}).isNull());
     const std::uint8_t boastful[]{200, 'a', 'b'};
@@ -67,7 +70,7 @@ TEST(ExtraStringUtilitiesTest, AFailedConversionTellsItsPlace) {
         const QString reason = failure.reason();
         EXPECT_TRUE(reason.startsWith(QStringLiteral("Unable to CFStringGetPascalString., method: ")));
         EXPECT_TRUE(reason.contains(QStringLiteral("pascalStringWithEncoding")));
-        EXPECT_TRUE(reason.contains(QStringLiteral(", file: ExtraStringUtilities, line: ")));
+        EXPECT_TRUE(reason.contains(QStringLiteral(", file: PascalString, line: ")));
     }
 }
 

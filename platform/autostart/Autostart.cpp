@@ -1,0 +1,263 @@
+// SPDX-License-Identifier: MIT
+#include "platform/autostart/Autostart.h"
+
+#include "platform/desktop_entry/DesktopEntry.h"
+#include "platform/foundation/ConfigFolder.h"
+#include "platform/foundation/NSLog.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSet>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <optional>
+#include <vector>
+
+#include <fcntl.h>
+#include <glib.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr char kPathKey[] = "X-LoginItem-Path";
+constexpr char kHiddenKey[] = "X-LoginItem-Hidden";
+constexpr char kPositionKey[] = "X-LoginItem-Position";
+constexpr quint64 kLargestPosition = 1'000'000'000'000;
+
+struct Entry {
+    Autostart::Item item;
+    bool isStarted;                  ///< by this desktop
+    std::optional<quint64> position; ///< of entries that were added here
+};
+
+std::error_code systemError(int number) {
+    return {number, std::system_category()};
+}
+
+QString filePath(const QString& file) {
+    return Autostart::path() + u'/' + file;
+}
+
+void reportOnce(const QString& file, const QString& reason) {
+    static QSet<QString> reported;
+    if (reported.contains(file))
+        return;
+    reported.insert(file);
+    NSLog(QStringLiteral("%1 is left out of the login items: %2.").arg(file, reason));
+}
+
+Entry entryOf(const QString& file, const DesktopEntry& desktopEntry) {
+    const QStringList desktops = qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(u':', Qt::SkipEmptyParts);
+    Entry entry{{file, desktopEntry.text(kPathKey), desktopEntry.flag(kHiddenKey, false)},
+                desktopEntry.startsIn(desktops),
+                std::nullopt};
+    if (entry.item.path.startsWith(u'/')) {
+        const quint64 position = desktopEntry.number(kPositionKey).value_or(0);
+        entry.position = position < kLargestPosition ? position : 0;
+    } else {
+        const QString program = desktopEntry.program();
+        entry.item.path = program.startsWith(u'/') ? program : filePath(file);
+        entry.item.hidden = false;
+    }
+    return entry;
+}
+
+/// All entries of the folder in the list's order, the ones that aren't started too.
+std::vector<Entry> allEntries() {
+    const QDir folder(Autostart::path());
+    const QStringList files = folder.entryList(QDir::AllEntries | QDir::System, QDir::Name);
+    std::vector<Entry> entries;
+    for (const QString& file : files) {
+        if (!file.endsWith(u".desktop"))
+            continue;
+        QString error;
+        if (const auto desktopEntry = DesktopEntry::fromFile(filePath(file), &error))
+            entries.push_back(entryOf(file, *desktopEntry));
+        else
+            reportOnce(filePath(file), error);
+    }
+    std::ranges::stable_sort(entries, {}, &Entry::position); // none comes before any
+    return entries;
+}
+
+std::optional<DesktopEntry> autostartOfEntry(const QString& path) {
+    QString error;
+    const auto source = DesktopEntry::fromFile(path, &error);
+    if (!source || source->text("Type") != u"Application" || source->text("Exec").isEmpty()) {
+        NSLog(QStringLiteral("%1 starts no program, and is no login item. %2").arg(path, error));
+        return std::nullopt;
+    }
+    DesktopEntry entry;
+    for (const char* key : {"Type", "Name", "Icon", "Exec", "TryExec", "Path", "Terminal"})
+        entry.copy(key, *source);
+    return entry;
+}
+
+/// Where a percent sign is a program's own, GLib and systemd read it right in an argument alone. An argument
+/// with an equals sign would be a variable to `env`.
+QString execOf(const QString& path) {
+    const bool asArgument = path.contains(u'%') && !path.contains(u'=');
+    return (asArgument ? QStringLiteral("env ") : QString()) + quotedForExec(path);
+}
+
+DesktopEntry autostartOfProgram(const QString& path) {
+    DesktopEntry entry;
+    entry.setText("Type", QStringLiteral("Application"));
+    entry.setText("Name", QFileInfo(path).fileName());
+    entry.setText("Exec", execOf(path));
+    entry.setText("TryExec", path);
+    return entry;
+}
+
+std::optional<DesktopEntry> autostartEntry(const QString& path, bool hidden, quint64 position) {
+    auto entry =
+        path.endsWith(u".desktop") ? autostartOfEntry(path) : std::optional(autostartOfProgram(path));
+    if (!entry)
+        return std::nullopt;
+    entry->setText(kPathKey, path);
+    entry->setText(kPositionKey, QString::number(position));
+    if (hidden)
+        entry->setText(kHiddenKey, QStringLiteral("true"));
+    // A program that lives in the tray wants the tray to be there first.
+    entry->setText("X-LXQt-Need-Tray", QStringLiteral("true"));
+    entry->setText("X-KDE-autostart-after", QStringLiteral("panel"));
+    entry->setText("X-GNOME-Autostart-Delay", QStringLiteral("2"));
+    return entry;
+}
+
+/// A name for a new entry that nothing in the folder has, a dangling link neither.
+QString freeFileName(const QString& path) {
+    const auto isUnfit = [](QChar c) {
+        return c.unicode() > 127 || !(c.isLetterOrNumber() || c == u'.' || c == u'_' || c == u'-');
+    };
+    QString stem = QFileInfo(path).fileName();
+    if (stem.endsWith(u".desktop"))
+        stem.chop(8);
+    // Long names leave room for a number; a leading dot would hide the entry from some sessions.
+    std::ranges::replace_if(stem, isUnfit, QChar(u'_'));
+    stem.truncate(100);
+    if (stem.isEmpty() || stem.startsWith(u'.'))
+        stem.prepend(QStringLiteral("item"));
+    QString file = stem + QStringLiteral(".desktop");
+    struct stat status {};
+    for (int i = 2; lstat(QFile::encodeName(filePath(file)).constData(), &status) == 0; ++i)
+        file = QStringLiteral("%1-%2.desktop").arg(stem).arg(i);
+    return file;
+}
+
+constexpr char kDraftPattern[] = ".login-item-XXXXXX";
+
+/// Drafts are left behind by a copy that was killed while it wrote.
+void clearOldDrafts() {
+    const QDir folder(Autostart::path());
+    const QFileInfoList files = folder.entryInfoList(QDir::Files | QDir::Hidden);
+    const QDateTime aMinuteAgo = QDateTime::currentDateTimeUtc().addSecs(-60);
+    const auto pattern = QLatin1String(kDraftPattern);
+    for (const QFileInfo& file : files) {
+        const bool isDraft =
+            file.fileName().size() == pattern.size() && file.fileName().startsWith(pattern.chopped(6));
+        if (isDraft && file.lastModified() < aMinuteAgo)
+            QFile::remove(file.filePath());
+    }
+}
+
+bool writeAll(int descriptor, const QByteArray& bytes) {
+    for (qsizetype done = 0; done < bytes.size();) {
+        const auto rest = static_cast<std::size_t>(bytes.size() - done);
+        const ssize_t written = write(descriptor, bytes.constData() + done, rest);
+        if (written < 0 && errno != EINTR)
+            return false;
+        done += std::max<ssize_t>(written, 0);
+    }
+    return fsync(descriptor) == 0;
+}
+
+bool moveIntoPlace(const QByteArray& draft, const QByteArray& target, bool mayReplace) {
+    if (!mayReplace && renameat2(AT_FDCWD, draft, AT_FDCWD, target, RENAME_NOREPLACE) == 0)
+        return true;
+    if (!mayReplace && errno != EINVAL && errno != ENOSYS)
+        return false;
+    return rename(draft, target) == 0;
+}
+
+void syncFolder() {
+    const int descriptor =
+        open(QFile::encodeName(Autostart::path()).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (descriptor < 0)
+        return;
+    fsync(descriptor);
+    close(descriptor);
+}
+
+/// Writes an entry whole or not at all. `mayReplace` tells whether a file of that name may be there.
+std::error_code writeEntry(const QString& file, const QByteArray& bytes, bool mayReplace) {
+    QByteArray draft = QFile::encodeName(filePath(QString::fromLatin1(kDraftPattern)));
+    const int descriptor = g_mkstemp_full(draft.data(), O_WRONLY | O_CLOEXEC, 0600);
+    if (descriptor < 0)
+        return systemError(errno);
+    int error = writeAll(descriptor, bytes) ? 0 : errno;
+    close(descriptor);
+    if (error == 0 && !moveIntoPlace(draft, QFile::encodeName(filePath(file)), mayReplace))
+        error = errno;
+    if (error != 0)
+        unlink(draft.constData());
+    else
+        syncFolder();
+    return systemError(error);
+}
+
+std::error_code makeFolder() {
+    const QByteArray folder = QFile::encodeName(Autostart::path());
+    return g_mkdir_with_parents(folder.constData(), 0700) == 0 ? std::error_code() : systemError(errno);
+}
+
+std::error_code appendOnce(const QString& path, bool hidden) {
+    const std::vector<Entry> entries = allEntries();
+    const quint64 position = entries.empty() ? 1 : entries.back().position.value_or(0) + 1;
+    const auto entry = autostartEntry(path, hidden, position);
+    if (!entry)
+        return std::make_error_code(std::errc::invalid_argument);
+    const auto earlier = std::ranges::find_if(
+        entries, [&](const Entry& each) { return each.position && each.item.path == path; });
+    if (earlier != entries.end())
+        return writeEntry(earlier->item.file, entry->toBytes(), true);
+    return writeEntry(freeFileName(path), entry->toBytes(), false);
+}
+
+} // namespace
+
+QString Autostart::path() {
+    return configFolder() + QStringLiteral("/autostart");
+}
+
+QList<Autostart::Item> Autostart::items() {
+    QList<Item> list;
+    for (const Entry& entry : allEntries()) {
+        if (entry.isStarted)
+            list.append(entry.item);
+    }
+    return list;
+}
+
+std::error_code Autostart::append(const QString& path, bool hidden) {
+    if (const std::error_code error = makeFolder())
+        return error;
+    clearOldDrafts();
+    std::error_code error = std::make_error_code(std::errc::file_exists);
+    // Another copy that adds itself at the same moment may be the quicker one.
+    for (int attempt = 0; attempt < 3 && error == std::errc::file_exists; ++attempt)
+        error = appendOnce(path, hidden);
+    return error;
+}
+
+std::error_code Autostart::remove(const Item& item) {
+    if (unlink(QFile::encodeName(filePath(item.file)).constData()) != 0)
+        return systemError(errno);
+    syncFolder();
+    return {};
+}

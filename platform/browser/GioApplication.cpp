@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: MIT
+#include "platform/browser/GioApplication.h"
+
+#include "platform/foundation/NSLog.h"
+
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QProcessEnvironment>
+#include <QSysInfo>
+
+#include <chrono>
+
+#include <unistd.h>
+
+namespace {
+
+using GioApplication::Application;
+using GioApplication::Unref;
+
+struct FreeText {
+    void operator()(char* text) const { g_free(text); }
+};
+struct FreeError {
+    void operator()(GError* error) const { g_error_free(error); }
+};
+using Context = std::unique_ptr<GAppLaunchContext, Unref>;
+
+Application asDesktopApplication(GAppInfo* info) {
+    if (info && !G_IS_DESKTOP_APP_INFO(info)) {
+        g_object_unref(info);
+        info = nullptr;
+    }
+    return Application(reinterpret_cast<GDesktopAppInfo*>(info));
+}
+
+/// A bare executable, put as the command line of a desktop entry: there a per cent sign starts a field.
+Application fromExecutable(const QString& path) {
+    const std::unique_ptr<char, FreeText> quoted(g_shell_quote(path.toLocal8Bit().constData()));
+    const QByteArray command = QByteArray(quoted.get()).replace('%', "%%");
+    const QByteArray name = QFileInfo(path).fileName().toUtf8();
+    return asDesktopApplication(g_app_info_create_from_commandline(command.constData(), name.constData(),
+                                                                   G_APP_INFO_CREATE_SUPPORTS_URIS, nullptr));
+}
+
+/// An AppImage puts folders of its own into search paths; they are gone with it, and hold its libraries, not
+/// those of the program that is started.
+void leaveOutPackaging(GAppLaunchContext* context) {
+    const QProcessEnvironment own = QProcessEnvironment::systemEnvironment();
+    const QString folder = own.value(QStringLiteral("APPDIR"));
+    if (folder.isEmpty())
+        return;
+    const QStringList names = own.keys();
+    for (const QString& name : names) {
+        const QString value = own.value(name);
+        if (!value.contains(folder))
+            continue;
+        QStringList parts = value.split(QLatin1Char(':'));
+        parts.removeIf([&](const QString& part) {
+            return part == folder || part.startsWith(folder + QLatin1Char('/'));
+        });
+        if (parts.join(QString()).isEmpty())
+            g_app_launch_context_unsetenv(context, name.toLocal8Bit().constData());
+        else
+            g_app_launch_context_setenv(context, name.toLocal8Bit().constData(),
+                                        parts.join(QLatin1Char(':')).toLocal8Bit().constData());
+    }
+    for (const char* name : {"APPDIR", "APPIMAGE", "ARGV0", "OWD"})
+        g_app_launch_context_unsetenv(context, name);
+}
+
+/// Under X11 the window manager lets a new window come to the front by the time in this identifier. A local
+/// server counts the milliseconds of the monotonic clock; Wayland's tokens need a protocol that Qt 6.4 keeps
+/// to itself.
+QByteArray startupIdentifier() {
+    if (QGuiApplication::platformName() != u"xcb" || !qgetenv("DISPLAY").startsWith(':'))
+        return {};
+    static int number = 0;
+    const auto now = std::chrono::duration_cast<std::chrono::milliseconds>(
+        std::chrono::steady_clock::now().time_since_epoch());
+    return QStringLiteral("%1-%2-%3-%4_TIME%5")
+        .arg(QCoreApplication::applicationName(), QString::number(getpid()), QSysInfo::machineHostName(),
+             QString::number(++number), QString::number(static_cast<std::uint32_t>(now.count())))
+        .toLocal8Bit();
+}
+
+Context launchContext(GDesktopAppInfo* application) {
+    Context context(g_app_launch_context_new());
+    for (const char* ours : {"DESKTOP_STARTUP_ID", "XDG_ACTIVATION_TOKEN", "GIO_LAUNCHED_DESKTOP_FILE",
+                             "GIO_LAUNCHED_DESKTOP_FILE_PID"})
+        g_app_launch_context_unsetenv(context.get(), ours);
+    leaveOutPackaging(context.get());
+    const QByteArray identifier = startupIdentifier();
+    if (!identifier.isEmpty() && g_desktop_app_info_get_boolean(application, "StartupNotify"))
+        g_app_launch_context_setenv(context.get(), "DESKTOP_STARTUP_ID", identifier.constData());
+    return context;
+}
+
+} // namespace
+
+Application GioApplication::atPath(const QString& path) {
+    const QFileInfo file(path);
+    if (path.isEmpty() || !file.isFile() || !file.isReadable())
+        return nullptr;
+    if (file.suffix() == u"desktop") {
+        Application entry(g_desktop_app_info_new_from_filename(path.toLocal8Bit().constData()));
+        return entry && !g_desktop_app_info_get_is_hidden(entry.get()) ? std::move(entry) : nullptr;
+    }
+    return file.isExecutable() ? fromExecutable(file.absoluteFilePath()) : nullptr;
+}
+
+Application GioApplication::forContentType(const QString& type) {
+    return asDesktopApplication(g_app_info_get_default_for_type(type.toUtf8().constData(), FALSE));
+}
+
+Application GioApplication::forFile(const QString& path) {
+    const std::unique_ptr<GFile, Unref> file(g_file_new_for_path(path.toLocal8Bit().constData()));
+    return asDesktopApplication(g_file_query_default_handler(file.get(), nullptr, nullptr));
+}
+
+bool GioApplication::launch(GDesktopAppInfo* application, const QUrl& address) {
+    QByteArray text = address.toEncoded();
+    GList items{text.data(), nullptr, nullptr};
+    GError* failure = nullptr;
+    // Without a watched child GLib starts a grandchild: nothing is left behind here when it ends. A session
+    // of its own keeps it from the signals of this program's terminal, and output into a pipe that closes
+    // with this program would end it.
+    constexpr auto kFlags = static_cast<GSpawnFlags>(G_SPAWN_SEARCH_PATH | G_SPAWN_STDOUT_TO_DEV_NULL |
+                                                     G_SPAWN_STDERR_TO_DEV_NULL);
+    const bool started = g_desktop_app_info_launch_uris_as_manager(
+        application, &items, launchContext(application).get(), kFlags, [](gpointer) { setsid(); }, nullptr,
+        nullptr, nullptr, &failure);
+    const std::unique_ptr<GError, FreeError> error(failure);
+    if (!started)
+        NSLog(QStringLiteral("%1 can't be opened: %2")
+                  .arg(QString::fromUtf8(text), QString::fromUtf8(error ? error->message : "")));
+    return started;
+}

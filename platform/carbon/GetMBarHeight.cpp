@@ -1,6 +1,0 @@
-// SPDX-License-Identifier: MIT
-#include "platform/carbon/GetMBarHeight.h"
-
-int GetMBarHeight() {
-    return 22;
-}

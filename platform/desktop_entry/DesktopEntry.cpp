@@ -1,0 +1,200 @@
+// SPDX-License-Identifier: MIT
+#include "platform/desktop_entry/DesktopEntry.h"
+
+#include <QFile>
+#include <QStandardPaths>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+
+#include <fcntl.h>
+#include <glib.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr char kGroup[] = G_KEY_FILE_DESKTOP_GROUP;
+constexpr qint64 kLargestFile = 256LL * 1024;
+
+struct GFree {
+    void operator()(void* memory) const { g_free(memory); }
+};
+using GText = std::unique_ptr<char, GFree>;
+
+struct GTextsFree {
+    void operator()(char** strings) const { g_strfreev(strings); }
+};
+using GTexts = std::unique_ptr<char*, GTextsFree>;
+
+QString takeMessage(GError* error) {
+    const QString message = QString::fromUtf8(error->message);
+    g_error_free(error);
+    return message;
+}
+
+/// Opens nothing that blocks or never ends: a pipe, a device, a folder.
+bool openRegular(const QString& path, QFile* file, QString* error) {
+    const int descriptor = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    struct stat status {};
+    if (descriptor < 0 || fstat(descriptor, &status) != 0) {
+        *error = QString::fromLocal8Bit(std::strerror(errno));
+    } else if (!S_ISREG(status.st_mode)) {
+        *error = QStringLiteral("it is no regular file");
+    } else if (status.st_size > kLargestFile) {
+        *error = QStringLiteral("it is too large");
+    } else if (file->open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
+        return true;
+    }
+    if (descriptor >= 0)
+        close(descriptor);
+    return false;
+}
+
+/// A value with the file's escapes. GKeyFile's own leave a blank at the end, which some readers strip.
+QString escaped(const QString& value) {
+    QString result;
+    for (qsizetype i = 0; i < value.size(); ++i) {
+        const bool isAtEnd = i == 0 || i == value.size() - 1;
+        switch (value[i].unicode()) {
+        case u'\\':
+            result += QLatin1String("\\\\");
+            break;
+        case u'\n':
+            result += QLatin1String("\\n");
+            break;
+        case u'\r':
+            result += QLatin1String("\\r");
+            break;
+        case u'\t':
+            result += QLatin1String("\\t");
+            break;
+        case u' ':
+            result += isAtEnd ? QLatin1String("\\s") : QLatin1String(" ");
+            break;
+        default:
+            result += value[i];
+        }
+    }
+    return result;
+}
+
+} // namespace
+
+void DesktopEntry::Free::operator()(_GKeyFile* file) const {
+    g_key_file_free(file);
+}
+
+DesktopEntry::DesktopEntry() : file_(g_key_file_new()) {
+}
+DesktopEntry::~DesktopEntry() = default;
+DesktopEntry::DesktopEntry(DesktopEntry&&) noexcept = default;
+DesktopEntry& DesktopEntry::operator=(DesktopEntry&&) noexcept = default;
+
+std::optional<DesktopEntry> DesktopEntry::fromBytes(const QByteArray& bytes, QString* error) {
+    DesktopEntry entry;
+    GError* failure = nullptr;
+    if (!g_key_file_load_from_data(entry.file_.get(), bytes.constData(), static_cast<gsize>(bytes.size()),
+                                   G_KEY_FILE_NONE, &failure)) {
+        *error = takeMessage(failure);
+        return std::nullopt;
+    }
+    if (!g_key_file_has_group(entry.file_.get(), kGroup)) {
+        *error = QStringLiteral("it has no group \"Desktop Entry\"");
+        return std::nullopt;
+    }
+    return entry;
+}
+
+std::optional<DesktopEntry> DesktopEntry::fromFile(const QString& path, QString* error) {
+    QFile file;
+    if (!openRegular(path, &file, error))
+        return std::nullopt;
+    return fromBytes(file.read(kLargestFile), error);
+}
+
+QString DesktopEntry::text(const char* key) const {
+    const GText value(g_key_file_get_string(file_.get(), kGroup, key, nullptr));
+    return QString::fromUtf8(value.get());
+}
+
+bool DesktopEntry::flag(const char* key, bool otherwise) const {
+    GError* error = nullptr;
+    const bool value = g_key_file_get_boolean(file_.get(), kGroup, key, &error) != FALSE;
+    if (!error)
+        return value;
+    g_error_free(error);
+    return otherwise;
+}
+
+std::optional<quint64> DesktopEntry::number(const char* key) const {
+    bool isNumber = false;
+    const quint64 value = text(key).toULongLong(&isNumber);
+    return isNumber ? std::optional(value) : std::nullopt;
+}
+
+QStringList DesktopEntry::list(const char* key) const {
+    const GTexts values(g_key_file_get_string_list(file_.get(), kGroup, key, nullptr, nullptr));
+    QStringList items;
+    for (char** value = values.get(); value && *value; ++value)
+        items.append(QString::fromUtf8(*value));
+    return items;
+}
+
+bool DesktopEntry::startsIn(const QStringList& desktops) const {
+    const auto isAmong = [&desktops](const QStringList& names) {
+        return std::ranges::any_of(names, [&](const QString& name) { return desktops.contains(name); });
+    };
+    if (text("Type") != u"Application" || text("Exec").isEmpty() || flag("Hidden", false) ||
+        !flag("X-GNOME-Autostart-enabled", true) || !flag("X-MATE-Autostart-enabled", true))
+        return false;
+    if (g_key_file_has_key(file_.get(), kGroup, "OnlyShowIn", nullptr))
+        return isAmong(list("OnlyShowIn"));
+    return !isAmong(list("NotShowIn"));
+}
+
+QString DesktopEntry::program() const {
+    char** rawArguments = nullptr;
+    // GLib's own launcher splits Exec with this, and nobody's files are stricter than that.
+    if (!g_shell_parse_argv(text("Exec").toUtf8().constData(), nullptr, &rawArguments, nullptr))
+        return {};
+    const GTexts arguments(rawArguments);
+    QString name = QString::fromUtf8(arguments.get()[0]);
+    name.replace(QLatin1String("%%"), QLatin1String("%"));
+    const QString path = absoluteProgram(name);
+    return path.isEmpty() ? name : path;
+}
+
+void DesktopEntry::setText(const char* key, const QString& value) {
+    g_key_file_set_value(file_.get(), kGroup, key, escaped(value).toUtf8().constData());
+}
+
+void DesktopEntry::copy(const char* key, const DesktopEntry& from) {
+    const GText value(g_key_file_get_value(from.file_.get(), kGroup, key, nullptr));
+    // A line's blank end, a carriage return too, is none of the value.
+    if (value)
+        g_key_file_set_value(file_.get(), kGroup, key, QByteArray(value.get()).trimmed().constData());
+}
+
+QByteArray DesktopEntry::toBytes() const {
+    gsize length = 0;
+    const GText bytes(g_key_file_to_data(file_.get(), &length, nullptr));
+    return QByteArray(bytes.get(), static_cast<qsizetype>(length));
+}
+
+QString quotedForExec(const QString& argument) {
+    QString quoted = QStringLiteral("\"");
+    for (const QChar character : argument) {
+        if (character == u'%')
+            quoted += u'%';
+        else if (QStringView(u"\"`$\\").contains(character))
+            quoted += u'\\';
+        quoted += character;
+    }
+    return quoted + u'"';
+}
+
+QString absoluteProgram(const QString& name) {
+    return name.startsWith(u'/') ? name : QStandardPaths::findExecutable(name);
+}

@@ -1,0 +1,341 @@
+// SPDX-License-Identifier: MIT
+#include "platform/autostart/Autostart.h"
+
+#include "platform/desktop_entry/DesktopEntry.h"
+#include "tests/platform/autostart/TestAutostart.h"
+
+#include <QElapsedTimer>
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <QRandomGenerator>
+#include <QRegularExpression>
+
+#include <csignal>
+
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+class AutostartTest : public TestAutostart {};
+
+/// A user whom the permissions of files bind, even where the tests run as root.
+class AsOrdinaryUser {
+public:
+    AsOrdinaryUser() : isRoot_(geteuid() == 0) {
+        if (isRoot_ && seteuid(65534) != 0)
+            ADD_FAILURE();
+    }
+    ~AsOrdinaryUser() {
+        if (isRoot_ && seteuid(0) != 0)
+            ADD_FAILURE();
+    }
+
+private:
+    bool isRoot_;
+};
+
+/// No room for more than a few bytes in any file.
+class FullDisk {
+public:
+    FullDisk() : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
+        getrlimit(RLIMIT_FSIZE, &before_);
+        const rlimit few{10, before_.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &few);
+    }
+    ~FullDisk() {
+        setrlimit(RLIMIT_FSIZE, &before_);
+        std::signal(SIGXFSZ, handler_);
+    }
+
+private:
+    void (*handler_)(int);
+    rlimit before_{};
+};
+
+QByteArray application(const QByteArray& exec, const QByteArray& more = {}) {
+    return "[Desktop Entry]\nType=Application\nName=Some\nExec=" + exec + '\n' + more;
+}
+
+bool waitForContent(const QString& path) {
+    QElapsedTimer timer;
+    timer.start();
+    while (QFileInfo(path).size() == 0 && timer.elapsed() < 5000)
+        usleep(5000);
+    return QFileInfo(path).size() > 0;
+}
+
+/// Names that a shell, a desktop entry, a keyfile or a terminal would take for something else.
+const QString kHostileNames[] = {
+    QStringLiteral("plain"),
+    QStringLiteral("my \"quoted\" app %f Möon"),
+    QStringLiteral("$HOME `id` $(id) ; & | > <"),
+    QStringLiteral("back\\slash \\n \\\\ end\\"),
+    QStringLiteral("new\nline\tand\rtab"),
+    QStringLiteral("it's #1 (x) * ? ~ 100%% %U"),
+    QStringLiteral(" blanks at both ends "),
+    QStringLiteral("Hidden=true"),
+};
+
+} // namespace
+
+TEST_F(AutostartTest, WhatIsAddedIsListedAndLaunchedByGLib) {
+    const QString result = path(QStringLiteral("result"));
+    QStringList added;
+    for (const QString& name : kHostileNames) {
+        const QString program =
+            makeProgram(QStringLiteral("programs/") + name,
+                        "#!/bin/sh\nprintf '%s|%s' \"$0\" $# > '" + result.toUtf8() + "'\n");
+        added.append(program);
+        ASSERT_EQ(Autostart::append(program, false), std::error_code()) << qPrintable(name);
+        EXPECT_EQ(paths(), added);
+
+        QFile::remove(result);
+        const QString entry = entryPath(Autostart::items().constLast().file);
+        ASSERT_EQ(QProcess::execute(QStringLiteral("gio"), {QStringLiteral("launch"), entry}), 0)
+            << read(entry).constData();
+        ASSERT_TRUE(waitForContent(result)) << read(entry).constData();
+        EXPECT_EQ(QString::fromUtf8(read(result)), program + QStringLiteral("|0")) << read(entry).constData();
+    }
+}
+
+TEST_F(AutostartTest, SystemdReadsTheRightCommand) {
+    const QString program = makeProgram(QStringLiteral("my \"app\" it's %f Möon"));
+    ASSERT_EQ(Autostart::append(program, false), std::error_code());
+    QStringList folders;
+    for (const char* name : {"normal", "early", "late"}) {
+        folders.append(path(QString::fromLatin1(name)));
+        QDir().mkpath(folders.constLast());
+    }
+    QProcess generator;
+    auto environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("XDG_CONFIG_DIRS"), path(QStringLiteral("none")));
+    generator.setProcessEnvironment(environment);
+    generator.start(QStringLiteral("/usr/lib/systemd/user-generators/systemd-xdg-autostart-generator"),
+                    folders);
+    if (!generator.waitForStarted())
+        GTEST_SKIP() << "systemd is not installed";
+    ASSERT_TRUE(generator.waitForFinished());
+
+    const QDir units(folders[2], QStringLiteral("app-*.service"));
+    ASSERT_EQ(units.entryList().size(), 1) << generator.readAllStandardError().constData();
+    const QString unit = QString::fromUtf8(read(units.filePath(units.entryList().constFirst())));
+    // As a unit file quotes it: %% is one percent sign.
+    QString quoted = program;
+    quoted.replace(u'"', QStringLiteral("\\\"")).replace(u'%', QStringLiteral("%%"));
+    EXPECT_TRUE(unit.contains(QStringLiteral("\nExecStart=:/usr/bin/env \"%1\"\n").arg(quoted)))
+        << qPrintable(unit);
+}
+
+TEST_F(AutostartTest, ADesktopEntryIsCopiedForTheSession) {
+    const QString source = path(QStringLiteral("org.example.Moon.desktop"));
+    write(source,
+          application("\"/opt/My Moon/moon\" --quiet %U",
+                      "Icon=moon\nTryExec=/opt/My Moon/moon\nName[de]=Mond\nMimeType=text/x-moon;\n"));
+    ASSERT_EQ(Autostart::append(source, true), std::error_code());
+    EXPECT_EQ(Autostart::items(),
+              (QList<Autostart::Item>{{QStringLiteral("org.example.Moon.desktop"), source, true}}));
+    QString error;
+    const QString copied = entryPath(QStringLiteral("org.example.Moon.desktop"));
+    const auto entry = DesktopEntry::fromFile(copied, &error);
+    ASSERT_TRUE(entry) << qPrintable(error);
+    EXPECT_EQ(entry->text("Exec"), QStringLiteral("\"/opt/My Moon/moon\" --quiet %U"));
+    EXPECT_EQ(entry->text("Icon"), QStringLiteral("moon"));
+    EXPECT_EQ(entry->text("TryExec"), QStringLiteral("/opt/My Moon/moon"));
+    EXPECT_EQ(entry->text("X-LXQt-Need-Tray"), QStringLiteral("true"));
+    EXPECT_EQ(entry->text("X-KDE-autostart-after"), QStringLiteral("panel"));
+    EXPECT_EQ(entry->text("X-GNOME-Autostart-Delay"), QStringLiteral("2"));
+    EXPECT_EQ(QProcess::execute(QStringLiteral("desktop-file-validate"), {copied}), 0);
+
+    const CaughtLog log;
+    for (const QByteArray& bytes :
+         {QByteArray("[Desktop Entry]\nType=Link\nURL=/\n"), QByteArray("\0\1", 2)}) {
+        write(source, bytes);
+        EXPECT_EQ(Autostart::append(source, false), std::errc::invalid_argument);
+    }
+    EXPECT_EQ(log.lines().size(), 2);
+    EXPECT_EQ(files().size(), 1);
+}
+
+TEST_F(AutostartTest, OtherProgramsEntriesAreReadAndNeverWritten) {
+    const QByteArray foreign = "# mine\r\n[Desktop Entry]\nExec=env  FOO=1\nType=Application\n\n[Other]\nx=y";
+    writeEntry(QStringLiteral("m.desktop"), foreign);
+    writeEntry(QStringLiteral("Moon.desktop"), application("'/no such/ program' %f"));
+    writeEntry(QStringLiteral("lost.desktop"), application("no-such-program-anywhere"));
+    const QString program = makeProgram(QStringLiteral("Moon"));
+    EXPECT_EQ(Autostart::append(program, false), std::error_code());
+    EXPECT_EQ(paths(),
+              (QStringList{QStringLiteral("/no such/ program"), entryPath(QStringLiteral("lost.desktop")),
+                           QStringLiteral("/usr/bin/env"), program}));
+    EXPECT_TRUE(files().contains(QStringLiteral("Moon-2.desktop"))) << "a name that is taken stays another's";
+
+    EXPECT_EQ(Autostart::remove(Autostart::items()[0]), std::error_code());
+    EXPECT_EQ(Autostart::append(program, true), std::error_code());
+    EXPECT_EQ(files(), (QStringList{QStringLiteral("Moon-2.desktop"), QStringLiteral("lost.desktop"),
+                                    QStringLiteral("m.desktop")}));
+    EXPECT_EQ(read(entryPath(QStringLiteral("m.desktop"))), foreign);
+}
+
+TEST_F(AutostartTest, TheOrderIsTheOneOfAdding) {
+    QStringList added;
+    for (const char* name : {"c", "a", "b"}) {
+        added.append(makeProgram(QString::fromLatin1(name)));
+        Autostart::append(added.constLast(), false);
+    }
+    EXPECT_EQ(paths(), added);
+    Autostart::append(added[0], true); // once more: it moves, and does not start twice
+    added.append(added.takeFirst());
+    EXPECT_EQ(paths(), added);
+    EXPECT_EQ(files().size(), 3);
+
+    // The desktop's own settings switch an entry off by a key in it.
+    const QString first = entryPath(QStringLiteral("a.desktop"));
+    write(first, read(first) + "Hidden=true\nX-LoginItem-Position=99999999999999999999\n");
+    added.removeFirst();
+    EXPECT_EQ(paths(), added);
+    added.append(path(QStringLiteral("a")));
+    EXPECT_EQ(Autostart::append(added.constLast(), false), std::error_code());
+    EXPECT_EQ(paths(), added);
+    EXPECT_EQ(files().size(), 3);
+}
+
+TEST_F(AutostartTest, WhatTheDesktopDoesNotStartIsNoLoginItem) {
+    const QByteArray off[] = {"Hidden=true", "X-GNOME-Autostart-enabled=false", "OnlyShowIn=KDE;GNOME;",
+                              "NotShowIn=KDE;XFCE;", "X-MATE-Autostart-enabled=false"};
+    for (std::size_t i = 0; i < std::size(off); ++i)
+        writeEntry(QStringLiteral("off%1.desktop").arg(i), application("/bin/off", off[i] + '\n'));
+    writeEntry(QStringLiteral("link.desktop"), "[Desktop Entry]\nType=Link\nURL=/\n");
+    writeEntry(QStringLiteral("none.desktop"), "[Desktop Entry]\nType=Application\nName=No program\n");
+    writeEntry(QStringLiteral(".hidden.desktop"), application("/bin/off"));
+    writeEntry(QStringLiteral("notes.txt"), application("/bin/off"));
+    writeEntry(QStringLiteral("on1.desktop"),
+               application("/bin/on1", "OnlyShowIn=KDE;XFCE;\nHidden=false\n"));
+    writeEntry(QStringLiteral("on2.desktop"), application("/bin/on2", "NotShowIn=KDE;\n"));
+    EXPECT_EQ(paths(), (QStringList{QStringLiteral("/bin/on1"), QStringLiteral("/bin/on2")}));
+    const WithEnvironment desktop("XDG_CURRENT_DESKTOP", "X-Other:KDE");
+    EXPECT_EQ(paths().filter(QStringLiteral("/bin/on")), QStringList{QStringLiteral("/bin/on1")});
+}
+
+TEST_F(AutostartTest, DamagedEntriesAreLeftOutWithOneLine) {
+    writeEntry(QStringLiteral("huge.desktop"), application("/bin/huge", QByteArray(300 * 1024, '#')));
+    writeEntry(QStringLiteral("binary.desktop"), QByteArray("\x7F"
+                                                            "ELF\0\0\xFF\xFE",
+                                                            8));
+    writeEntry(QStringLiteral("empty.desktop"), {});
+    writeEntry(QStringLiteral("headless.desktop"), "[Other]\nExec=/bin/x\n");
+    QDir().mkpath(entryPath(QStringLiteral("folder.desktop")));
+    QFile::link(QStringLiteral("loop.desktop"), entryPath(QStringLiteral("loop.desktop")));
+    QFile::link(QStringLiteral("/dev/zero"), entryPath(QStringLiteral("zero.desktop")));
+    ASSERT_EQ(mkfifo(qPrintable(entryPath(QStringLiteral("pipe.desktop"))), 0600), 0);
+    const QStringList damaged = files();
+    writeEntry(QStringLiteral("good.desktop"), application("/bin/good"));
+
+    const CaughtLog log;
+    EXPECT_EQ(paths(), QStringList{QStringLiteral("/bin/good")});
+    EXPECT_EQ(paths(), QStringList{QStringLiteral("/bin/good")});
+    EXPECT_EQ(log.lines().size(), damaged.size()) << qPrintable(log.lines().join(u'\n'));
+    for (const QString& file : damaged)
+        EXPECT_EQ(log.lines().filter(entryPath(file)).size(), 1) << qPrintable(file);
+
+    // Nor does adding one of these names follow a link or replace what is there.
+    EXPECT_EQ(Autostart::append(makeProgram(QStringLiteral("loop")), false), std::error_code());
+    EXPECT_TRUE(files().contains(QStringLiteral("loop-2.desktop")));
+    EXPECT_EQ(files().size(), damaged.size() + 2);
+}
+
+TEST_F(AutostartTest, ARefusingDiskLosesNothing) {
+    const auto setModes = [this](mode_t ofFolders, mode_t ofEntry) {
+        chmod(qPrintable(entryPath(QStringLiteral("Moon.desktop"))), ofEntry);
+        for (const char* folder : {"config/autostart", "config", ""})
+            chmod(qPrintable(path(QString::fromLatin1(folder))), ofFolders);
+    };
+    const QString program = makeProgram(QStringLiteral("Moon"));
+    const QString other = makeProgram(QStringLiteral("Other"));
+    ASSERT_EQ(Autostart::append(program, false), std::error_code());
+    const auto items = Autostart::items();
+    const QByteArray before = read(entryPath(QStringLiteral("Moon.desktop")));
+    {
+        const FullDisk full;
+        EXPECT_EQ(Autostart::append(program, true), std::errc::file_too_large);
+        EXPECT_EQ(Autostart::append(other, false), std::errc::file_too_large);
+    }
+    {
+        setModes(0555, 0444);
+        const AsOrdinaryUser user;
+        EXPECT_EQ(Autostart::append(other, false), std::errc::permission_denied);
+        EXPECT_EQ(Autostart::remove(items[0]), std::errc::permission_denied);
+        EXPECT_EQ(Autostart::items(), items);
+    }
+    setModes(0755, 0600);
+    EXPECT_EQ(files(), QStringList{QStringLiteral("Moon.desktop")});
+    EXPECT_EQ(read(entryPath(QStringLiteral("Moon.desktop"))), before);
+
+    // A file where the folder should be.
+    const WithEnvironment config("XDG_CONFIG_HOME", program.toUtf8());
+    EXPECT_EQ(Autostart::append(program, false), std::errc::not_a_directory);
+    EXPECT_TRUE(Autostart::items().isEmpty());
+}
+
+TEST_F(AutostartTest, AKillAtAnyMomentLeavesWholeEntries) {
+    const QByteArray foreign = application("/bin/foreign");
+    writeEntry(QStringLiteral("foreign.desktop"), foreign);
+    const QString program = makeProgram(QStringLiteral("Moon"));
+    ASSERT_EQ(Autostart::append(program, false), std::error_code());
+    const auto withoutPosition = [](const QByteArray& entry) {
+        static const QRegularExpression position(QStringLiteral("(?<=X-LoginItem-Position=)\\d+"));
+        return QString::fromUtf8(entry).remove(position);
+    };
+    const QString whole = withoutPosition(read(entryPath(QStringLiteral("Moon.desktop"))));
+    const auto child = [&] {
+        while (true) {
+            for (const auto& item : Autostart::items().mid(1))
+                Autostart::remove(item);
+            Autostart::append(program, false);
+            Autostart::append(program, false); // in place of the first
+        }
+    };
+
+    int added = 0;
+    QRandomGenerator random(20240101);
+    for (int round = 0; round < 250; ++round) {
+        const pid_t pid = fork();
+        if (pid == 0)
+            child();
+        usleep(random.bounded(15000));
+        kill(pid, SIGKILL);
+        waitpid(pid, nullptr, 0);
+
+        const QStringList present = files();
+        for (const QString& file : present) {
+            if (file == u"Moon.desktop") {
+                ASSERT_EQ(withoutPosition(read(entryPath(file))), whole) << "round " << round;
+                ++added;
+            } else if (file == u"foreign.desktop") {
+                ASSERT_EQ(read(entryPath(file)), foreign) << "round " << round;
+            } else {
+                ASSERT_TRUE(file.startsWith(u".login-item-")) << qPrintable(file);
+            }
+        }
+        ASSERT_EQ(paths().size(), present.contains(QStringLiteral("Moon.desktop")) ? 2 : 1);
+    }
+    // The kills did fall into the work, not before or after it.
+    EXPECT_GT(added, 10);
+    EXPECT_LT(added, 240);
+
+    // What killed copies left is cleared away once it is surely nobody's.
+    const QDir folder(entryPath({}));
+    const auto leftOver = [&] {
+        return folder.entryList({QStringLiteral(".login*")}, QDir::Files | QDir::Hidden);
+    };
+    ASSERT_GT(leftOver().size(), 5);
+    const QString young = leftOver().constFirst();
+    for (const QString& draft : leftOver().mid(1)) {
+        QFile file(folder.filePath(draft));
+        ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+        file.setFileTime(QDateTime::currentDateTime().addSecs(-3600), QFileDevice::FileModificationTime);
+    }
+    EXPECT_EQ(Autostart::append(program, false), std::error_code());
+    EXPECT_EQ(leftOver(), QStringList{young});
+}
