@@ -19,6 +19,7 @@ def main():
         wait_for("the panel's text", desktop.lines)
         # Not the captions of fields, whose texts are no labels.
         print("\n".join(line for line in desktop.lines() if not line.endswith(":")))
+        desktop.picture(screenshot)  # comes when the panel is painted
         desktop.screenshot(screenshot)
         print("\nScreenshot: " + os.path.abspath(screenshot))
     finally:
