@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/appkit/NSAppearance.h"
 
+#include "platform/appkit/SwayPlacement.h"
+
 #include <QApplication>
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -132,7 +134,8 @@ void NSAppearance::followDesktop(QObject* owner, const QDBusConnection& bus) {
 }
 
 bool NSAppearance::wantsAnimations() {
-    return hasAnimations;
+    // Sway answers a size with another place, and both cross on their way: many in a row end anywhere.
+    return hasAnimations && !SwayPlacement::isThere();
 }
 
 #include "NSAppearance.moc"

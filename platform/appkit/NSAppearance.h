@@ -14,7 +14,8 @@ namespace NSAppearance {
 void followDesktop(QObject* owner);
 void followDesktop(QObject* owner, const QDBusConnection& bus);
 
-/// Whether the desktop has animations, as far as `followDesktop` has heard; true until then.
+/// Whether the desktop has animations, as far as `followDesktop` has heard; true until then, but never
+/// under Sway.
 bool wantsAnimations();
 
 } // namespace NSAppearance

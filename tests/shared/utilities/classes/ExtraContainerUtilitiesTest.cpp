@@ -40,13 +40,6 @@ TEST(ExtraContainerUtilitiesTest, EmptyByLengthCountTextSizeOrRows) {
     EXPECT_FALSE(isEmpty(QStandardItemModel(1, 0)));
 }
 
-TEST(ExtraContainerUtilitiesTest, RangesAndInequality) {
-    EXPECT_EQ(wholeRange(QStringLiteral("Moon")), (NSRange{0, 4}));
-    EXPECT_EQ(wholeRange(QSet<int>{7}), (NSRange{0, 1}));
-    EXPECT_TRUE(isNotEqual(QStringLiteral("a"), QStringLiteral("A")));
-    EXPECT_FALSE(isNotEqual(QStringLiteral("a"), QStringLiteral("a")));
-}
-
 TEST(ExtraURLUtilitiesTest, TakesAStringAsItStandsOrNotAtAll) {
     using ExtraURLUtilities::urlWithURLString;
     for (const char* text : {"http://a.example/%20?q=a+b#c", "mailto:a@b.example", "www.example.com/x",
