@@ -184,7 +184,12 @@ class ActionsTest(unittest.TestCase):
         desktop.type("3")
         desktop.key("Return")
         self.wait_moment(new.replace(month=3))
-        desktop.key("alt+shift+Next", "alt+Next", "alt+Right", "ctrl+t")
+        desktop.key("alt+3")
+        wait_for("the full moon", lambda: "Moon is full" in desktop.lines())
+        full = self.moment()
+        desktop.key("alt+Next", "alt+Right")
+        self.wait_moment(full + datetime.timedelta(hours=25))
+        desktop.key("ctrl+t")
         wait_for("the present", lambda: abs(self.moment() - datetime.datetime(2009, 12, 20, 12)).seconds < 90)
 
     def test_a_changed_line_is_dark_red_until_an_update_leaves_it(self):
