@@ -6,6 +6,8 @@
 #include "platform/foundation/NSUserDefaults.h"
 #include "shared/utilities/classes/ExtraStringUtilities.h"
 
+#include <algorithm>
+
 QString ApplicationDelegate::feedURLString(const QString& host, const QString& build, const QString& interval,
                                            const QString& version, const QString& system) {
     QString url = QStringLiteral("https://") + host;
@@ -20,6 +22,12 @@ QString ApplicationDelegate::feedURLString(const QString& host, const QString& b
     return url;
 }
 
+QUrl ApplicationDelegate::feedURL(const QString& text) {
+    const bool isASCII = std::ranges::all_of(text, [](QChar c) { return c.unicode() < 128; });
+    const QUrl url(text, QUrl::StrictMode);
+    return isASCII && url.isValid() ? url : QUrl();
+}
+
 void ApplicationDelegate::initCheckForUpdateURL() {
     const NSBundle& bundle = NSBundle::mainBundle();
     const QString url = feedURLString(
@@ -28,8 +36,7 @@ void ApplicationDelegate::initCheckForUpdateURL() {
         bundle.infoString(QStringLiteral("CFBundleShortVersionString")),
         ExtraStringUtilities::stringWithOSVersion());
     sparkleUpdater_->setDelegate(this);
-    // Strict: a blank in a version must not be mended into an address that nobody meant.
-    sparkleUpdater_->setFeedURL(QUrl(url, QUrl::StrictMode));
+    sparkleUpdater_->setFeedURL(feedURL(url));
 }
 
 void ApplicationDelegate::forwardCheckForUpdate(QObject* sender) {

@@ -635,5 +635,9 @@
         <source>url: &lt;%1&gt;, browser: &lt;%2&gt;</source>
         <translation>‏URL: ⁦&lt;%1&gt;⁩، المتصفح: ⁦&lt;%2&gt;⁩</translation>
     </message>
+    <message>
+        <source>%1 can&apos;t look for updates, because a part of it is missing; please install %1 again.</source>
+        <translation>لا يستطيع %1 البحث عن تحديثات لأن جزءًا منه مفقود؛ يُرجى تثبيت %1 من جديد.</translation>
+    </message>
 </context>
 </TS>

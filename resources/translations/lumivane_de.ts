@@ -635,5 +635,9 @@
         <source>url: &lt;%1&gt;, browser: &lt;%2&gt;</source>
         <translation>URL: &lt;%1&gt;, Browser: &lt;%2&gt;</translation>
     </message>
+    <message>
+        <source>%1 can&apos;t look for updates, because a part of it is missing; please install %1 again.</source>
+        <translation>%1 kann nicht nach Aktualisierungen suchen, weil ein Teil des Programms fehlt; bitte installieren Sie %1 erneut.</translation>
+    </message>
 </context>
 </TS>

@@ -635,5 +635,9 @@
         <source>url: &lt;%1&gt;, browser: &lt;%2&gt;</source>
         <translation>URL: &lt;%1&gt;, navegador: &lt;%2&gt;</translation>
     </message>
+    <message>
+        <source>%1 can&apos;t look for updates, because a part of it is missing; please install %1 again.</source>
+        <translation>%1 no puede buscar actualizaciones porque falta una parte del programa; vuelva a instalar %1.</translation>
+    </message>
 </context>
 </TS>

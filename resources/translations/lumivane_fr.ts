@@ -635,5 +635,9 @@
         <source>url: &lt;%1&gt;, browser: &lt;%2&gt;</source>
         <translation>URL&#xa0;: &lt;%1&gt;, navigateur&#xa0;: &lt;%2&gt;</translation>
     </message>
+    <message>
+        <source>%1 can&apos;t look for updates, because a part of it is missing; please install %1 again.</source>
+        <translation>%1 ne peut pas rechercher de mises à jour, car il manque une partie du programme ; veuillez réinstaller %1.</translation>
+    </message>
 </context>
 </TS>

@@ -635,5 +635,9 @@
         <source>url: &lt;%1&gt;, browser: &lt;%2&gt;</source>
         <translation>URL: &lt;%1&gt;、ブラウザー: &lt;%2&gt;</translation>
     </message>
+    <message>
+        <source>%1 can&apos;t look for updates, because a part of it is missing; please install %1 again.</source>
+        <translation>プログラムの一部が見つからないため、%1 はアップデートを確認できません。%1 を再インストールしてください。</translation>
+    </message>
 </context>
 </TS>

@@ -635,5 +635,9 @@
         <source>url: &lt;%1&gt;, browser: &lt;%2&gt;</source>
         <translation>URL: &lt;%1&gt;, navegador: &lt;%2&gt;</translation>
     </message>
+    <message>
+        <source>%1 can&apos;t look for updates, because a part of it is missing; please install %1 again.</source>
+        <translation>O %1 não pode procurar atualizações porque falta uma parte do programa; reinstale o %1.</translation>
+    </message>
 </context>
 </TS>

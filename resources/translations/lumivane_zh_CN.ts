@@ -635,5 +635,9 @@
         <source>url: &lt;%1&gt;, browser: &lt;%2&gt;</source>
         <translation>URL：&lt;%1&gt;，浏览器：&lt;%2&gt;</translation>
     </message>
+    <message>
+        <source>%1 can&apos;t look for updates, because a part of it is missing; please install %1 again.</source>
+        <translation>由于程序的一部分缺失，%1 无法查找更新；请重新安装 %1。</translation>
+    </message>
 </context>
 </TS>
