@@ -11,6 +11,8 @@
 #include "platform/carbon/GetMBarHeight.h"
 #include "platform/foundation/NSBundle.h"
 #include "platform/foundation/NSDate.h"
+#include "platform/foundation/NSLog.h"
+#include "platform/foundation/RegularFile.h"
 #include "shared/utilities/classes/ExtraApplicationUtilities.h"
 #include "shared/utilities/classes/ExtraMutableStringUtilities.h"
 #include "shared/utilities/classes/ExtraStringUtilities.h"
@@ -18,9 +20,9 @@
 #include "shared/utilities/classes/NSImageUtilities.h"
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QIcon>
-#include <QImageReader>
 #include <QMenu>
 #include <QScreen>
 
@@ -32,6 +34,7 @@ namespace {
 constexpr std::chrono::seconds kClockInterval{300};
 constexpr std::chrono::seconds kSettling{1};
 constexpr int kLargestIcon = 64;
+constexpr qint64 kLargestPicture = 1 << 20;
 
 /// The program's installed icon in the sizes that window lists draw; every window keeps all that it is given.
 /// A look through the desktop's icon theme would take longer than making the panel.
@@ -41,8 +44,12 @@ QIcon windowIcon() {
         const QString path = QStringLiteral("%1/../icons/hicolor/%2x%2/apps/%3.png")
                                  .arg(NSBundle::mainBundle().resourcePath(), QString::number(size),
                                       NSBundle::mainBundle().bundleIdentifier());
-        if (const QImage image = QImageReader(path, "png").read(); !image.isNull())
+        QString error;
+        const auto png = RegularFile::read(path, kLargestPicture, &error);
+        if (const QImage image = QImage::fromData(png.value_or(QByteArray()), "png"); !image.isNull())
             icon.addPixmap(QPixmap::fromImage(image));
+        else if (QFileInfo::exists(path))
+            NSLog(QStringLiteral("The icon %1 can't be read. %2").arg(path, error));
     }
     return icon;
 }

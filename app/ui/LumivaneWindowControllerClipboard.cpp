@@ -7,6 +7,7 @@
 #include "platform/appkit/RTFReader.h"
 #include "platform/foundation/NSBundle.h"
 #include "platform/foundation/NSLog.h"
+#include "platform/foundation/RegularFile.h"
 #include "shared/utilities/classes/ExtraDateUtilities.h"
 #include "shared/utilities/classes/ExtraMutableAttributedStringUtilities.h"
 #include "shared/utilities/classes/ExtraMutableStringUtilities.h"
@@ -15,12 +16,13 @@
 
 #include <QComboBox>
 #include <QCoreApplication>
-#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTextDocument>
 
 namespace {
+
+constexpr qint64 kLargestCredits = 1 << 20;
 
 /// A localised label format with its first "%@" filled.
 QString filled(const char* format, const QString& value) {
@@ -47,10 +49,9 @@ constexpr const char* kCreditsTexts[]{
 /// The credits resource; null when it is missing or unreadable.
 std::unique_ptr<QTextDocument> credits() {
     QString error;
-    QFile file(NSBundle::mainBundle().pathForResource(QStringLiteral("Credits.rtf")));
-    if (!file.open(QIODevice::ReadOnly))
-        error = file.errorString();
-    std::unique_ptr<QTextDocument> text = error.isEmpty() ? documentFromRTF(file.readAll(), &error) : nullptr;
+    const auto rtf = RegularFile::read(NSBundle::mainBundle().resourcePath() + QStringLiteral("/Credits.rtf"),
+                                       kLargestCredits, &error);
+    std::unique_ptr<QTextDocument> text = rtf ? documentFromRTF(*rtf, &error) : nullptr;
     if (!text)
         NSLog(QStringLiteral("The credits can't be shown: %1.").arg(error));
     return text;

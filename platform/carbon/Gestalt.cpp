@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/carbon/Gestalt.h"
 
+#include "platform/foundation/NSLog.h"
+#include "platform/foundation/RegularFile.h"
+
 #include <QSysInfo>
 #include <QVersionNumber>
 
@@ -17,9 +20,19 @@ std::array<int, 3> leadingNumbers(const QString& text) {
     return numbers;
 }
 
+QString productVersion() {
+    for (const char* file : {"/etc/os-release", "/usr/lib/os-release"}) {
+        if (RegularFile::isOtherThing(QString::fromLatin1(file))) { // Qt would wait for it
+            NSLog(QStringLiteral("%1 is no regular file, and is not read.").arg(QString::fromLatin1(file)));
+            return {};
+        }
+    }
+    return QSysInfo::productVersion();
+}
+
 std::array<int, 3> versionNumbers() {
     // A rolling distribution states no version; its kernel's release is the next best number.
-    const auto ofSystem = leadingNumbers(QSysInfo::productVersion());
+    const auto ofSystem = leadingNumbers(productVersion());
     return ofSystem[0] > 0 ? ofSystem : leadingNumbers(QSysInfo::kernelVersion());
 }
 

@@ -9,8 +9,9 @@
 class QSettings;
 
 /// Stands for Foundation's per-user defaults: values that the user stored, over a registration domain that
-/// answers for every other key. Backed by an INI file in the XDG config folder. A file that can't be read as
-/// one is kept aside under another name and logged, and the registered defaults serve.
+/// answers for every other key. Backed by an INI file in the XDG config folder, which only its user may read:
+/// 0600, in a folder of 0700. A file that can't be read as one is kept aside under another name and logged,
+/// and the registered defaults serve.
 class NSUserDefaults : public QObject {
     Q_OBJECT
 
@@ -53,6 +54,7 @@ private:
     void synchronizeLater();
     void store(const QString& key, const QVariant& value);
     void openFile(const QString& path);
+    void prepareFile();
     template <typename T, typename Convert>
     T typedValue(const QString& key, Convert convert) const;
 
