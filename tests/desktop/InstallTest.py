@@ -19,7 +19,7 @@ IDENTIFIER = "com.corvanta.Lumivane"
 class InstallTest(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
-        folder = tempfile.mkdtemp(prefix="moved $100 % install ")
+        folder = tempfile.mkdtemp(prefix="moved $100 install ")
         cls.addClassCleanup(shutil.rmtree, folder)
         cls.prefix = pathlib.Path(folder, "Applications")
         subprocess.run(["cmake", "--install", BUILD, "--prefix", cls.prefix], check=True, stdout=subprocess.DEVNULL)
