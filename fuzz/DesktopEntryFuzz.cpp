@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/foundation/DesktopEntry.h"
+#include "platform/desktop_entry/DesktopEntry.h"
 
 #include <cstdint>
 #include <cstdlib>

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 # update_translations.sh FILE.ts...: brings the files up to date with the texts of all sources and layouts. New texts
-# come in unfinished at the end, those that are no more go, the others stay where they are.
+# come in unfinished at the end, those that are no more go, the others stay where they are. The English table holds but
+# the texts that read otherwise than their keys, and is not for this.
 set -euo pipefail
 files=()
 for file in "$@"; do files+=("$(realpath -m "$file")"); done

@@ -181,15 +181,11 @@ QString readTable(const QVariant& root, std::array<tLunation, kLunationCount>& l
 void CMoon::Init() {
     if (loaded)
         return;
-    const QString path = NSBundle::mainBundle().pathForResource(QStringLiteral("Lunations.plist"));
     QString problem;
-    if (path.isEmpty()) {
-        problem = QStringLiteral("it is missing");
-    } else {
-        const QVariant root = NSPropertyList::read(path, &problem);
-        if (problem.isEmpty())
-            problem = readTable(root, lunations);
-    }
+    const QVariant root = NSPropertyList::read(
+        NSBundle::mainBundle().resourcePath() + QStringLiteral("/Lunations.plist"), &problem);
+    if (problem.isEmpty())
+        problem = readTable(root, lunations);
     if (!problem.isEmpty()) {
         NSLog(QStringLiteral("The lunation table Lunations.plist can't be used: %1. It is computed.")
                   .arg(problem));

@@ -59,6 +59,10 @@ public:
     static QString feedURLString(const QString& host, const QString& build, const QString& interval,
                                  const QString& version, const QString& system);
 
+    /// The address that `text` is as it stands: a blank or a letter beyond ASCII, from a version, is not
+    /// mended into one that nobody meant, but gives an empty one.
+    static QUrl feedURL(const QString& text);
+
     /// Logs the check; the feed's address already carries all that there is to tell.
     QList<SUFeedParameter> feedParametersForUpdater(SUUpdater* updater, bool sendingSystemProfile) override;
 

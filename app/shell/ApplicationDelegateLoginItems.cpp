@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/shell/ApplicationDelegate.h"
 
+#include "platform/autostart/Autostart.h"
 #include "platform/foundation/NSBundle.h"
 #include "platform/foundation/NSLog.h"
 #include "platform/foundation/NSUserDefaults.h"
@@ -23,6 +24,8 @@ QUrl urlOf(const QVariantMap& loginItem) {
 void removeLoginItem(qsizetype index, const QUrl& url) {
     if (const LIAEStatus err = LIAERemove(index); err != kLIAENoError)
         NSLog(QStringLiteral("Can't remove %1 from the login items (%2).").arg(url.toLocalFile()).arg(err));
+    else
+        NSLog(QStringLiteral("Removed %1 from the login items.").arg(url.toLocalFile()));
 }
 
 void addLoginItem(const QUrl& url) {
@@ -78,7 +81,7 @@ void ApplicationDelegate::quitOlderCopies() {
 void ApplicationDelegate::ensureSetToStartup() {
     const QUrl wanted = bundleURL();
     if (alreadySetToStartup(wanted))
-        return;
+        return Autostart::mend(wanted.toLocalFile());
     removeOldStartupItemsContaining(QStringLiteral("Lumivane"));
     addLoginItem(wanted);
 }

@@ -7,6 +7,8 @@
 #include "shared/utilities/classes/ExtraStringUtilities.h"
 #include "shared/utilities/classes/InternetConfig.h"
 
+#include <algorithm>
+
 QString ApplicationDelegate::feedURLString(const QString& host, const QString& build, const QString& interval,
                                            const QString& version, const QString& system) {
     QString url = QStringLiteral("https://") + host;
@@ -21,6 +23,12 @@ QString ApplicationDelegate::feedURLString(const QString& host, const QString& b
     return url;
 }
 
+QUrl ApplicationDelegate::feedURL(const QString& text) {
+    const bool isASCII = std::ranges::all_of(text, [](QChar c) { return c.unicode() < 128; });
+    const QUrl url(text, QUrl::StrictMode);
+    return isASCII && url.isValid() ? url : QUrl();
+}
+
 void ApplicationDelegate::initCheckForUpdateURL() {
     const NSBundle& bundle = NSBundle::mainBundle();
     const QString url = feedURLString(
@@ -29,8 +37,7 @@ void ApplicationDelegate::initCheckForUpdateURL() {
         bundle.infoString(QStringLiteral("CFBundleShortVersionString")),
         ExtraStringUtilities::stringWithOSVersion());
     sparkleUpdater_->setDelegate(this);
-    // Strict: a blank in a version must not be mended into an address that nobody meant.
-    sparkleUpdater_->setFeedURL(QUrl(url, QUrl::StrictMode));
+    sparkleUpdater_->setFeedURL(feedURL(url));
 }
 
 void ApplicationDelegate::forwardCheckForUpdate(QObject* sender) {

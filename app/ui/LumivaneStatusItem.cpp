@@ -10,16 +10,18 @@
 #include "platform/appkit/SwayPlacement.h"
 #include "platform/foundation/NSBundle.h"
 #include "platform/foundation/NSDate.h"
+#include "platform/foundation/NSLog.h"
 #include "platform/foundation/NSNumberFormatter.h"
+#include "platform/foundation/RegularFile.h"
 #include "shared/utilities/classes/ExtraApplicationUtilities.h"
 #include "shared/utilities/classes/ExtraMutableStringUtilities.h"
 #include "shared/utilities/classes/ExtraWindowUtilities.h"
 #include "shared/utilities/classes/NSImageUtilities.h"
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QIcon>
-#include <QImageReader>
 #include <QMenu>
 #include <QPainter>
 #include <QScreen>
@@ -33,6 +35,7 @@ namespace {
 constexpr std::chrono::seconds kClockInterval{300};
 constexpr std::chrono::seconds kSettling{1};
 constexpr int kLargestIcon = 64;
+constexpr qint64 kLargestPicture = 1 << 20;
 
 /// The program's installed icon; empty where that is missing. A look through the desktop's icon theme would
 /// take longer than making the panel.
@@ -40,7 +43,12 @@ QImage installedIcon(int side) {
     const QString path = QStringLiteral("%1/../icons/hicolor/%2x%2/apps/%3.png")
                              .arg(NSBundle::mainBundle().resourcePath(), QString::number(side),
                                   NSBundle::mainBundle().bundleIdentifier());
-    return QImageReader(path, "png").read();
+    QString error;
+    const auto png = RegularFile::read(path, kLargestPicture, &error);
+    const QImage image = QImage::fromData(png.value_or(QByteArray()), "png");
+    if (image.isNull() && QFileInfo::exists(path))
+        NSLog(QStringLiteral("The icon %1 can't be read. %2").arg(path, error));
+    return image;
 }
 
 /// In the sizes that window lists draw; every window keeps all that it is given.

@@ -305,7 +305,7 @@ void LumivaneWindowController::updateForTray() {
     windoidButton_->setVisible(!isWindoid() || inTray);
     const QString hide = NSBundle::mainBundle().localizedString(
         inTray ? QT_TRANSLATE_NOOP("Lumivane", "Hide") : QT_TRANSLATE_NOOP("Lumivane", "Quit"));
-    hideButton_->setToolTip(hide);
+    hideButton_->setToolTip(QStringLiteral("%1 (%2)").arg(hide, hideButton_->accessibleDescription()));
     hideButton_->setAccessibleName(hide);
 }
 

@@ -3,10 +3,12 @@
 #include "app/ui/LumivaneStatusItem.h"
 #include "app/ui/LumivaneWindow.h"
 #include "app/ui/LumivaneWindowController.h"
+#include "platform/appkit/Mnemonics.h"
 #include "platform/appkit/NSDatePicker.h"
 #include "platform/appkit/RTFReader.h"
 #include "platform/foundation/NSBundle.h"
 #include "platform/foundation/NSLog.h"
+#include "platform/foundation/RegularFile.h"
 #include "shared/utilities/classes/ExtraDateUtilities.h"
 #include "shared/utilities/classes/ExtraMutableAttributedStringUtilities.h"
 #include "shared/utilities/classes/ExtraMutableStringUtilities.h"
@@ -15,13 +17,14 @@
 
 #include <QComboBox>
 #include <QCoreApplication>
-#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
 #include <QTextDocument>
 
 namespace {
+
+constexpr qint64 kLargestCredits = 1 << 20;
 
 /// A localised label format with its first "%@" filled.
 QString filled(const char* format, const QString& value) {
@@ -51,10 +54,9 @@ QPointer<SimpleTextWindow> shownCredits;
 /// The credits resource; null when it is missing or unreadable.
 std::unique_ptr<QTextDocument> credits() {
     QString error;
-    QFile file(NSBundle::mainBundle().pathForResource(QStringLiteral("Credits.rtf")));
-    if (!file.open(QIODevice::ReadOnly))
-        error = file.errorString();
-    std::unique_ptr<QTextDocument> text = error.isEmpty() ? documentFromRTF(file.readAll(), &error) : nullptr;
+    const auto rtf = RegularFile::read(NSBundle::mainBundle().resourcePath() + QStringLiteral("/Credits.rtf"),
+                                       kLargestCredits, &error);
+    std::unique_ptr<QTextDocument> text = rtf ? documentFromRTF(*rtf, &error) : nullptr;
     if (!text)
         NSLog(QStringLiteral("The credits can't be shown: %1.").arg(error));
     return text;
@@ -120,6 +122,5 @@ void LumivaneWindowController::showAbout(QObject*) {
                        ? SimpleTextWindow::simpleTextWindowFromAttributedString(*text, window_.get())
                        : SimpleTextWindow::freeTextWindowFromAttributedString(*text);
     if (shownCredits)
-        shownCredits->window()->setWindowTitle(
-            bundle.localizedString(QT_TRANSLATE_NOOP("Lumivane", "About Lumivane")));
+        shownCredits->window()->setWindowTitle(withoutMnemonic(bundle.localizedString("&About Lumivane")));
 }

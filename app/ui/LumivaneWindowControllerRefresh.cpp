@@ -140,7 +140,7 @@ void LumivaneWindowController::updateQuarterButtons() {
             picture.isNull() ? picture : NSImageUtilities::tintToGrayWithBrightness(picture, level);
         button->setIconSize(QSize(kQuarterPictureSide, kQuarterPictureSide));
         button->setIcon(QIcon(pixmapForScreenOf(button, tinted, kQuarterPictureSide)));
-        button->setText(button->accessibleName()); // seen only where there is no picture
+        button->setText(tinted.isNull() ? button->accessibleName() : QString());
     }
 }
 

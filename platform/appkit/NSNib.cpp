@@ -7,15 +7,16 @@
 #include "platform/foundation/NSBundle.h"
 #include "platform/foundation/NSNumberFormatter.h"
 #include "platform/foundation/NSUserDefaults.h"
+#include "platform/foundation/RegularFile.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemModel>
 #include <QAbstractSlider>
 #include <QAction>
+#include <QBuffer>
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QDateTimeEdit>
-#include <QFile>
 #include <QHash>
 #include <QLineEdit>
 #include <QMetaMethod>
@@ -30,6 +31,7 @@
 
 namespace {
 
+constexpr qint64 kLargestLayout = 4 << 20;
 constexpr char kAction[] = "action";
 constexpr char kBinding[] = "binding";
 constexpr char kTag[] = "tag";
@@ -322,16 +324,15 @@ void NSNib::registerClass(const QString& className, Factory factory) {
 }
 
 std::unique_ptr<QWidget> NSNib::load(const QString& name, QObject* owner, QString* error) {
-    const QString path = NSBundle::mainBundle().pathForResource(name, QStringLiteral("ui"));
-    if (path.isEmpty()) {
-        addReason(error, QStringLiteral("There is no layout \"%1\".").arg(name));
+    const QString path = NSBundle::mainBundle().resourcePath() + u'/' + name + QStringLiteral(".ui");
+    QString problem;
+    auto bytes = RegularFile::read(path, kLargestLayout, &problem);
+    if (!bytes) {
+        addReason(error, QStringLiteral("There is no layout \"%1\": %2.").arg(name, problem));
         return nullptr;
     }
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        addReason(error, QStringLiteral("%1 can't be read: %2.").arg(path, file.errorString()));
-        return nullptr;
-    }
+    QBuffer file(&*bytes);
+    file.open(QIODevice::ReadOnly);
     Loader loader;
     std::unique_ptr<QWidget> root(loader.load(&file));
     if (!root) {

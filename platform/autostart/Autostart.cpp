@@ -85,6 +85,23 @@ std::vector<Entry> allEntries() {
     return entries;
 }
 
+/// Has an entry start `program`, where it leaves it to the login's PATH to find one; whether that changed it.
+/// A login knows fewer folders of programs than a shell, and where it finds none it says nothing.
+bool nameProgramWhole(DesktopEntry* entry, const QString& program) {
+    const auto isRelative = [](const QString& path) { return !path.isEmpty() && !path.startsWith(u'/'); };
+    const QString tried = entry->text("TryExec");
+    const bool startsByName = isRelative(entry->namedProgram());
+    if (!program.startsWith(u'/') || (!startsByName && !isRelative(tried)))
+        return false;
+    if (startsByName)
+        entry->setProgram(program);
+    if (isRelative(tried)) {
+        const QString found = absoluteProgram(tried);
+        entry->setText("TryExec", found.isEmpty() ? program : found);
+    }
+    return true;
+}
+
 std::optional<DesktopEntry> autostartOfEntry(const QString& path) {
     QString error;
     const auto source = DesktopEntry::fromFile(path, &error);
@@ -95,21 +112,15 @@ std::optional<DesktopEntry> autostartOfEntry(const QString& path) {
     DesktopEntry entry;
     for (const char* key : {"Type", "Name", "Icon", "Exec", "TryExec", "Path", "Terminal"})
         entry.copy(key, *source);
+    nameProgramWhole(&entry, source->program());
     return entry;
-}
-
-/// Where a percent sign is a program's own, GLib and systemd read it right in an argument alone. An argument
-/// with an equals sign would be a variable to `env`.
-QString execOf(const QString& path) {
-    const bool asArgument = path.contains(u'%') && !path.contains(u'=');
-    return (asArgument ? QStringLiteral("env ") : QString()) + quotedForExec(path);
 }
 
 DesktopEntry autostartOfProgram(const QString& path) {
     DesktopEntry entry;
     entry.setText("Type", QStringLiteral("Application"));
     entry.setText("Name", QFileInfo(path).fileName());
-    entry.setText("Exec", execOf(path));
+    entry.setText("Exec", execFor(path));
     entry.setText("TryExec", path);
     return entry;
 }
@@ -253,6 +264,24 @@ std::error_code Autostart::append(const QString& path, bool hidden) {
     for (int attempt = 0; attempt < 3 && error == std::errc::file_exists; ++attempt)
         error = appendOnce(path, hidden);
     return error;
+}
+
+void Autostart::mend(const QString& path) {
+    QString error;
+    const auto source = DesktopEntry::fromFile(path, &error);
+    for (const Entry& entry : allEntries()) {
+        if (!source || !entry.position || entry.item.path != path)
+            continue;
+        auto added = DesktopEntry::fromFile(filePath(entry.item.file), &error);
+        if (!added || !nameProgramWhole(&*added, source->program()))
+            continue;
+        const std::error_code failure = writeEntry(entry.item.file, added->toBytes(), true);
+        NSLog(failure ? QStringLiteral("%1 can't be made to start %2 by its whole path (%3).")
+                            .arg(filePath(entry.item.file), source->program(),
+                                 QString::fromStdString(failure.message()))
+                      : QStringLiteral("%1 starts %2 by its whole path now.")
+                            .arg(filePath(entry.item.file), source->program()));
+    }
 }
 
 std::error_code Autostart::remove(const Item& item) {

@@ -26,10 +26,15 @@ QString path();
 /// order of their adding. What can't be read as an entry is left out, with one log line a file and run.
 QList<Item> items();
 
-/// Adds an entry for a program, or for what a desktop entry starts, at the end. One that was added for the
-/// same path before, switched off or not, gives way to it. `std::errc::invalid_argument` for a desktop entry
-/// that starts nothing, else the disk's error; then the folder is as it was.
+/// Adds an entry for a program, or for what a desktop entry starts, at the end, by its absolute path. One
+/// that was added for the same path before, switched off or not, gives way to it.
+/// `std::errc::invalid_argument` for a desktop entry that starts nothing, else the disk's error; then the
+/// folder is as it was.
 std::error_code append(const QString& path, bool hidden);
+
+/// Has the entry that was added for the desktop entry `path` start its program by the absolute path, where an
+/// earlier version left it to the login's PATH to find one. All else in it stays.
+void mend(const QString& path);
 
 /// Removes the item's file and nothing else; the disk's error where it refuses.
 std::error_code remove(const Item& item);

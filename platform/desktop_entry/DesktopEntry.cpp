@@ -1,17 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "platform/desktop_entry/DesktopEntry.h"
 
-#include <QFile>
+#include "platform/foundation/RegularFile.h"
+
 #include <QStandardPaths>
 
 #include <algorithm>
-#include <cerrno>
-#include <cstring>
 
-#include <fcntl.h>
 #include <glib.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace {
 
@@ -32,24 +28,6 @@ QString takeMessage(GError* error) {
     const QString message = QString::fromUtf8(error->message);
     g_error_free(error);
     return message;
-}
-
-/// Opens nothing that blocks or never ends: a pipe, a device, a folder.
-bool openRegular(const QString& path, QFile* file, QString* error) {
-    const int descriptor = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
-    struct stat status {};
-    if (descriptor < 0 || fstat(descriptor, &status) != 0) {
-        *error = QString::fromLocal8Bit(std::strerror(errno));
-    } else if (!S_ISREG(status.st_mode)) {
-        *error = QStringLiteral("it is no regular file");
-    } else if (status.st_size > kLargestFile) {
-        *error = QStringLiteral("it is too large");
-    } else if (file->open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
-        return true;
-    }
-    if (descriptor >= 0)
-        close(descriptor);
-    return false;
 }
 
 /// A value with the file's escapes. GKeyFile's own leave a blank at the end, which some readers strip.
@@ -80,6 +58,35 @@ QString escaped(const QString& value) {
     return result;
 }
 
+/// Where the first argument of a command line ends, as a shell sees it.
+qsizetype endOfFirstArgument(QStringView line) {
+    QChar quote;
+    for (qsizetype at = 0; at < line.size(); ++at) {
+        const QChar character = line[at];
+        if (character == u'\\' && quote != u'\'')
+            ++at;
+        else if (!quote.isNull())
+            quote = character == quote ? QChar() : quote;
+        else if (character == u'"' || character == u'\'')
+            quote = character;
+        else if (character.isSpace())
+            return at;
+    }
+    return line.size();
+}
+
+QString quotedForExec(const QString& argument) {
+    QString quoted = QStringLiteral("\"");
+    for (const QChar character : argument) {
+        if (character == u'%')
+            quoted += u'%';
+        else if (QStringView(u"\"`$\\").contains(character))
+            quoted += u'\\';
+        quoted += character;
+    }
+    return quoted + u'"';
+}
+
 } // namespace
 
 void DesktopEntry::Free::operator()(_GKeyFile* file) const {
@@ -93,10 +100,12 @@ DesktopEntry::DesktopEntry(DesktopEntry&&) noexcept = default;
 DesktopEntry& DesktopEntry::operator=(DesktopEntry&&) noexcept = default;
 
 std::optional<DesktopEntry> DesktopEntry::fromBytes(const QByteArray& bytes, QString* error) {
+    constexpr auto keepingAll =
+        static_cast<GKeyFileFlags>(G_KEY_FILE_KEEP_COMMENTS | G_KEY_FILE_KEEP_TRANSLATIONS);
     DesktopEntry entry;
     GError* failure = nullptr;
     if (!g_key_file_load_from_data(entry.file_.get(), bytes.constData(), static_cast<gsize>(bytes.size()),
-                                   G_KEY_FILE_NONE, &failure)) {
+                                   keepingAll, &failure)) {
         *error = takeMessage(failure);
         return std::nullopt;
     }
@@ -108,10 +117,8 @@ std::optional<DesktopEntry> DesktopEntry::fromBytes(const QByteArray& bytes, QSt
 }
 
 std::optional<DesktopEntry> DesktopEntry::fromFile(const QString& path, QString* error) {
-    QFile file;
-    if (!openRegular(path, &file, error))
-        return std::nullopt;
-    return fromBytes(file.read(kLargestFile), error);
+    const auto bytes = RegularFile::read(path, kLargestFile, error);
+    return bytes ? fromBytes(*bytes, error) : std::nullopt;
 }
 
 QString DesktopEntry::text(const char* key) const {
@@ -154,7 +161,7 @@ bool DesktopEntry::startsIn(const QStringList& desktops) const {
     return !isAmong(list("NotShowIn"));
 }
 
-QString DesktopEntry::program() const {
+QString DesktopEntry::namedProgram() const {
     char** rawArguments = nullptr;
     // GLib's own launcher splits Exec with this, and nobody's files are stricter than that.
     if (!g_shell_parse_argv(text("Exec").toUtf8().constData(), nullptr, &rawArguments, nullptr))
@@ -162,8 +169,18 @@ QString DesktopEntry::program() const {
     const GTexts arguments(rawArguments);
     QString name = QString::fromUtf8(arguments.get()[0]);
     name.replace(QLatin1String("%%"), QLatin1String("%"));
+    return name;
+}
+
+QString DesktopEntry::program() const {
+    const QString name = namedProgram();
     const QString path = absoluteProgram(name);
     return path.isEmpty() ? name : path;
+}
+
+void DesktopEntry::setProgram(const QString& path) {
+    const QString exec = text("Exec").trimmed();
+    setText("Exec", execFor(path) + exec.sliced(endOfFirstArgument(exec)));
 }
 
 void DesktopEntry::setText(const char* key, const QString& value) {
@@ -183,16 +200,11 @@ QByteArray DesktopEntry::toBytes() const {
     return QByteArray(bytes.get(), static_cast<qsizetype>(length));
 }
 
-QString quotedForExec(const QString& argument) {
-    QString quoted = QStringLiteral("\"");
-    for (const QChar character : argument) {
-        if (character == u'%')
-            quoted += u'%';
-        else if (QStringView(u"\"`$\\").contains(character))
-            quoted += u'\\';
-        quoted += character;
-    }
-    return quoted + u'"';
+QString execFor(const QString& program) {
+    // Where a percent sign is a program's own, GLib and systemd read it right in an argument alone. An
+    // argument with an equals sign would be a variable to `env`.
+    const bool asArgument = program.contains(u'%') && !program.contains(u'=');
+    return (asArgument ? QStringLiteral("env ") : QString()) + quotedForExec(program);
 }
 
 QString absoluteProgram(const QString& name) {

@@ -34,9 +34,15 @@ public:
     /// off, and meant for one of `desktops`.
     bool startsIn(const QStringList& desktops) const;
 
+    /// The program that `Exec` starts, as it is named there; empty where `Exec` is none.
+    QString namedProgram() const;
+
     /// The program that `Exec` starts, as an absolute path; as it is named where it can't be found, and empty
     /// where `Exec` is none.
     QString program() const;
+
+    /// Puts a program, as an absolute path, in the place of the one that `Exec` starts; its arguments stay.
+    void setProgram(const QString& path);
 
     void setText(const char* key, const QString& value);
     /// Takes `key` over from another entry as it stands there, where it has it.
@@ -53,8 +59,8 @@ private:
     std::unique_ptr<_GKeyFile, Free> file_;
 };
 
-/// One argument for `Exec`: whatever it holds, it stays this one argument.
-QString quotedForExec(const QString& argument);
+/// An `Exec` that starts a program, whatever characters its absolute path holds.
+QString execFor(const QString& program);
 
 /// The program that a name stands for: as it is when absolute, else found in `PATH`, else empty.
 QString absoluteProgram(const QString& name);

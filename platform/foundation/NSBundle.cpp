@@ -52,12 +52,12 @@ QString executablePath() {
     return path;
 }
 
-/// The AppImage that this program runs from. A program that was started by an AppImage inherits the variable
-/// without being part of it.
+/// The AppImage that this program runs from, mounted at `APPDIR`. A program that was started by an AppImage
+/// inherits the variables without being part of it.
 QString appImagePath(const QString& executable) {
     const QString path = qEnvironmentVariable("APPIMAGE");
     const QString mountedAt = qEnvironmentVariable("APPDIR");
-    const bool isInside = mountedAt.isEmpty() || executable.startsWith(QDir::cleanPath(mountedAt) + u'/');
+    const bool isInside = !mountedAt.isEmpty() && executable.startsWith(QDir::cleanPath(mountedAt) + u'/');
     return isInside && path.startsWith(u'/') && QFileInfo(path).isFile() ? path : QString();
 }
 
@@ -104,12 +104,6 @@ QString NSBundle::bundlePath() const {
             return entry;
     }
     return program;
-}
-
-QString NSBundle::pathForResource(const QString& name, const QString& type) const {
-    const QString file = type.isEmpty() ? name : name + QLatin1Char('.') + type;
-    const QString path = resourcePath() + QLatin1Char('/') + file;
-    return QFileInfo(path).isFile() ? path : QString();
 }
 
 const QVariantMap& NSBundle::infoDictionary() const {

@@ -27,10 +27,6 @@ public:
     /// that it runs from; else the executable.
     QString bundlePath() const;
 
-    /// The path of the resource `name` with the extension `type` (empty: `name` as it stands); empty when
-    /// there is no such file.
-    QString pathForResource(const QString& name, const QString& type = QString()) const;
-
     /// `CFBundleVersion` and the like from `Info.plist`, read at first use; empty, with a log line, when the
     /// file is missing or damaged.
     const QVariantMap& infoDictionary() const;

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/foundation/NSPropertyList.h"
 
-#include <QFile>
+#include "platform/foundation/RegularFile.h"
+
 #include <QSaveFile>
 
 #include <memory>
@@ -205,16 +206,8 @@ QByteArray NSPropertyList::toBytes(const QVariant& root) {
 }
 
 QVariant NSPropertyList::read(const QString& path, QString* error) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        *error = file.errorString();
-        return {};
-    }
-    if (file.size() > kLargestFile) {
-        *error = QStringLiteral("the file is too large");
-        return {};
-    }
-    return fromBytes(file.readAll(), error);
+    const auto bytes = RegularFile::read(path, kLargestFile, error);
+    return bytes ? fromBytes(*bytes, error) : QVariant();
 }
 
 bool NSPropertyList::write(const QVariant& root, const QString& path, QString* error) {

@@ -3,6 +3,7 @@
 
 #include "platform/foundation/ConfigFolder.h"
 #include "platform/foundation/NSLog.h"
+#include "platform/foundation/RegularFile.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -15,7 +16,14 @@
 #include <optional>
 #include <utility>
 
+#include <fcntl.h>
+#include <glib.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 namespace {
+
+constexpr qint64 kLargestFile = 1 << 20;
 
 bool isText(const QByteArray& bytes) {
     QStringDecoder decoder(QStringDecoder::Utf8);
@@ -32,6 +40,34 @@ QString keepAside(const QString& path) {
             return QFile::rename(path, aside) ? aside : QString();
     }
     return {};
+}
+
+/// Whether something stands in the file's place that must not even be opened as one.
+bool isOfNoUse(const QString& path) {
+    return RegularFile::isOtherThing(path) || QFileInfo(path).size() > kLargestFile;
+}
+
+/// Takes from all others what they may do with a file or folder.
+void narrow(const QString& path) {
+    constexpr mode_t kOthers = S_IRWXG | S_IRWXO;
+    const QByteArray name = QFile::encodeName(path);
+    struct stat status {};
+    if (stat(name.constData(), &status) == 0 && (status.st_mode & kOthers) != 0)
+        chmod(name.constData(), status.st_mode & 07777 & ~kOthers);
+}
+
+/// The preferences tell where the user lives: the folder and the file are for nobody else. QSettings keeps
+/// the permissions of the file that it writes anew, but makes one that everybody may read.
+void makePrivate(const QString& path) {
+    const QString folder = QFileInfo(path).absolutePath();
+    g_mkdir_with_parents(QFile::encodeName(folder).constData(), S_IRWXU);
+    narrow(folder);
+    const int made =
+        open(QFile::encodeName(path).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR);
+    if (made >= 0)
+        close(made);
+    else if (!RegularFile::isOtherThing(path))
+        narrow(path);
 }
 
 std::optional<bool> toBool(const QString& text) {
@@ -72,15 +108,15 @@ NSUserDefaults::NSUserDefaults(const QString& path) {
 NSUserDefaults::~NSUserDefaults() = default;
 
 void NSUserDefaults::openFile(const QString& path) {
-    QFile file(path);
-    bool damaged = false;
-    if (file.open(QIODevice::ReadOnly)) {
-        damaged = !isText(file.readAll());
-        file.close();
-    } else if (file.exists()) {
-        NSLog(QStringLiteral("The preferences in %1 can't be read (%2); the defaults serve.")
-                  .arg(path, file.errorString()));
-    }
+    narrow(QFileInfo(path).absolutePath());
+    if (!RegularFile::isOtherThing(path))
+        narrow(path);
+    QString error;
+    const auto bytes = RegularFile::read(path, kLargestFile, &error);
+    bool damaged = bytes ? !isText(*bytes) : isOfNoUse(path);
+    if (!bytes && !damaged && QFileInfo::exists(path))
+        NSLog(
+            QStringLiteral("The preferences in %1 can't be read (%2); the defaults serve.").arg(path, error));
     if (!damaged) {
         settings_ = std::make_unique<QSettings>(path, QSettings::IniFormat);
         damaged = settings_->status() == QSettings::FormatError;
@@ -100,6 +136,16 @@ void NSUserDefaults::openFile(const QString& path) {
     NSLog(QStringLiteral("The preferences in %1 are damaged; kept as %2, the defaults serve.")
               .arg(path, aside));
     settings_ = std::make_unique<QSettings>(path, QSettings::IniFormat);
+}
+
+void NSUserDefaults::prepareFile() {
+    const QString path = settings_->fileName();
+    // QSettings would wait for a pipe in the place of its file, or of the lock beside it.
+    for (const QString& file : {path, path + QStringLiteral(".lock")}) {
+        if (RegularFile::isOtherThing(file))
+            NSLog(QStringLiteral("%1 is no regular file; kept as %2.").arg(file, keepAside(file)));
+    }
+    makePrivate(path);
 }
 
 void NSUserDefaults::registerDefaults(const QVariantMap& defaults) {
@@ -173,6 +219,7 @@ void NSUserDefaults::store(const QString& key, const QVariant& value) {
     const QString before = objectForKey(key).toString();
     if (settings_->contains(key) && before == value.toString())
         return;
+    prepareFile();
     settings_->setValue(key, value);
     synchronizeLater();
     if (before != value.toString())
@@ -181,6 +228,7 @@ void NSUserDefaults::store(const QString& key, const QVariant& value) {
 
 void NSUserDefaults::removeObjectForKey(const QString& key) {
     const QString before = objectForKey(key).toString();
+    prepareFile();
     settings_->remove(key);
     synchronizeLater();
     if (before != objectForKey(key).toString())
@@ -188,6 +236,7 @@ void NSUserDefaults::removeObjectForKey(const QString& key) {
 }
 
 bool NSUserDefaults::synchronize() {
+    prepareFile();
     if (settings_->status() == QSettings::NoError) {
         settings_->sync();
     } else {

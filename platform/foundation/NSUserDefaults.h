@@ -11,8 +11,9 @@
 class QSettings;
 
 /// Stands for Foundation's per-user defaults: values that the user stored, over a registration domain that
-/// answers for every other key. Backed by an INI file. A file that can't be read as
-/// one is kept aside under another name and logged, and the registered defaults serve.
+/// answers for every other key. Backed by an INI file which only its user may read: 0600, in a folder of
+/// 0700. A file that can't be read as one is kept aside under another name and logged, and the registered
+/// defaults serve.
 class NSUserDefaults : public QObject {
     Q_OBJECT
 
@@ -64,6 +65,7 @@ private:
     void synchronizeLater();
     void store(const QString& key, const QVariant& value);
     void openFile(const QString& path);
+    void prepareFile();
     template <typename T, typename Convert>
     T typedValue(const QString& key, Convert convert) const;
 

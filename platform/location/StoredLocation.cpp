@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "platform/location/StoredLocation.h"
 
+#include "platform/foundation/NSLog.h"
 #include "platform/foundation/NSTimeZone.h"
+#include "platform/foundation/RegularFile.h"
 
-#include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -11,6 +12,8 @@
 #include <vector>
 
 namespace {
+
+constexpr qint64 kLargestTable = 4 << 20;
 
 using StoredLocation::Place;
 
@@ -40,10 +43,13 @@ std::optional<Place> placeOf(const QByteArray& iso6709) {
 /// The words of each line of a file that has `word` in it. Only those lines are taken apart: the files are
 /// long, and this is on the program's way to its icon.
 std::vector<QList<QByteArray>> linesWith(const QByteArray& word, const QString& fileName, char separator) {
-    QFile file(NSTimeZone::zoneInfoFolder() + QLatin1Char('/') + fileName);
-    if (word.isEmpty() || !file.open(QIODevice::ReadOnly))
+    if (word.isEmpty())
         return {};
-    const QByteArray text = file.readAll();
+    const QString path = NSTimeZone::zoneInfoFolder() + QLatin1Char('/') + fileName;
+    QString error;
+    const QByteArray text = RegularFile::read(path, kLargestTable, &error).value_or(QByteArray());
+    if (!error.isEmpty() && QFileInfo::exists(path))
+        NSLog(QStringLiteral("No place can be looked up in %1: %2.").arg(path, error));
     std::vector<QList<QByteArray>> lines;
     for (qsizetype at = text.indexOf(word); at >= 0; at = text.indexOf(word, at)) {
         const qsizetype start = text.lastIndexOf('\n', at) + 1;

@@ -12,7 +12,8 @@
 /// Why a check for updates failed, as far as the user is told apart.
 enum class SUFailure {
     NoFeed,           ///< there is no address to ask
-    NoSecurity,       ///< this system has no TLS
+    NoPlugIn,         ///< the program's plug-in for the network is missing or damaged
+    NoSecurity,       ///< this system has no TLS, or no list of authorities to trust
     Unreachable,      ///< no connection, or it broke
     Untrusted,        ///< the server's certificate does not prove that it is the one asked
     InsecureRedirect, ///< sent on to an address that is not https
@@ -23,8 +24,9 @@ enum class SUFailure {
 /// What one answer may cost.
 struct SUFetchLimits {
     std::chrono::milliseconds time = std::chrono::seconds(30); ///< from the question to the answer's end
-    qint64 bytes = 1 << 20;
-    int redirects = 5;
+    qint64 headerBytes = 64 << 10;                             ///< of each answer's header
+    qint64 bytes = 1 << 20;                                    ///< of each answer's body
+    int redirects = 10;
 };
 
 /// Whether `url` is one that may be asked: https with a host.
@@ -44,9 +46,11 @@ public:
 
     virtual ~SUNetwork() = default;
 
-    /// Asks `url`, which is secure, once. The fetch lives as long as the answer, and ends unheard with it.
+    /// Asks `url`, which is secure, once, and each address that it is sent on to once. Of the user the
+    /// requests tell nothing but `userAgent`. The fetch lives as long as the answer, and ends unheard with
+    /// it.
     virtual std::unique_ptr<QObject> fetch(const QUrl& url, const QString& userAgent,
                                            const SUFetchLimits& limits, Outcome outcome) = 0;
 };
 
-Q_DECLARE_INTERFACE(SUNetwork, "SUNetwork/1")
+Q_DECLARE_INTERFACE(SUNetwork, "SUNetwork/2")

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/system/SystemVersion.h"
 
+#include "platform/foundation/NSLog.h"
+#include "platform/foundation/RegularFile.h"
+
 #include <QSysInfo>
 #include <QVersionNumber>
 
@@ -16,9 +19,19 @@ std::array<int, 3> leadingNumbers(const QString& text) {
     return numbers;
 }
 
+QString productVersion() {
+    for (const char* file : {"/etc/os-release", "/usr/lib/os-release"}) {
+        if (RegularFile::isOtherThing(QString::fromLatin1(file))) { // Qt would wait for it
+            NSLog(QStringLiteral("%1 is no regular file, and is not read.").arg(QString::fromLatin1(file)));
+            return {};
+        }
+    }
+    return QSysInfo::productVersion();
+}
+
 } // namespace
 
 std::array<int, 3> systemVersionNumbers() {
-    const auto ofSystem = leadingNumbers(QSysInfo::productVersion());
+    const auto ofSystem = leadingNumbers(productVersion());
     return ofSystem[0] > 0 ? ofSystem : leadingNumbers(QSysInfo::kernelVersion());
 }

@@ -50,14 +50,15 @@ QString tidyLine(const QString& text, qsizetype longest) {
     return line;
 }
 
-QUrl webPage(const QString& address) {
+QUrl securePage(const QString& address) {
     const QString trimmed = address.trimmed();
     if (trimmed.size() > kLongestAddress)
         return {};
     const QUrl url(trimmed);
-    const bool isWeb = url.scheme() == u"https" || url.scheme() == u"http";
     // A user name in an address serves only to make its host look like another.
-    return url.isValid() && isWeb && !url.host().isEmpty() && url.userInfo().isEmpty() ? url : QUrl();
+    return url.isValid() && url.scheme() == u"https" && !url.host().isEmpty() && url.userInfo().isEmpty()
+               ? url
+               : QUrl();
 }
 
 qsizetype endOfTag(QStringView xml, qsizetype from) {
@@ -203,7 +204,7 @@ private:
                        .notes = fields.notes.trimmed(),
                        .build = fields.build,
                        .version = version.isEmpty() ? fields.build : version,
-                       .page = webPage(fields.link)});
+                       .page = securePage(fields.link)});
     }
 
     QXmlStreamReader xml_;

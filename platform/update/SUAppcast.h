@@ -20,7 +20,7 @@ struct SUAppcastItem {
     QString notes;   ///< what is new, plain text; may be empty
     QString build;   ///< digits and dots
     QString version; ///< as people know it; the build number where the feed gives no other
-    QUrl page;       ///< where to get it, http or https; empty when the feed gives no such address
+    QUrl page;       ///< where to get it, https; empty when the feed gives no such address
 };
 
 /// Stands for the update framework's feed: RSS whose items carry a build and a version on their enclosure, in

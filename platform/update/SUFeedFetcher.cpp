@@ -3,14 +3,19 @@
 
 #include "platform/foundation/NSBundle.h"
 
+#include <QFileInfo>
 #include <QPluginLoader>
 
 namespace {
 
 /// The plug-in, which stays once it is loaded; null, and the reason in `error`, when it can't be.
-SUNetwork* network(QString* error) {
-    QPluginLoader loader(NSBundle::mainBundle().builtInPlugInsPath() +
-                         QStringLiteral("/liblumivane_network.so"));
+SUNetwork* network(const QString& folder, QString* error) {
+    const QString path = folder + QStringLiteral("/liblumivane_network.so");
+    if (!QFileInfo(path).isFile()) {
+        *error = QStringLiteral("there is no file %1").arg(path);
+        return nullptr;
+    }
+    QPluginLoader loader(path);
     auto* const plugIn = qobject_cast<SUNetwork*>(loader.instance());
     if (!plugIn)
         *error = loader.errorString();
@@ -20,22 +25,22 @@ SUNetwork* network(QString* error) {
 QString userAgent() {
     const NSBundle& bundle = NSBundle::mainBundle();
     return QStringLiteral("%1/%2").arg(bundle.infoString(QStringLiteral("CFBundleName")),
-                                       bundle.infoString(QStringLiteral("CFBundleVersion")));
+                                       bundle.infoString(QStringLiteral("CFBundleShortVersionString")));
 }
 
 } // namespace
 
-SUFeedFetcher::SUFeedFetcher(const SUFetchLimits& limits, QObject* parent)
-    : QObject(parent), limits_(limits) {
+SUFeedFetcher::SUFeedFetcher(const SUFetchLimits& limits, const QString& plugIns, QObject* parent)
+    : QObject(parent), limits_(limits), plugIns_(plugIns) {
 }
 
 void SUFeedFetcher::fetch(const QUrl& url) {
     if (!SUIsSecure(url))
         return failLater(SUFailure::NoFeed, QStringLiteral("the address is not https"));
     QString error;
-    SUNetwork* const plugIn = network(&error);
+    SUNetwork* const plugIn = network(plugIns_, &error);
     if (!plugIn)
-        return failLater(SUFailure::NoSecurity, error);
+        return failLater(SUFailure::NoPlugIn, error);
     underWay_ = plugIn->fetch(
         url, userAgent(), limits_,
         {.fetched = [this](const QByteArray& feed) { Q_EMIT fetched(feed); },

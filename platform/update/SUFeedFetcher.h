@@ -9,7 +9,8 @@ class SUFeedFetcher : public QObject {
     Q_OBJECT
 
 public:
-    explicit SUFeedFetcher(const SUFetchLimits& limits, QObject* parent = nullptr);
+    /// Takes the plug-in from the folder `plugIns`.
+    SUFeedFetcher(const SUFetchLimits& limits, const QString& plugIns, QObject* parent = nullptr);
 
     /// Asks `url` once; one of the signals follows, never before this returns. Deleting the fetcher ends what
     /// is under way.
@@ -24,5 +25,6 @@ private:
     void failLater(SUFailure failure, const QString& reason);
 
     const SUFetchLimits limits_;
+    const QString plugIns_;
     std::unique_ptr<QObject> underWay_;
 };

@@ -37,6 +37,10 @@ const char* sentenceFor(SUFailure failure) {
     switch (failure) {
     case SUFailure::NoFeed:
         return QT_TRANSLATE_NOOP("Lumivane", "This copy of %1 does not know where to look for updates.");
+    case SUFailure::NoPlugIn:
+        return QT_TRANSLATE_NOOP(
+            "Lumivane",
+            "%1 can't look for updates, because a part of it is missing; please install %1 again.");
     case SUFailure::NoSecurity:
         return QT_TRANSLATE_NOOP("Lumivane",
                                  "%1 can't look for updates, because this system has no secure connections.");

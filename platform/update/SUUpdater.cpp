@@ -60,21 +60,22 @@ void SUUpdater::setFeedURL(const QUrl& url) {
 
 void SUUpdater::schedule() {
     timer_.stop();
-    const bool isBusy = fetcher_ || alert_;
-    if (!isBusy && SUIsSecure(feedURL_) &&
-        NSUserDefaults::standardUserDefaults()->boolForKey(SUEnableAutomaticChecksKey))
-        timer_.start(std::min(timeUntilCheck(), timing_.longestWait));
+    if (const auto wait = timeUntilNextCheck())
+        timer_.start(std::min(*wait, timing_.longestWait));
 }
 
 void SUUpdater::timerFired() {
-    if (timeUntilCheck() > milliseconds::zero())
+    if (timeUntilNextCheck() != milliseconds::zero())
         return schedule();
     asked_ = false;
     startCheck();
 }
 
-milliseconds SUUpdater::timeUntilCheck() const {
+std::optional<milliseconds> SUUpdater::timeUntilNextCheck() const {
     const NSUserDefaults* defaults = NSUserDefaults::standardUserDefaults();
+    const bool isBusy = fetcher_ || alert_;
+    if (isBusy || !SUIsSecure(feedURL_) || !defaults->boolForKey(SUEnableAutomaticChecksKey))
+        return std::nullopt;
     const milliseconds interval = std::max<milliseconds>(
         std::chrono::seconds(defaults->integerForKey(SUScheduledCheckIntervalKey)), timing_.shortestInterval);
     const QDateTime last = QDateTime::fromString(defaults->stringForKey(SULastCheckTimeKey), Qt::ISODate);
@@ -106,7 +107,7 @@ void SUUpdater::startCheck() {
     // A check counts from its start, whatever comes of it: a server that is down is not asked more often.
     NSUserDefaults::standardUserDefaults()->setObject(NSDate::date().toString(Qt::ISODate),
                                                       SULastCheckTimeKey);
-    fetcher_ = new SUFeedFetcher(timing_.limits, this);
+    fetcher_ = new SUFeedFetcher(timing_.limits, NSBundle::mainBundle().builtInPlugInsPath(), this);
     connect(fetcher_, &SUFeedFetcher::fetched, this, &SUUpdater::feedFetched);
     connect(fetcher_, &SUFeedFetcher::failed, this, &SUUpdater::checkFailed);
     fetcher_->fetch(url);

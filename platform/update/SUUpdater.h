@@ -12,6 +12,7 @@
 #include <QUrl>
 
 #include <chrono>
+#include <optional>
 
 class SUUpdateAlert;
 class SUUpdater;
@@ -73,6 +74,10 @@ public:
     void setFeedURL(const QUrl& url);
     QUrl feedURL() const { return feedURL_; }
 
+    /// How long until it looks by itself, zero when that is due; nothing when it does not, or while a check
+    /// or its answer is under way.
+    std::optional<std::chrono::milliseconds> timeUntilNextCheck() const;
+
     /// The delegate stays the caller's and outlives the updater, or is replaced by none.
     void setDelegate(SUUpdaterDelegate* delegate) { delegate_ = delegate; }
 
@@ -84,7 +89,6 @@ public Q_SLOTS:
 private:
     void schedule();
     void timerFired();
-    std::chrono::milliseconds timeUntilCheck() const;
     void startCheck();
     QUrl completeFeedURL();
     void showProgress();

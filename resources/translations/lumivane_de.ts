@@ -651,5 +651,9 @@
         <source>Back to the tray icon</source>
         <translation>Zurück zum Symbol im Systembereich</translation>
     </message>
+    <message>
+        <source>%1 can&apos;t look for updates, because a part of it is missing; please install %1 again.</source>
+        <translation>%1 kann nicht nach Aktualisierungen suchen, weil ein Teil des Programms fehlt; bitte installieren Sie %1 erneut.</translation>
+    </message>
 </context>
 </TS>

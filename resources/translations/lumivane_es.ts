@@ -651,5 +651,9 @@
         <source>Back to the tray icon</source>
         <translation>Volver al icono de la bandeja</translation>
     </message>
+    <message>
+        <source>%1 can&apos;t look for updates, because a part of it is missing; please install %1 again.</source>
+        <translation>%1 no puede buscar actualizaciones porque falta una parte del programa; vuelva a instalar %1.</translation>
+    </message>
 </context>
 </TS>

@@ -651,5 +651,9 @@
         <source>Back to the tray icon</source>
         <translation>Torna all’icona nell’area di notifica</translation>
     </message>
+    <message>
+        <source>%1 can&apos;t look for updates, because a part of it is missing; please install %1 again.</source>
+        <translation>%1 non può cercare aggiornamenti perché manca una parte del programma; reinstallare %1.</translation>
+    </message>
 </context>
 </TS>

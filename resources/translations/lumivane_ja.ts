@@ -651,5 +651,9 @@
         <source>Back to the tray icon</source>
         <translation>トレイのアイコンに戻す</translation>
     </message>
+    <message>
+        <source>%1 can&apos;t look for updates, because a part of it is missing; please install %1 again.</source>
+        <translation>プログラムの一部が見つからないため、%1 はアップデートを確認できません。%1 を再インストールしてください。</translation>
+    </message>
 </context>
 </TS>

@@ -651,5 +651,9 @@
         <source>Back to the tray icon</source>
         <translation>Voltar ao ícone da bandeja</translation>
     </message>
+    <message>
+        <source>%1 can&apos;t look for updates, because a part of it is missing; please install %1 again.</source>
+        <translation>O %1 não pode procurar atualizações porque falta uma parte do programa; reinstale o %1.</translation>
+    </message>
 </context>
 </TS>

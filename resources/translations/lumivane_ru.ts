@@ -651,5 +651,9 @@
         <source>Back to the tray icon</source>
         <translation>Вернуть к значку в области уведомлений</translation>
     </message>
+    <message>
+        <source>%1 can&apos;t look for updates, because a part of it is missing; please install %1 again.</source>
+        <translation>%1 не может проверить обновления, так как часть программы отсутствует; переустановите %1.</translation>
+    </message>
 </context>
 </TS>

@@ -651,5 +651,9 @@
         <source>Back to the tray icon</source>
         <translation>回到托盘图标</translation>
     </message>
+    <message>
+        <source>%1 can&apos;t look for updates, because a part of it is missing; please install %1 again.</source>
+        <translation>由于程序的一部分缺失，%1 无法查找更新；请重新安装 %1。</translation>
+    </message>
 </context>
 </TS>

@@ -1,6 +1,6 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
-"""An install that was moved to another folder, and what the desktop's menu does with it."""
+"""An install in a folder that no PATH knows, and what the desktop's menu does with it."""
 
 import os
 import pathlib
@@ -12,22 +12,21 @@ import unittest
 
 from desktop import Desktop, wait_for
 
-PROGRAM = pathlib.Path(sys.argv.pop(1)).resolve()
+BUILD = pathlib.Path(sys.argv.pop(1)).resolve().parents[3] / "dev"
 IDENTIFIER = "com.corvanta.Lumivane"
 
 
 class InstallTest(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
-        folder = tempfile.mkdtemp(prefix="moved install ")
+        folder = tempfile.mkdtemp(prefix="moved $100 install ")
         cls.addClassCleanup(shutil.rmtree, folder)
         cls.prefix = pathlib.Path(folder, "Applications")
-        shutil.copytree(PROGRAM.parent.parent, cls.prefix)
-        # Tells the moved resources from those it was installed with.
+        subprocess.run(["cmake", "--install", BUILD, "--prefix", cls.prefix], check=True, stdout=subprocess.DEVNULL)
+        # Tells its resources from those of the build.
         layout = cls.prefix / "share/lumivane/LumivaneWindow.ui"
         layout.write_text(layout.read_text().replace("<string>Latitude:", "<string>Moved:"))
         # The session's bus starts what the menu asks for.
-        os.environ["PATH"] = "{}:{}".format(cls.prefix / "bin", os.environ["PATH"])
         os.environ["XDG_DATA_DIRS"] = "{}:/usr/local/share:/usr/share".format(cls.prefix / "share")
         cls.desktop = Desktop()
         cls.addClassCleanup(cls.desktop.close)
@@ -46,7 +45,7 @@ class InstallTest(unittest.TestCase):
         from gi.repository import Gio
         Gio.DesktopAppInfo.new(IDENTIFIER + ".desktop").launch([], None)
 
-    def test_runs_where_it_was_moved(self):
+    def test_runs_where_it_is(self):
         here = os.getcwd()
         os.chdir("/")
         self.addCleanup(os.chdir, here)

@@ -200,7 +200,7 @@ TEST_F(TranslationsTest, TheCreditsWordsAreAmongTheTexts) {
                                    QStringLiteral("Jean Meeus, Astronomical Algorithms"),
                                    QStringLiteral("Astronomy on the Personal Computer")};
     const NSBundle& bundle = NSBundle::mainBundle();
-    QFile file(bundle.pathForResource(QStringLiteral("Credits.rtf")));
+    QFile file(bundle.resourcePath() + QStringLiteral("/Credits.rtf"));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     QString error;
     const auto credits = documentFromRTF(file.readAll(), &error);

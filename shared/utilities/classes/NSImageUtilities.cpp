@@ -3,7 +3,9 @@
 
 #include "platform/foundation/NSBundle.h"
 #include "platform/foundation/NSLog.h"
+#include "platform/foundation/RegularFile.h"
 
+#include <QBuffer>
 #include <QImageReader>
 #include <QPainter>
 #include <QSet>
@@ -16,6 +18,7 @@
 namespace {
 
 constexpr int kLargestSide = 4096;
+constexpr qint64 kLargestFile = 16 << 20;
 
 QImage clearImage(const QSize& size) {
     QImage image(size, QImage::Format_ARGB32_Premultiplied);
@@ -39,12 +42,17 @@ int between(int from, int to, double fraction) {
 } // namespace
 
 QImage NSImageUtilities::imageNamed(const QString& name) {
-    const QString path = NSBundle::mainBundle().pathForResource(name, QStringLiteral("png"));
+    QString error;
+    QByteArray bytes =
+        RegularFile::read(NSBundle::mainBundle().resourcePath() + u'/' + name + QStringLiteral(".png"),
+                          kLargestFile, &error)
+            .value_or(QByteArray());
+    QBuffer file(&bytes);
     // With its format named, the reader does not load every format's plugin to ask whether it is that one's.
-    QImageReader reader(path, "png");
+    QImageReader reader(&file, "png");
     const QSize size = reader.size();
-    if (path.isEmpty() || size.width() > kLargestSide || size.height() > kLargestSide) {
-        logOnce(name, QStringLiteral("The picture %1 is missing or no picture.").arg(name));
+    if (!size.isValid() || size.width() > kLargestSide || size.height() > kLargestSide) {
+        logOnce(name, QStringLiteral("The picture %1 is missing or no picture. %2").arg(name, error));
         return {};
     }
     const QImage image = reader.read();

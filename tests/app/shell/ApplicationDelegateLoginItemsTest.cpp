@@ -22,14 +22,18 @@ protected:
 TEST_F(DelegateLoginItems, SwitchingOnClearsOlderCopiesAway) {
     const QUrl older = add(QStringLiteral("old/LUMIVANE 0.9"));
     const QUrl other = add(QStringLiteral("other"));
-    add(QStringLiteral("lumivane beta/run"));
+    const QUrl beta = add(QStringLiteral("lumivane beta/run"));
     const QUrl self = QUrl::fromLocalFile(makeProgram(QStringLiteral("Lumivane")));
     EXPECT_TRUE(delegate_.alreadySetToStartup(older));
     EXPECT_FALSE(delegate_.alreadySetToStartup(self));
     EXPECT_FALSE(delegate_.alreadySetToStartup(QUrl(older.toString().toLower()))) << "no case folding";
 
+    const CaughtLog log;
     delegate_.toggleSetToStartup(self);
     EXPECT_EQ(paths(), (QStringList{other.toLocalFile(), self.toLocalFile()}));
+    EXPECT_EQ(log.lines(),
+              (QStringList{QStringLiteral("Removed %1 from the login items.").arg(beta.toLocalFile()),
+                           QStringLiteral("Removed %1 from the login items.").arg(older.toLocalFile())}));
     EXPECT_FALSE(Autostart::items().constLast().hidden);
     delegate_.toggleSetToStartup(self);
     EXPECT_EQ(paths(), QStringList{other.toLocalFile()});

@@ -10,8 +10,6 @@
 #include "tests/platform/update/FeedServer.h"
 
 #include <QApplication>
-#include <QtNetwork/QTcpServer>
-#include <QtNetwork/QTcpSocket>
 
 namespace {
 
@@ -35,19 +33,8 @@ TEST(ApplicationDelegateUpdates, FeedURLTellsSixThingsInOrder) {
 
 TEST(ApplicationDelegateUpdates, AsksItsOwnFeedThroughTheSystemsProxy) {
     // The proxy stands where the network would be: it sees which host is asked for and lets nothing through.
-    QTcpServer proxy;
-    ASSERT_TRUE(proxy.listen(QHostAddress::LocalHost));
-    const WithEnvironment environment("https_proxy",
-                                      "http://127.0.0.1:" + QByteArray::number(proxy.serverPort()));
-    QByteArray asked;
-    QObject::connect(&proxy, &QTcpServer::newConnection, [&] {
-        QTcpSocket* connection = proxy.nextPendingConnection();
-        QObject::connect(connection, &QTcpSocket::readyRead, [&asked, connection] {
-            asked += connection->readAll();
-            connection->write("HTTP/1.1 403 Forbidden\r\nContent-Length: 0\r\n\r\n");
-            connection->disconnectFromHost();
-        });
-    });
+    FeedServer proxy;
+    const WithEnvironment environment("https_proxy", "http://" + proxy.host("plain").toUtf8());
 
     const CaughtLog log;
     NSUserDefaults::standardUserDefaults()->registerDefaults({{SUScheduledCheckIntervalKey, 604800}});
@@ -58,7 +45,7 @@ TEST(ApplicationDelegateUpdates, AsksItsOwnFeedThroughTheSystemsProxy) {
 
     const NSBundle& bundle = NSBundle::mainBundle();
     const QString host = bundle.infoString(QStringLiteral("LVFeedHost"));
-    EXPECT_TRUE(asked.startsWith("CONNECT " + host.toUtf8() + ":443 ")) << asked.constData();
+    EXPECT_EQ(proxy.requests(), QStringList(QStringLiteral("plain %1:443").arg(host)));
     const QString url = ApplicationDelegate::feedURLString(
         host, bundle.infoString(QStringLiteral("CFBundleVersion")), QStringLiteral("604800"),
         bundle.infoString(QStringLiteral("CFBundleShortVersionString")),
@@ -66,15 +53,23 @@ TEST(ApplicationDelegateUpdates, AsksItsOwnFeedThroughTheSystemsProxy) {
     EXPECT_EQ(log.lines().value(0), QStringLiteral("Checking for update: ") + url);
 }
 
+TEST(ApplicationDelegateUpdates, AnAddressThatNobodyMeantIsNone) {
+    for (const char16_t* version : {u"1.0 beta", u"1.0\u00df", u"1.0\n"}) {
+        const QString url = ApplicationDelegate::feedURLString(
+            QStringLiteral("feed.example"), QStringLiteral("100"), QStringLiteral("604800"),
+            QString::fromUtf16(version), QStringLiteral("120000"));
+        EXPECT_TRUE(ApplicationDelegate::feedURL(url).isEmpty()) << qPrintable(url);
+    }
+}
+
 TEST(ApplicationDelegateUpdates, TheServerGetsTheQueryAsItIsBuilt) {
     FeedServer server;
     ApplicationDelegate delegate;
     SUUpdater updater;
     updater.setDelegate(&delegate);
-    updater.setFeedURL(QUrl(
+    updater.setFeedURL(ApplicationDelegate::feedURL(
         ApplicationDelegate::feedURLString(server.host(), QStringLiteral("100"), QStringLiteral("604800"),
-                                           QStringLiteral("1.0"), QStringLiteral("120000")),
-        QUrl::StrictMode));
+                                           QStringLiteral("1.0"), QStringLiteral("120000"))));
     updater.checkForUpdates(nullptr);
     EXPECT_TRUE(waitFor(closeAlert));
     EXPECT_EQ(server.requests(),

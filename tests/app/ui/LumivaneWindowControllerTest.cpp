@@ -418,7 +418,7 @@ TEST_F(PanelOfTheItem, GivesWayToAnAlertThatWaits) {
 
 TEST_F(PanelOfTheItem, WithoutATrayHidingIsQuitting) {
     const auto* button = window()->findChild<QAbstractButton*>(QStringLiteral("hideButton_"));
-    EXPECT_EQ(button->toolTip(), u"Quit");
+    EXPECT_EQ(button->toolTip(), u"Quit (Ctrl+W)");
     EXPECT_EQ(button->accessibleName(), u"Quit");
 }
 

@@ -159,6 +159,50 @@ TEST_F(AutostartTest, ADesktopEntryIsCopiedForTheSession) {
     EXPECT_EQ(files().size(), 1);
 }
 
+TEST_F(AutostartTest, ALoginFindsTheProgramWithoutASearch) {
+    const QString program = makeProgram(QStringLiteral("my bin/moon"));
+    const WithEnvironment programs("PATH", path(QStringLiteral("my bin")).toUtf8() + ":/usr/bin:/bin");
+    const QString source = path(QStringLiteral("org.example.Moon.desktop"));
+    const QString added = entryPath(QStringLiteral("org.example.Moon.desktop"));
+    const auto value = [&](const char* key) {
+        QString error;
+        const auto entry = DesktopEntry::fromFile(added, &error);
+        return entry ? entry->text(key) : error;
+    };
+    const struct {
+        const char* exec;
+        const char* command; ///< PROGRAM stands for the program
+    } cases[] = {
+        {"moon", "\"PROGRAM\""},
+        {" moon  --quiet \"a b\" %U", "\"PROGRAM\"  --quiet \"a b\" %U"},
+        {"\"mo\"on 'x y'", "\"PROGRAM\" 'x y'"},
+        {"/bin/sh -c moon", "/bin/sh -c moon"},
+        {"no-such-program-anywhere -x", "no-such-program-anywhere -x"},
+    };
+    for (const auto& each : cases) {
+        const QString command = QString::fromLatin1(each.command).replace(QStringLiteral("PROGRAM"), program);
+        write(source, application(each.exec, "TryExec=moon\n"));
+        ASSERT_EQ(Autostart::append(source, false), std::error_code());
+        EXPECT_EQ(value("Exec"), command);
+        EXPECT_EQ(value("TryExec"), command.startsWith(u"no") ? QStringLiteral("moon") : program)
+            << each.exec;
+
+        // As version 1.0.0 wrote it, switched off since.
+        const QByteArray before = application(each.exec, "Name[de]=Mond\nTryExec=moon\nHidden=true\n"
+                                                         "X-LoginItem-Position=1\nX-LoginItem-Path=" +
+                                                             source.toUtf8() + "\n# mine\n");
+        write(added, before);
+        const CaughtLog log;
+        Autostart::mend(source);
+        Autostart::mend(source);
+        EXPECT_EQ(value("Exec").simplified(), command.simplified());
+        EXPECT_EQ(log.lines().size(), read(added) == before ? 0 : 1);
+        EXPECT_TRUE(read(added).contains("Name[de]=Mond\n") && read(added).contains("\n# mine\n"));
+        EXPECT_TRUE(value("Hidden") == u"true" && value("X-LoginItem-Position") == u"1");
+        QFile::remove(added);
+    }
+}
+
 TEST_F(AutostartTest, OtherProgramsEntriesAreReadAndNeverWritten) {
     const QByteArray foreign = "# mine\r\n[Desktop Entry]\nExec=env  FOO=1\nType=Application\n\n[Other]\nx=y";
     writeEntry(QStringLiteral("m.desktop"), foreign);

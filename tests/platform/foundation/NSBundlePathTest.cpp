@@ -60,6 +60,7 @@ TEST_F(NSBundlePath, IsTheAppImageThatThisProgramIsPartOf) {
         EXPECT_EQ(bundlePath(), entry(QStringLiteral("home")));
         QFile::remove(entry(QStringLiteral("home")));
     }
+    EXPECT_EQ(bundlePath(), entry(QStringLiteral("system"))) << "no image is mounted";
     const WithEnvironment mounted("APPDIR", "/tmp/.mount_other");
     EXPECT_EQ(bundlePath(), entry(QStringLiteral("system"))) << "started by another's AppImage";
     QFile::remove(entry(QStringLiteral("system")));

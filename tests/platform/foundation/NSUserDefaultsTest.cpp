@@ -3,15 +3,19 @@
 
 #include "tests/TestMain.h"
 
+#include <QCoreApplication>
 #include <QFile>
+#include <QFileInfo>
 #include <QRandomGenerator>
 #include <QRegularExpression>
 #include <QSet>
 #include <QTemporaryDir>
 
 #include <csignal>
+#include <functional>
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -128,6 +132,65 @@ TEST_F(NSUserDefaultsTest, ADamagedFileIsKeptAsideEveryTime) {
     }
     EXPECT_EQ(read(".damaged"), first) << "the second does not take its place";
     EXPECT_EQ(read(".damaged-2"), second);
+}
+
+TEST_F(NSUserDefaultsTest, NobodyElseReadsThem) {
+    const QString file = path("-folder/lumivane/trial.conf");
+    const QString folder = QFileInfo(file).path();
+    const auto mode = [](const QString& name) {
+        struct stat status {};
+        return stat(qPrintable(name), &status) == 0 ? status.st_mode & 07777 : 0U;
+    };
+    const mode_t before = umask(0);
+    const auto expectPrivate = [&](const char* when) {
+        EXPECT_EQ(mode(folder), 0700U) << when;
+        EXPECT_EQ(mode(file), 0600U) << when;
+    };
+    {
+        NSUserDefaults defaults(file);
+        defaults.setInteger(1, kNumber);
+        QCoreApplication::processEvents();
+        expectPrivate("made by the event loop");
+        chmod(qPrintable(folder), 0777);
+        QFile::remove(file);
+        defaults.setInteger(2, kNumber);
+        defaults.synchronize();
+        expectPrivate("made anew");
+        chmod(qPrintable(file), 0666);
+        defaults.setInteger(3, kNumber);
+        defaults.synchronize();
+        expectPrivate("written over a wider one");
+    }
+    chmod(qPrintable(folder), 0755);
+    chmod(qPrintable(file), 0644);
+    EXPECT_EQ(NSUserDefaults(file).integerForKey(kNumber), 3);
+    expectPrivate("as an earlier version left them");
+    umask(before);
+}
+
+TEST_F(NSUserDefaultsTest, WhatIsNoFileIsKeptAsideAndNotWaitedFor) {
+    const std::function<void()> things[] = {
+        [this] { mkfifo(qPrintable(path()), 0600); },
+        [this] { mkdir(qPrintable(path()), 0700); },
+        [this] { QFile::link(QStringLiteral("/dev/zero"), path()); },
+    };
+    for (const auto& put : things) {
+        put();
+        const CaughtLog log;
+        {
+            const auto defaults = open();
+            EXPECT_EQ(defaults->floatForKey(kNumber), 2.5F);
+            defaults->setInteger(4, kNumber);
+            EXPECT_TRUE(defaults->synchronize());
+            EXPECT_TRUE(QFile::remove(path()));
+            put(); // while the program runs
+            defaults->setInteger(5, kNumber);
+            EXPECT_TRUE(defaults->synchronize());
+        }
+        EXPECT_EQ(open()->integerForKey(kNumber), 5);
+        EXPECT_EQ(log.lines().size(), 2) << qPrintable(log.lines().join(u'\n'));
+        QFile::remove(path());
+    }
 }
 
 TEST_F(NSUserDefaultsTest, AFolderThatRefusesIsLogged) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "tests/TestMain.h"
+
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QFile>
@@ -10,8 +12,6 @@
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QUrl>
-#include <QtNetwork/QSslCertificate>
-#include <QtNetwork/QSslConfiguration>
 
 #include <gtest/gtest.h>
 
@@ -48,12 +48,14 @@ inline QByteArray feedWith(const QByteArray& build, const QByteArray& version,
 }
 
 /// A feed's web server on the loopback: one honest host, one with another host's certificate, one with a
-/// certificate that nobody vouches for, and one without TLS. Its authority is trusted while the object lives.
+/// certificate that nobody vouches for, and one without TLS, which is also a proxy that lets nothing through.
+/// Its authority is trusted while the object lives.
 class FeedServer {
 public:
-    FeedServer() : trustedBefore_(QSslConfiguration::defaultConfiguration()) {
+    FeedServer() {
         // A proxy of the machine that runs the tests knows nothing of its loopback.
-        for (const char* name : {"http_proxy", "https_proxy", "all_proxy", "HTTP_PROXY", "HTTPS_PROXY"})
+        for (const char* name : {"http_proxy", "https_proxy", "all_proxy", "HTTP_PROXY", "HTTPS_PROXY",
+                                 "ALL_PROXY", "no_proxy", "NO_PROXY"})
             qunsetenv(name);
         process_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
         const QString script =
@@ -62,13 +64,9 @@ public:
         if (!process_.waitForReadyRead(10000))
             throw std::runtime_error("no feed server");
         ports_ = QJsonDocument::fromJson(process_.readLine()).object();
-        QSslConfiguration trusting = trustedBefore_;
-        trusting.addCaCertificates(QSslCertificate::fromPath(folder_.filePath(QStringLiteral("ca.pem"))));
-        QSslConfiguration::setDefaultConfiguration(trusting);
     }
 
     ~FeedServer() {
-        QSslConfiguration::setDefaultConfiguration(trustedBefore_);
         process_.closeWriteChannel();
         process_.waitForFinished(5000);
     }
@@ -90,7 +88,8 @@ public:
                     path);
     }
 
-    /// The requests so far, "<kind of host> <path and query>".
+    /// The requests so far, "<kind of host> <path and query>", of what a proxy is asked for "plain
+    /// <host>:<port>".
     QStringList requests() {
         while (process_.waitForReadyRead(50)) {
         }
@@ -101,8 +100,8 @@ public:
 
 private:
     QTemporaryDir folder_;
+    WithEnvironment trusted_{"SSL_CERT_FILE", folder_.filePath(QStringLiteral("ca.pem")).toUtf8()};
     QProcess process_;
     QJsonObject ports_;
-    QSslConfiguration trustedBefore_;
     QStringList requests_;
 };

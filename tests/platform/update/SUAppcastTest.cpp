@@ -76,14 +76,14 @@ TEST(SUAppcast, TakesTheNewestOfTheItemsThatHaveABuild) {
     EXPECT_EQ(appcast->newest().build, u"1.10");
 }
 
-TEST(SUAppcast, OffersOnlyWebPages) {
+TEST(SUAppcast, OffersOnlySecureWebPages) {
     for (const char* link : {"javascript:alert(1)", "JavaScript:alert(1)", "file:///etc/passwd",
-                             "ftp://www.example/", "/relative", "data:text/html,x", "https://",
-                             "https://good.example@www.example/", "mailto:a@b.example", ""})
+                             "ftp://www.example/", "http://www.example/get", "/relative", "data:text/html,x",
+                             "https://", "https://good.example@www.example/", "mailto:a@b.example", ""})
         EXPECT_TRUE(newestOf(inItem("<link>" + QByteArray(link) + "</link>")).page.isEmpty()) << link;
     EXPECT_TRUE(
         newestOf(inItem("<link>https://a.example/" + QByteArray(5000, 'a') + "</link>")).page.isEmpty());
-    EXPECT_FALSE(newestOf(inItem("<link>\n http://www.example/get \n</link>")).page.isEmpty());
+    EXPECT_FALSE(newestOf(inItem("<link>\n https://www.example/get \n</link>")).page.isEmpty());
 }
 
 TEST(SUAppcast, CutsAndCleansTexts) {

@@ -115,8 +115,8 @@ protected:
         const qsizetype before = server_.requests().size();
         defaults()->removeObjectForKey(SULastCheckTimeKey);
         const auto updater = automatic();
-        EXPECT_TRUE(waitFor([&] { return server_.requests().size() > before; }));
-        letPass(150);
+        EXPECT_TRUE(waitFor([&] { return updater->timeUntilNextCheck() > std::chrono::minutes(30); }));
+        EXPECT_EQ(server_.requests().size(), before + 1);
         EXPECT_TRUE(alerts().isEmpty());
     }
 
@@ -229,45 +229,51 @@ TEST_F(SUUpdaterTest, LeadsToWebPagesOnly) {
 }
 
 TEST_F(SUUpdaterTest, ChecksByItselfOncePerInterval) {
-    serve(feedWith("0", "0"));
-    const auto checks = [&](const auto& updater) {
-        const qsizetype before = server_.requests().size();
-        waitFor([&] { return server_.requests().size() > before; }, 250);
-        EXPECT_TRUE(updater);
-        return server_.requests().size() - before;
+    constexpr int kHour = 3600;
+    constexpr std::chrono::minutes kFirst(5);
+    const struct {
+        int interval; ///< seconds
+        int last;     ///< the last check, seconds ago
+        std::chrono::milliseconds first;
+        int wait; ///< seconds
+    } cases[] = {
+        {0, 0, {}, kHour},           // an interval of 0 counts as an hour
+        {7200, 3700, {}, 3500},      //
+        {60, 3700, {}, 0},           //
+        {7200, -400 * 86400, {}, 0}, // a last check in the future is none
+        {60, 400 * 86400, kFirst, 300},
     };
-    const auto lastCheck = [](const QDateTime& when) {
-        defaults()->setObject(when.toUTC().toString(Qt::ISODate), SULastCheckTimeKey);
+    const auto lastCheck = [](int secondsAgo) {
+        const QDateTime when = QDateTime::currentDateTimeUtc().addSecs(-secondsAgo);
+        defaults()->setObject(when.toString(Qt::ISODate), SULastCheckTimeKey);
     };
-    const QDateTime now = QDateTime::currentDateTimeUtc();
-    EXPECT_EQ(checks(automatic()), 1) << "never before";
-    const QString last = defaults()->stringForKey(SULastCheckTimeKey);
-    EXPECT_LE(now.secsTo(QDateTime::fromString(last, Qt::ISODate)), 60);
-    EXPECT_EQ(checks(automatic()), 0) << "just before the restart; an interval of 0 counts as an hour";
-
-    lastCheck(now.addSecs(-3700));
-    defaults()->setInteger(7200, SUScheduledCheckIntervalKey);
-    EXPECT_EQ(checks(automatic()), 0);
-    defaults()->setInteger(60, SUScheduledCheckIntervalKey);
-    EXPECT_EQ(checks(automatic()), 1);
-    lastCheck(now.addDays(400));
-    EXPECT_EQ(checks(automatic()), 1) << "a last check in the future is none";
-    lastCheck(now.addDays(-400));
-    EXPECT_EQ(checks(automatic({.firstCheck = std::chrono::minutes(5)})), 0) << "not so soon after the start";
-
-    // Waits are cut into pieces; the switch and the interval count as soon as they change.
-    lastCheck(now);
-    defaults()->setInteger(604800, SUScheduledCheckIntervalKey);
     SUUpdaterTiming timing = kAtOnce;
-    timing.longestWait = std::chrono::milliseconds(30);
-    timing.shortestInterval = std::chrono::milliseconds(0);
+    for (const auto& each : cases) {
+        defaults()->setInteger(each.interval, SUScheduledCheckIntervalKey);
+        lastCheck(each.last);
+        timing.firstCheck = each.first;
+        const auto wait = automatic(timing)->timeUntilNextCheck();
+        ASSERT_TRUE(wait);
+        EXPECT_NEAR(static_cast<double>(wait->count()) / 1000, each.wait, 30)
+            << each.interval << ' ' << each.last;
+    }
+
+    // Waits are cut into pieces, after which the clock is asked again; the switch counts as soon as it
+    // changes.
+    serve(feedWith("0", "0"));
+    timing.firstCheck = {};
+    timing.longestWait = std::chrono::milliseconds(1);
+    lastCheck(0);
     const auto updater = automatic(timing);
-    EXPECT_EQ(checks(updater), 0);
+    EXPECT_GT(updater->timeUntilNextCheck(), std::chrono::minutes(30));
     defaults()->setBool(false, SUEnableAutomaticChecksKey);
-    lastCheck(now.addDays(-8));
-    EXPECT_EQ(checks(updater), 0);
+    EXPECT_FALSE(updater->timeUntilNextCheck());
     defaults()->setBool(true, SUEnableAutomaticChecksKey);
-    EXPECT_EQ(checks(updater), 1);
+    lastCheck(8 * 86400);
+    EXPECT_TRUE(waitFor([&] { return delegate_.questions == 1; }));
+    EXPECT_TRUE(waitFor([&] { return updater->timeUntilNextCheck() > std::chrono::minutes(30); }))
+        << "counted from this check";
+    EXPECT_EQ(server_.requests().size(), 1);
 }
 
 TEST_F(SUUpdaterTest, KeepsToOneCheckAndOneDialog) {

@@ -9,6 +9,7 @@ import ssl
 import subprocess
 import sys
 import threading
+import time
 import urllib.parse
 
 
@@ -33,6 +34,10 @@ class Handler(http.server.BaseHTTPRequestHandler):
         except OSError:
             self.close_connection = True
 
+    def do_CONNECT(self):
+        print("%s %s" % (self.server.kind, self.path), flush=True)
+        self.answer(403, [])
+
     def serve_file(self, path):
         if not os.path.exists("." + path):
             return self.answer(404, [])
@@ -47,8 +52,15 @@ class Handler(http.server.BaseHTTPRequestHandler):
         self.end_headers()
         self.wfile.write(body)
 
+    def serve_headers(self, _):
+        """What the request told of the one who asks."""
+        self.answer(200, [], "".join(sorted("%s: %s\n" % header for header in self.headers.items())).encode())
+
     def serve_redirect(self, to):
-        self.answer(302, [("Location", to)])
+        self.answer(302, [("Location", to)], b"elsewhere")
+
+    def serve_hops(self, left):
+        self.answer(302, [("location", "/hops?%d" % (int(left) - 1) if int(left) > 1 else "/feed")])
 
     def serve_redirect_endless(self, to):
         self.send_response(302)
@@ -73,6 +85,20 @@ class Handler(http.server.BaseHTTPRequestHandler):
     def serve_endless_header(self, _):
         self.wfile.write(b"HTTP/1.1 200 OK\r\nX: ")
         self.pour(b"x" * 65536)
+
+    def serve_endless_headers(self, _):
+        self.wfile.write(b"HTTP/1.1 200 OK\r\n")
+        self.pour(b"Set-Cookie: a=b\r\n" * 4096)
+
+    def serve_endless_interim(self, _):
+        self.pour(b"HTTP/1.1 103 Early Hints\r\nLink: </a>\r\n\r\n" * 1024)
+
+    def serve_drip(self, _):
+        self.send_response(200)
+        self.end_headers()
+        for _ in range(200):
+            self.wfile.write(b"<")
+            time.sleep(0.05)
 
     def pour(self, piece):
         for _ in range(1 << 17):

@@ -99,15 +99,15 @@ TEST(NSImageUtilitiesTest, ScalingTakesTheWidthsRatioAndStandsOnTheLowerLeft) {
 }
 
 TEST(NSImageUtilitiesTest, AMissingOrDamagedPictureIsEmptyAndLoggedOnce) {
-    EXPECT_FALSE(NSImageUtilities::imageNamed(QStringLiteral("M07")).isNull());
+    EXPECT_FALSE(NSImageUtilities::imageNamed(QStringLiteral("M21")).isNull());
     const QTemporaryDir folder;
     const WithEnvironment resources("LUMIVANE_RESOURCES", folder.path().toLocal8Bit());
-    QFile damaged(folder.filePath(QStringLiteral("M07.png")));
+    QFile damaged(folder.filePath(QStringLiteral("M21.png")));
     ASSERT_TRUE(damaged.open(QIODevice::WriteOnly));
     damaged.write("\x89PNG\r\n\x1a\n and no more");
     damaged.close();
     const CaughtLog log;
-    for (const char* name : {"M07", "M08", "M07", "M08"}) {
+    for (const char* name : {"M21", "M22", "M21", "M22"}) {
         EXPECT_TRUE(NSImageUtilities::imageNamed(QLatin1String(name)).isNull());
         EXPECT_EQ(log.lines().filter(QStringLiteral("The picture ") + QLatin1String(name)).size(), 1) << name;
     }
