@@ -1,24 +1,24 @@
 // SPDX-License-Identifier: MIT
 #include "app/shell/ApplicationDelegate.h"
 #include "app/ui/LumivaneStatusItem.h"
-#include "platform/appkit/NSAppearance.h"
-#include "platform/appkit/WindowServer.h"
-#include "platform/foundation/NSBundle.h"
+#include "platform/bundle/Bundle.h"
+#include "platform/windows/Appearance.h"
+#include "platform/windows/WindowPlatform.h"
 #include "shared/utilities/classes/ExtraApplicationUtilities.h"
 
 #include <QApplication>
 
 int main(int argc, char** argv) {
     ExtraApplicationUtilities::keepHeapSmall();
-    WindowServer::choosePlatform();
+    WindowPlatform::choosePlatform();
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Lumivane"));
-    QApplication::setDesktopFileName(NSBundle::mainBundle().bundleIdentifier());
+    QApplication::setDesktopFileName(Bundle::main().bundleIdentifier());
     QApplication::setQuitOnLastWindowClosed(false);
-    NSBundle::mainBundle().installTranslations();
+    Bundle::main().installTranslations();
 
     ApplicationDelegate delegate;
-    LumivaneStatusItem statusItem;
+    LumivaneStatusItem statusItem(delegate);
     QObject::connect(&delegate, &ApplicationDelegate::raiseRequested, &statusItem,
                      &LumivaneStatusItem::showPanel);
     // The icon comes first, then what takes its time.
@@ -26,7 +26,7 @@ int main(int argc, char** argv) {
                      &ApplicationDelegate::awakeFromNib, Qt::SingleShotConnection);
     QObject::connect(
         &statusItem, &LumivaneStatusItem::trayKnown, &application,
-        [&application] { NSAppearance::followDesktop(&application); }, Qt::SingleShotConnection);
+        [&application] { Appearance::followDesktop(&application); }, Qt::SingleShotConnection);
     statusItem.awakeFromNib();
     return QApplication::exec();
 }

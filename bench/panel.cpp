@@ -4,7 +4,7 @@
 #include "app/ui/LumivaneStatusItem.h"
 #include "app/ui/LumivaneWindow.h"
 #include "app/ui/LumivaneWindowController.h"
-#include "platform/appkit/NSSlider.h"
+#include "platform/layouts/Slider.h"
 
 #include <QApplication>
 #include <QTemporaryDir>
@@ -13,14 +13,20 @@
 
 namespace {
 
+ApplicationDelegate& shell() {
+    static ApplicationDelegate delegate;
+    return delegate;
+}
+
 /// The slider from end to end: lines, picture and icon each time, and their painting.
 void Refresh(benchmark::State& state) {
-    LumivaneStatusItem item;
+    LumivaneStatusItem item(shell());
     item.awakeFromNib();
-    const auto controller = LumivaneWindowController::lumivaneWindowController();
+    const auto controller =
+        LumivaneWindowController::lumivaneWindowController(shell(), LumivaneWindow::kBorderlessMask);
     controller->setStatusItem(&item);
     controller->window()->show();
-    auto* slider = controller->window()->findChild<NSSlider*>(QStringLiteral("lunationSlider_"));
+    auto* slider = controller->window()->findChild<Slider*>(QStringLiteral("lunationSlider_"));
     int step = 0;
     for (auto _ : state) {
         step = (step + 97) % (slider->maximum() + 1);
@@ -32,7 +38,8 @@ BENCHMARK(Refresh)->Unit(benchmark::kMillisecond);
 
 void MakePanel(benchmark::State& state) {
     for (auto _ : state)
-        benchmark::DoNotOptimize(LumivaneWindowController::lumivaneWindowController());
+        benchmark::DoNotOptimize(
+            LumivaneWindowController::lumivaneWindowController(shell(), LumivaneWindow::kBorderlessMask));
 }
 BENCHMARK(MakePanel)->Unit(benchmark::kMillisecond);
 
@@ -43,7 +50,6 @@ int main(int argc, char** argv) {
     qputenv("LUMIVANE_CONFIG_HOME", home.path().toLocal8Bit());
     const QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
-    const ApplicationDelegate delegate;
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     return 0;

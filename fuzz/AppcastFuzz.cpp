@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/update/SUAppcast.h"
+#include "platform/updates/Appcast.h"
 
 #include <cstdlib>
 
@@ -15,17 +15,17 @@ void demand(bool holds) {
 /// Any bytes are either refused with a reason or give items that keep what their header promises.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     QString error;
-    const auto appcast = SUAppcast::read(
-        QByteArray(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size)), &error);
+    const auto appcast =
+        Appcast::read(QByteArray(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size)), &error);
     demand(appcast.has_value() == error.isEmpty());
     if (!appcast)
         return 0;
     demand(!appcast->items().isEmpty());
-    for (const SUAppcastItem& item : appcast->items()) {
+    for (const AppcastItem& item : appcast->items()) {
         demand(!item.build.isEmpty() && !item.version.contains(u'\n') && !item.title.contains(u'\n'));
         demand(item.page.isEmpty() || item.page.scheme() == u"https" || item.page.scheme() == u"http");
-        demand(SUCompareBuildNumbers(item.build, item.build) == 0);
-        demand(SUCompareBuildNumbers(item.build, appcast->newest().build) <= 0);
+        demand(compareBuildNumbers(item.build, item.build) == 0);
+        demand(compareBuildNumbers(item.build, appcast->newest().build) <= 0);
     }
     return 0;
 }

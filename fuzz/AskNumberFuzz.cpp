@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/foundation/NSNumberFormatter.h"
+#include "platform/locale/NumberFormatter.h"
 #include "shared/utilities/classes/AskNumber.h"
 
 #include <algorithm>
@@ -33,7 +33,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     check(!answer->isEmpty() && typed.endsWith(*answer) &&
           typed.size() - answer->size() == (typed.startsWith(u'+') ? 1 : 0));
 
-    const float number = NSNumberFormatter::leadingNumber(*answer);
+    const float number = NumberFormatter::leadingNumber(*answer);
     check(std::isfinite(number));
     const QByteArray plain = answer->toUtf8();
     const bool isPlain = std::all_of(plain.begin(), plain.end(), [](char c) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/foundation/NSPropertyList.h"
+#include "platform/bundle/PropertyList.h"
 
 #include <QDebug>
 
@@ -26,14 +26,14 @@ QString textOf(const QVariant& value) {
 /// read back stays the same from then on: only types that a list can't hold have become texts.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     QString error;
-    const QVariant root = NSPropertyList::fromBytes(
+    const QVariant root = PropertyList::fromBytes(
         QByteArray(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size)), &error);
     if (!error.isEmpty()) {
         demand(!root.isValid());
         return 0;
     }
-    const QVariant once = NSPropertyList::fromBytes(NSPropertyList::toBytes(root), &error);
-    const QVariant twice = NSPropertyList::fromBytes(NSPropertyList::toBytes(once), &error);
+    const QVariant once = PropertyList::fromBytes(PropertyList::toBytes(root), &error);
+    const QVariant twice = PropertyList::fromBytes(PropertyList::toBytes(once), &error);
     demand(error.isEmpty() && textOf(once) == textOf(twice));
     return 0;
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/appkit/RTFReader.h"
+#include "platform/richtext/RTFReader.h"
 #include "shared/utilities/classes/ExtraMutableAttributedStringUtilities.h"
 
 #include <QGuiApplication>

@@ -2,8 +2,8 @@
 // What the tests run as another copy of the program: `shell_probe [warned]` does what every start does and
 // tells what reaches it. Without the word it shows the warning of its folder first.
 #include "app/shell/ApplicationDelegate.h"
-#include "platform/foundation/NSBundle.h"
-#include "platform/foundation/NSUserDefaults.h"
+#include "platform/bundle/Bundle.h"
+#include "platform/preferences/Preferences.h"
 
 #include <QApplication>
 #include <QTimer>
@@ -26,8 +26,8 @@ int main(int argc, char** argv) {
                      [] { say(QStringLiteral("raise ") + qEnvironmentVariable("XDG_ACTIVATION_TOKEN")); });
     const bool isWarned = QApplication::arguments().value(1) == u"warned";
     if (isWarned)
-        NSUserDefaults::standardUserDefaults()->setObject(NSBundle::mainBundle().bundlePath(),
-                                                          QStringLiteral("LVNotApplicationsFolderWarning"));
+        Preferences::standard()->setObject(Bundle::main().bundlePath(),
+                                           QStringLiteral("LVNotApplicationsFolderWarning"));
     else
         QTimer::singleShot(0, [] { say(QStringLiteral("warning")); }); // in the warning's event loop
     delegate.installNewVersion();

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/foundation/NSDate.h"
+#include "platform/locale/Clock.h"
 
 #include <QByteArray>
 #include <QStringList>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Writes the table of lunations with the phase-time engine: make_lunations <Lunations.plist>
 #include "app/engine/CMoon.h"
-#include "platform/foundation/NSPropertyList.h"
+#include "platform/bundle/PropertyList.h"
 
 #include <QVariant>
 
@@ -22,7 +22,7 @@ int main(int argc, char** argv) {
             QVariant(QVariantList{instant(i, 0), instant(i, 1), instant(i, 2), instant(i, 3), length}));
     }
     QString error;
-    if (!NSPropertyList::write(table, QString::fromLocal8Bit(argv[1]), &error)) {
+    if (!PropertyList::write(table, QString::fromLocal8Bit(argv[1]), &error)) {
         std::fprintf(stderr, "make_lunations: %s: %s\n", argv[1], qPrintable(error));
         return 1;
     }

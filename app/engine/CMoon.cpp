@@ -2,11 +2,11 @@
 #include "app/engine/CMoon.h"
 
 #include "app/engine/CMoonHelper.h"
-#include "platform/foundation/NSBundle.h"
-#include "platform/foundation/NSLog.h"
-#include "platform/foundation/NSPropertyList.h"
-#include "platform/foundation/NSTimeZone.h"
-#include "shared/utilities/classes/ExtraDateUtilities.h"
+#include "platform/bundle/Bundle.h"
+#include "platform/bundle/PropertyList.h"
+#include "platform/locale/TimeZone.h"
+#include "platform/log/Log.h"
+#include "shared/utilities/classes/values/ExtraDateUtilities.h"
 
 #include <algorithm>
 #include <cmath>
@@ -182,13 +182,13 @@ void CMoon::Init() {
     if (loaded)
         return;
     QString problem;
-    const QVariant root = NSPropertyList::read(
-        NSBundle::mainBundle().resourcePath() + QStringLiteral("/Lunations.plist"), &problem);
+    const QVariant root =
+        PropertyList::read(Bundle::main().resourcePath() + QStringLiteral("/Lunations.plist"), &problem);
     if (problem.isEmpty())
         problem = readTable(root, lunations);
     if (!problem.isEmpty()) {
-        NSLog(QStringLiteral("The lunation table Lunations.plist can't be used: %1. It is computed.")
-                  .arg(problem));
+        logLine(QStringLiteral("The lunation table Lunations.plist can't be used: %1. It is computed.")
+                    .arg(problem));
         Compute();
     }
     loaded = true;
@@ -268,7 +268,7 @@ int CMoon::MoonIconIndex(std::uint32_t t) const {
 
 int CMoon::IconIndexForPercentage(double percentage) {
     if (std::isnan(percentage)) {
-        NSLog(QString::asprintf("Unknown percentage %f in MoonIconIndex.", percentage));
+        logLine(QString::asprintf("Unknown percentage %f in MoonIconIndex.", percentage));
         return 0;
     }
     const double held = std::clamp(percentage, 0.0, 100.0);
@@ -316,19 +316,18 @@ const tLunation* CMoon::FirstLunationOfYear(std::uint32_t t) const {
     // moon; the default zone's rules, which cost far more than the rest, are asked only where it can.
     constexpr std::uint32_t kWidestOffset = 26 * 3600;
     const auto yearAtGMT = [](std::uint32_t s) {
-        return NSCalendar::components(ExtraDateUtilities::kReferenceInstant + s, 0).year;
+        return Calendar::fields(ExtraDateUtilities::kReferenceInstant + s, 0).year;
     };
     if (const int year = yearAtGMT(t - kWidestOffset); year == yearAtGMT(t + kWidestOffset)) {
-        const auto newYear =
-            static_cast<std::uint32_t>(NSCalendar::dateFromComponents({.year = year, .month = 1, .day = 1}) -
-                                       ExtraDateUtilities::kReferenceInstant);
+        const auto newYear = static_cast<std::uint32_t>(
+            Calendar::instant({.year = year, .month = 1, .day = 1}) - ExtraDateUtilities::kReferenceInstant);
         const tLunation* lunation = LunationOfNextFullMoon(newYear - kWidestOffset);
         if (lunation == LunationOfNextFullMoon(newYear + kWidestOffset))
             return lunation;
     }
     const int year = ExtraCalendarDateUtilities::calendarDateWithCarbonSeconds1(t).year;
     const std::int64_t newYear =
-        NSCalendar::dateFromComponents({.year = year, .month = 1, .day = 1}, NSTimeZone::defaultTimeZone());
+        Calendar::instant({.year = year, .month = 1, .day = 1}, TimeZone::defaultTimeZone());
     return LunationOfNextFullMoon(
         ExtraDateUtilities::carbonSecondsGMT(QDateTime::fromSecsSinceEpoch(newYear, Qt::UTC)));
 }

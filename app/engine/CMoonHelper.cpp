@@ -2,14 +2,14 @@
 #include "app/engine/CMoonHelper.h"
 
 #include "app/engine/CRiseSet.h"
-#include "platform/foundation/NSBundle.h"
-#include "platform/foundation/NSCalendar.h"
-#include "platform/foundation/NSLog.h"
-#include "platform/foundation/NSTimeZone.h"
-#include "platform/foundation/NSUserDefaults.h"
-#include "shared/utilities/classes/ExtraDateUtilities.h"
-#include "shared/utilities/classes/ExtraMutableStringUtilities.h"
-#include "shared/utilities/classes/ExtraStringUtilities.h"
+#include "platform/bundle/Bundle.h"
+#include "platform/locale/Calendar.h"
+#include "platform/locale/TimeZone.h"
+#include "platform/log/Log.h"
+#include "platform/preferences/Preferences.h"
+#include "shared/utilities/classes/values/ExtraDateUtilities.h"
+#include "shared/utilities/classes/values/ExtraMutableStringUtilities.h"
+#include "shared/utilities/classes/values/ExtraStringUtilities.h"
 
 #include <QCoreApplication>
 
@@ -89,9 +89,8 @@ QString lookUp(std::span<const char* const> table, int index, const char* unknow
     const bool inside = index >= 1 && index <= static_cast<int>(table.size());
     const char* key = inside ? table[static_cast<std::size_t>(index - 1)] : nullptr;
     if (key)
-        return NSBundle::mainBundle().localizedString(key);
-    NSLog(NSBundle::mainBundle().localizedString(unknown).replace(QStringLiteral("%d"),
-                                                                  QString::number(index)));
+        return Bundle::main().localizedString(key);
+    logLine(Bundle::main().localizedString(unknown).replace(QStringLiteral("%d"), QString::number(index)));
     return {};
 }
 
@@ -100,7 +99,7 @@ QString lookUp(std::span<const char* const> table, int index, const char* unknow
 void LVSecondsToDate(std::uint32_t seconds, DateTimeRec* date) {
     if (!date)
         return;
-    const NSDateComponents fields = ExtraCalendarDateUtilities::calendarDateWithCarbonSeconds1(seconds);
+    const CalendarFields fields = ExtraCalendarDateUtilities::calendarDateWithCarbonSeconds1(seconds);
     *date = {static_cast<std::int16_t>(fields.year),   static_cast<std::int16_t>(fields.month),
              static_cast<std::int16_t>(fields.day),    static_cast<std::int16_t>(fields.hour),
              static_cast<std::int16_t>(fields.minute), static_cast<std::int16_t>(fields.second),
@@ -109,7 +108,7 @@ void LVSecondsToDate(std::uint32_t seconds, DateTimeRec* date) {
 
 void CMoonHelper::SecondsToMoonDate(std::uint32_t seconds, tMoonDate& date) {
     const std::int64_t instant = ExtraDateUtilities::dateWithCarbonSecondsGMT(seconds).toSecsSinceEpoch();
-    const NSDateComponents fields = NSCalendar::components(instant, NSTimeZone::defaultTimeZone());
+    const CalendarFields fields = Calendar::fields(instant, TimeZone::defaultTimeZone());
     date.year = fields.year;
     date.month = fields.month;
     date.day = fields.day;
@@ -122,25 +121,25 @@ void CMoonHelper::SecondsToMoonDate(std::uint32_t seconds, tMoonDate& date) {
 
 std::uint32_t CMoonHelper::MoonDateToSeconds(const tMoonDate& date) {
     return MoonDateToGMTSeconds(date) +
-           static_cast<std::uint32_t>(NSTimeZone::secondsFromGMT(NSTimeZone::defaultTimeZone()));
+           static_cast<std::uint32_t>(TimeZone::secondsFromGMT(TimeZone::defaultTimeZone()));
 }
 
 std::uint32_t CMoonHelper::MoonDateToGMTSeconds(const tMoonDate& date) {
-    const std::int64_t instant = NSCalendar::dateFromComponents({.year = date.year,
-                                                                 .month = date.month,
-                                                                 .day = date.day,
-                                                                 .hour = date.hour,
-                                                                 .minute = date.minute,
-                                                                 .second = date.second});
+    const std::int64_t instant = Calendar::instant({.year = date.year,
+                                                    .month = date.month,
+                                                    .day = date.day,
+                                                    .hour = date.hour,
+                                                    .minute = date.minute,
+                                                    .second = date.second});
     return static_cast<std::uint32_t>(instant - ExtraDateUtilities::kReferenceInstant);
 }
 
 int CMoonHelper::prefZoneType() {
-    return NSUserDefaults::standardUserDefaults()->integerForKey(QStringLiteral("LVTimeZoneType"));
+    return Preferences::standard()->integerForKey(QStringLiteral("LVTimeZoneType"));
 }
 
 float CMoonHelper::prefCustomZoneGMTOffset() {
-    return NSUserDefaults::standardUserDefaults()->floatForKey(QStringLiteral("LVTimeZoneCustomGMTOffset"));
+    return Preferences::standard()->floatForKey(QStringLiteral("LVTimeZoneCustomGMTOffset"));
 }
 
 int CMoonHelper::prefZoneOffset() {
@@ -158,11 +157,11 @@ int CMoonHelper::prefZoneOffset() {
 }
 
 int CMoonHelper::GetGMTOffset() {
-    return NSTimeZone::secondsFromGMT(NSTimeZone::systemTimeZone());
+    return TimeZone::secondsFromGMT(TimeZone::systemTimeZone());
 }
 
 bool CMoonHelper::DaylightSavingsIsOn() {
-    return NSTimeZone::isDaylightSavingTime(NSTimeZone::systemTimeZone());
+    return TimeZone::isDaylightSavingTime(TimeZone::systemTimeZone());
 }
 
 QString CMoonHelper::stringForMoonName(int index) {
@@ -189,7 +188,7 @@ void CMoonHelper::BuildRiseSetBlock(std::uint32_t seconds, tRiseSetCalcParamBloc
     block.day = date.day;
     block.month = date.month;
     block.year = date.year;
-    const NSUserDefaults* defaults = NSUserDefaults::standardUserDefaults();
+    const Preferences* defaults = Preferences::standard();
     block.longitude = static_cast<double>(defaults->floatForKey(QStringLiteral("LVLongitude")));
     block.latitude = static_cast<double>(defaults->floatForKey(QStringLiteral("LVLatitude")));
     switch (prefZoneType()) {
@@ -251,8 +250,8 @@ QString CMoonHelper::FormatDataAsString(CRiseSet* calculator, int index, std::ui
 }
 
 QString CMoonHelper::DateStringFromComponents(int year, int month, int day, int hour, int minute) {
-    const std::int64_t instant = NSCalendar::dateFromComponents(
-        {.year = year, .month = month, .day = day, .hour = hour, .minute = minute},
-        NSTimeZone::defaultTimeZone());
+    const std::int64_t instant =
+        Calendar::instant({.year = year, .month = month, .day = day, .hour = hour, .minute = minute},
+                          TimeZone::defaultTimeZone());
     return ExtraDateUtilities::timeStringWithSeconds(QDateTime::fromSecsSinceEpoch(instant, Qt::UTC), false);
 }

@@ -3,13 +3,13 @@
 
 #include "app/engine/CMoon.h"
 #include "app/engine/CMoonHelper.h"
-#include "platform/foundation/NSBundle.h"
-#include "platform/foundation/NSLog.h"
-#include "platform/foundation/NSUserDefaults.h"
+#include "platform/bundle/Bundle.h"
 #include "platform/instance/RunningCopies.h"
+#include "platform/log/Log.h"
+#include "platform/preferences/Preferences.h"
 #include "shared/utilities/classes/ExtraApplicationUtilities.h"
-#include "shared/utilities/classes/ExtraNumberUtilities.h"
-#include "shared/utilities/classes/ExtraStringUtilities.h"
+#include "shared/utilities/classes/values/ExtraNumberUtilities.h"
+#include "shared/utilities/classes/values/ExtraStringUtilities.h"
 
 #include <QCoreApplication>
 #include <QMessageBox>
@@ -19,39 +19,30 @@
 
 namespace {
 
-ApplicationDelegate* theDelegate = nullptr;
-
 constexpr int kSevenDays = 604800;
 
 } // namespace
 
 ApplicationDelegate::ApplicationDelegate() {
-    theDelegate = this;
     setupDefaults();
     gMoon.Init();
     setupDefaultPreferences();
-    sparkleUpdater_ = std::make_unique<SUUpdater>();
+    sparkleUpdater_ = std::make_unique<UpdateChecker>();
 }
 
-ApplicationDelegate::~ApplicationDelegate() {
-    theDelegate = nullptr;
-}
-
-ApplicationDelegate* ApplicationDelegate::sharedDelegate() {
-    return theDelegate;
-}
+ApplicationDelegate::~ApplicationDelegate() = default;
 
 void ApplicationDelegate::setupDefaults() {
     QVariantMap disclosures;
     for (const char* key : {"LVCalculationDisclosure", "LVInformationDisclosure", "LVRiseSetDisclosure",
                             "LVSettingsDisclosure", "LVMoonDisclosure"})
         disclosures.insert(QLatin1String(key), true);
-    NSUserDefaults::standardUserDefaults()->registerDefaults(disclosures);
-    NSUserDefaults::standardUserDefaults()->synchronize();
+    Preferences::standard()->registerDefaults(disclosures);
+    Preferences::standard()->synchronize();
 }
 
 void ApplicationDelegate::setupDefaultPreferences() {
-    NSUserDefaults* defaults = NSUserDefaults::standardUserDefaults();
+    Preferences* defaults = Preferences::standard();
     defaults->registerDefaults({
         {QStringLiteral("LVTimeZoneType"), static_cast<int>(kTimeZoneSystem)},
         {QStringLiteral("LVTimeZoneCustomGMTOffset"), 0.0},
@@ -74,7 +65,7 @@ void ApplicationDelegate::awakeFromNib() {
 }
 
 void ApplicationDelegate::announce() {
-    RunningCopies::announce(NSBundle::mainBundle().bundleIdentifier(),
+    RunningCopies::announce(Bundle::main().bundleIdentifier(),
                             {.activate = [this] { Q_EMIT raiseRequested(); },
                              .runAction = [this](const QString& name) { return runAction(name); },
                              .quit = [this] { quit(); }},
@@ -87,7 +78,7 @@ bool ApplicationDelegate::runAction(const QString& name) {
     else if (name == u"quit")
         quit();
     else
-        NSLog(QStringLiteral("The desktop asks for an action that is none: %1.").arg(name));
+        logLine(QStringLiteral("The desktop asks for an action that is none: %1.").arg(name));
     return name == u"show" || name == u"quit";
 }
 
@@ -105,7 +96,7 @@ void ApplicationDelegate::quit() {
 void ApplicationDelegate::installNewVersion() {
     announce();
     quitOlderCopies();
-    const QString bundlePath = NSBundle::mainBundle().bundlePath();
+    const QString bundlePath = Bundle::main().bundlePath();
     if (!ExtraStringUtilities::contains(bundlePath, QStringLiteral("Applications")))
         warnOutsideApplicationsOnce(bundlePath);
     if (!isQuitting_) // a newer copy, which starts at login now, may have ended the warning
@@ -114,11 +105,11 @@ void ApplicationDelegate::installNewVersion() {
 
 void ApplicationDelegate::warnOutsideApplicationsOnce(const QString& bundlePath) {
     const QString key = QStringLiteral("LVNotApplicationsFolderWarning");
-    NSUserDefaults* defaults = NSUserDefaults::standardUserDefaults();
+    Preferences* defaults = Preferences::standard();
     if (defaults->stringForKey(key) == bundlePath)
         return;
     ExtraApplicationUtilities::bringToFront();
-    const NSBundle& bundle = NSBundle::mainBundle();
+    const Bundle& bundle = Bundle::main();
     QMessageBox alert(QMessageBox::Warning, QStringLiteral("Lumivane"),
                       bundle.localizedString(
                           QT_TRANSLATE_NOOP("Lumivane", "Lumivane is not inside your Applications folder.")));

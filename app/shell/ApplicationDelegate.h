@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/update/SUUpdater.h"
+#include "app/ui/Shell.h"
+#include "platform/updates/UpdateChecker.h"
 
 #include <QList>
 #include <QObject>
@@ -12,16 +13,13 @@
 #include <optional>
 
 /// The program's shell: its start, the table of preferences, launch at login and the update check.
-class ApplicationDelegate : public QObject, public SUUpdaterDelegate {
+class ApplicationDelegate : public QObject, public Shell, public UpdateCheckerDelegate {
     Q_OBJECT
 
 public:
     /// Registers the preferences' defaults, loads the lunation table and makes the update checker.
     ApplicationDelegate();
     ~ApplicationDelegate() override;
-
-    /// The one delegate; null before it is made.
-    static ApplicationDelegate* sharedDelegate();
 
     /// The second half of the start: the update feed's address, then `installNewVersion`.
     void awakeFromNib();
@@ -36,14 +34,12 @@ public:
     /// can't be had.
     std::optional<QList<QVariantMap>> allLoginItems() const;
 
-    /// Whether `url` (nothing: this program) is a login item.
-    bool alreadySetToStartup(const std::optional<QUrl>& url) const;
+    bool alreadySetToStartup(const std::optional<QUrl>& url) const override;
 
     /// Removes every login item whose path contains `name`, letter case ignored.
     void removeOldStartupItemsContaining(const QString& name);
 
-    /// Switches launch at login for `url` (nothing: this program).
-    void toggleSetToStartup(const std::optional<QUrl>& url);
+    void toggleSetToStartup(const std::optional<QUrl>& url) override;
 
     /// Tells older copies to quit, warns once for a place outside the Applications folders, and makes sure
     /// that this copy starts at login.
@@ -64,14 +60,12 @@ public:
     static QUrl feedURL(const QString& text);
 
     /// Logs the check; the feed's address already carries all that there is to tell.
-    QList<SUFeedParameter> feedParametersForUpdater(SUUpdater* updater, bool sendingSystemProfile) override;
+    QList<FeedParameter> feedParametersForUpdater(UpdateChecker* updater, bool sendingSystemProfile) override;
 
     /// Opens an offer's page in the user's browser; false, with a log line, when there is none that would.
     bool openDownloadPage(const QUrl& page) override;
 
-public Q_SLOTS:
-    /// Checks for a new version now.
-    void forwardCheckForUpdate(QObject* sender);
+    void forwardCheckForUpdate(QObject* sender) override;
 
 Q_SIGNALS:
     /// The desktop asks to see the program.
@@ -86,6 +80,6 @@ private:
     void warnOutsideApplicationsOnce(const QString& bundlePath);
     void ensureSetToStartup();
 
-    std::unique_ptr<SUUpdater> sparkleUpdater_;
+    std::unique_ptr<UpdateChecker> sparkleUpdater_;
     bool isQuitting_ = false;
 };

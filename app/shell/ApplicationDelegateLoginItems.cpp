@@ -2,11 +2,11 @@
 #include "app/shell/ApplicationDelegate.h"
 
 #include "platform/autostart/Autostart.h"
-#include "platform/foundation/NSBundle.h"
-#include "platform/foundation/NSLog.h"
-#include "platform/foundation/NSUserDefaults.h"
+#include "platform/bundle/Bundle.h"
+#include "platform/log/Log.h"
+#include "platform/preferences/Preferences.h"
 #include "shared/utilities/classes/ExtraAppleEventManagerUtilities.h"
-#include "shared/utilities/classes/ExtraStringUtilities.h"
+#include "shared/utilities/classes/values/ExtraStringUtilities.h"
 #include "shared/utilities/libraries/LoginItemsAE/LoginItemsAE.h"
 
 #include <algorithm>
@@ -14,7 +14,7 @@
 namespace {
 
 QUrl bundleURL() {
-    return QUrl::fromLocalFile(NSBundle::mainBundle().bundlePath());
+    return QUrl::fromLocalFile(Bundle::main().bundlePath());
 }
 
 QUrl urlOf(const QVariantMap& loginItem) {
@@ -23,14 +23,14 @@ QUrl urlOf(const QVariantMap& loginItem) {
 
 void removeLoginItem(qsizetype index, const QUrl& url) {
     if (const LIAEStatus err = LIAERemove(index); err != kLIAENoError)
-        NSLog(QStringLiteral("Can't remove %1 from the login items (%2).").arg(url.toLocalFile()).arg(err));
+        logLine(QStringLiteral("Can't remove %1 from the login items (%2).").arg(url.toLocalFile()).arg(err));
     else
-        NSLog(QStringLiteral("Removed %1 from the login items.").arg(url.toLocalFile()));
+        logLine(QStringLiteral("Removed %1 from the login items.").arg(url.toLocalFile()));
 }
 
 void addLoginItem(const QUrl& url) {
     if (const LIAEStatus err = LIAEAddURLAtEnd(&url, false); err != kLIAENoError)
-        NSLog(QStringLiteral("Can't add %1 to the login items (%2).").arg(url.toLocalFile()).arg(err));
+        logLine(QStringLiteral("Can't add %1 to the login items (%2).").arg(url.toLocalFile()).arg(err));
 }
 
 } // namespace
@@ -40,7 +40,7 @@ std::optional<QList<QVariantMap>> ApplicationDelegate::allLoginItems() const {
     const LIAEStatus err = LIAECopyLoginItems(&items);
     if (err == kLIAENoError)
         return *items;
-    NSLog(QStringLiteral("Can't get login items list from system (%1).").arg(err));
+    logLine(QStringLiteral("Can't get login items list from system (%1).").arg(err));
     return std::nullopt;
 }
 
@@ -72,10 +72,10 @@ void ApplicationDelegate::toggleSetToStartup(const std::optional<QUrl>& url) {
 
 void ApplicationDelegate::quitOlderCopies() {
     using namespace ExtraAppleEventManagerUtilities;
-    const QString identifier = NSBundle::mainBundle().bundleIdentifier();
+    const QString identifier = Bundle::main().bundleIdentifier();
     quickSend(Event::Quit, identifier + QStringLiteral(".backgrounder.v203"));
     quickSend(Event::Quit, identifier);
-    NSUserDefaults::standardUserDefaults()->synchronize();
+    Preferences::standard()->synchronize();
 }
 
 void ApplicationDelegate::ensureSetToStartup() {

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "app/shell/ApplicationDelegate.h"
 
-#include "platform/foundation/NSBundle.h"
-#include "platform/foundation/NSLog.h"
-#include "platform/foundation/NSUserDefaults.h"
-#include "shared/utilities/classes/ExtraStringUtilities.h"
+#include "platform/bundle/Bundle.h"
+#include "platform/log/Log.h"
+#include "platform/preferences/Preferences.h"
+#include "shared/utilities/classes/ExtraStringSystemUtilities.h"
 #include "shared/utilities/classes/InternetConfig.h"
 
 #include <algorithm>
@@ -30,12 +30,12 @@ QUrl ApplicationDelegate::feedURL(const QString& text) {
 }
 
 void ApplicationDelegate::initCheckForUpdateURL() {
-    const NSBundle& bundle = NSBundle::mainBundle();
-    const QString url = feedURLString(
-        bundle.infoString(QStringLiteral("LVFeedHost")), bundle.infoString(QStringLiteral("CFBundleVersion")),
-        NSUserDefaults::standardUserDefaults()->stringForKey(SUScheduledCheckIntervalKey),
-        bundle.infoString(QStringLiteral("CFBundleShortVersionString")),
-        ExtraStringUtilities::stringWithOSVersion());
+    const Bundle& bundle = Bundle::main();
+    const QString url = feedURLString(bundle.infoString(QStringLiteral("LVFeedHost")),
+                                      bundle.infoString(QStringLiteral("CFBundleVersion")),
+                                      Preferences::standard()->stringForKey(SUScheduledCheckIntervalKey),
+                                      bundle.infoString(QStringLiteral("CFBundleShortVersionString")),
+                                      ExtraStringUtilities::stringWithOSVersion());
     sparkleUpdater_->setDelegate(this);
     sparkleUpdater_->setFeedURL(feedURL(url));
 }
@@ -44,8 +44,8 @@ void ApplicationDelegate::forwardCheckForUpdate(QObject* sender) {
     sparkleUpdater_->checkForUpdates(sender);
 }
 
-QList<SUFeedParameter> ApplicationDelegate::feedParametersForUpdater(SUUpdater* updater, bool) {
-    NSLog(QStringLiteral("Checking for update: %1").arg(updater->feedURL().toString()));
+QList<FeedParameter> ApplicationDelegate::feedParametersForUpdater(UpdateChecker* updater, bool) {
+    logLine(QStringLiteral("Checking for update: %1").arg(updater->feedURL().toString()));
     return {};
 }
 
@@ -54,7 +54,7 @@ bool ApplicationDelegate::openDownloadPage(const QUrl& page) {
         InternetConfig().launchURL(page.toString(QUrl::FullyEncoded), QString());
         return true;
     } catch (const std::exception& failure) {
-        NSLog(QString::fromUtf8(failure.what()));
+        logLine(QString::fromUtf8(failure.what()));
         return false;
     }
 }

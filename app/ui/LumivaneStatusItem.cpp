@@ -5,18 +5,18 @@
 #include "app/engine/CMoonHelper.h"
 #include "app/ui/LumivaneWindow.h"
 #include "app/ui/LumivaneWindowController.h"
-#include "platform/appkit/NSScreen.h"
-#include "platform/appkit/NSStatusItem.h"
-#include "platform/appkit/SwayPlacement.h"
-#include "platform/foundation/NSBundle.h"
-#include "platform/foundation/NSDate.h"
-#include "platform/foundation/NSLog.h"
-#include "platform/foundation/NSNumberFormatter.h"
-#include "platform/foundation/RegularFile.h"
+#include "platform/bundle/Bundle.h"
+#include "platform/files/RegularFile.h"
+#include "platform/locale/Clock.h"
+#include "platform/locale/NumberFormatter.h"
+#include "platform/log/Log.h"
+#include "platform/tray/TrayIcon.h"
+#include "platform/windows/Screen.h"
+#include "platform/windows/SwayPlacement.h"
 #include "shared/utilities/classes/ExtraApplicationUtilities.h"
-#include "shared/utilities/classes/ExtraMutableStringUtilities.h"
 #include "shared/utilities/classes/ExtraWindowUtilities.h"
 #include "shared/utilities/classes/NSImageUtilities.h"
+#include "shared/utilities/classes/values/ExtraMutableStringUtilities.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -40,14 +40,14 @@ constexpr qint64 kLargestPicture = 1 << 20;
 /// The program's installed icon; empty where that is missing. A look through the desktop's icon theme would
 /// take longer than making the panel.
 QImage installedIcon(int side) {
-    const QString path = QStringLiteral("%1/../icons/hicolor/%2x%2/apps/%3.png")
-                             .arg(NSBundle::mainBundle().resourcePath(), QString::number(side),
-                                  NSBundle::mainBundle().bundleIdentifier());
+    const QString path =
+        QStringLiteral("%1/../icons/hicolor/%2x%2/apps/%3.png")
+            .arg(Bundle::main().resourcePath(), QString::number(side), Bundle::main().bundleIdentifier());
     QString error;
     const auto png = RegularFile::read(path, kLargestPicture, &error);
     const QImage image = QImage::fromData(png.value_or(QByteArray()), "png");
     if (image.isNull() && QFileInfo::exists(path))
-        NSLog(QStringLiteral("The icon %1 can't be read. %2").arg(path, error));
+        logLine(QStringLiteral("The icon %1 can't be read. %2").arg(path, error));
     return image;
 }
 
@@ -89,17 +89,17 @@ bool raiseAlert() {
 }
 } // namespace
 
-LumivaneStatusItem::LumivaneStatusItem() = default;
+LumivaneStatusItem::LumivaneStatusItem(Shell& shell) : shell_(shell) {
+}
 
 LumivaneStatusItem::~LumivaneStatusItem() = default;
 
 void LumivaneStatusItem::awakeFromNib() {
-    statusItem_ = std::make_unique<NSStatusItem>(QStringLiteral("lumivane"), QStringLiteral("Lumivane"));
+    statusItem_ = std::make_unique<TrayIcon>(QStringLiteral("lumivane"), QStringLiteral("Lumivane"));
     menu_ = std::make_unique<QMenu>();
     statusItem_->setMenu(menu_.get());
-    connect(statusItem_.get(), &NSStatusItem::clicked, this,
-            [this] { statusItemClicked(statusItem_.get()); });
-    connect(statusItem_.get(), &NSStatusItem::shownChanged, this, &LumivaneStatusItem::trayChanged);
+    connect(statusItem_.get(), &TrayIcon::clicked, this, [this] { statusItemClicked(statusItem_.get()); });
+    connect(statusItem_.get(), &TrayIcon::shownChanged, this, &LumivaneStatusItem::trayChanged);
     // The panel waits until someone asks for it or for the menu, which has its commands: the icon comes
     // first.
     connect(menu_.get(), &QMenu::aboutToShow, this, [this] {
@@ -113,7 +113,7 @@ void LumivaneStatusItem::awakeFromNib() {
 }
 
 void LumivaneStatusItem::showNow() {
-    const NSDate::Hold oneMoment;
+    const Clock::Hold oneMoment;
     setImage(LumivaneWindowController::moonImageFor(LumivaneWindowController::presentGMTSeconds()));
     updateToolTip();
 }
@@ -126,7 +126,7 @@ void LumivaneStatusItem::moonClockTimer() {
 }
 
 void LumivaneStatusItem::setImage(const QImage& image) {
-    const int side = NSStatusItem::kHeight - 4;
+    const int side = TrayIcon::kHeight - 4;
     QList<QImage> images;
     // Averages of averages are the same averages: the large picture is gone through once, not for each size.
     const QImage small = NSImageUtilities::imageOfSize(image.isNull() ? pictureWithoutPhase() : image,
@@ -149,7 +149,7 @@ void LumivaneStatusItem::updateToolTip() {
                CMoonHelper::stringForMoonName(gMoon.GetDescriptorIndex(present)));
     QString lit = CMoonHelper::stringForInformation(2);
     replaceAll(lit, QStringLiteral("^1"),
-               NSNumberFormatter::string(static_cast<float>(gMoon.IlluminationDisplay(present)), 3));
+               NumberFormatter::string(static_cast<float>(gMoon.IlluminationDisplay(present)), 3));
     statusItem_->setToolTip(phase + QLatin1Char('\n') + lit);
 }
 
@@ -185,15 +185,14 @@ void LumivaneStatusItem::dropController() {
 void LumivaneStatusItem::loadController(std::uint32_t styleMask) {
     if (QApplication::windowIcon().isNull())
         QApplication::setWindowIcon(windowIcon());
-    LumivaneWindow::setNextStyleMask(styleMask);
-    lumivaneWindow_ = LumivaneWindowController::lumivaneWindowController();
+    lumivaneWindow_ = LumivaneWindowController::lumivaneWindowController(shell_, styleMask);
     lumivaneWindow_->setStatusItem(this);
     if (!lumivaneWindow_->isWindoid())
         keepUnderIcon(lumivaneWindow_->window());
 
     menu_->clear();
-    menu_->addAction(NSBundle::mainBundle().localizedString(QT_TRANSLATE_NOOP("Lumivane", "&Show Lumivane")),
-                     this, &LumivaneStatusItem::showPanel);
+    menu_->addAction(Bundle::main().localizedString(QT_TRANSLATE_NOOP("Lumivane", "&Show Lumivane")), this,
+                     &LumivaneStatusItem::showPanel);
     menu_->addSeparator();
     menu_->addActions(lumivaneWindow_->gearMenu()->actions());
 }
@@ -317,7 +316,7 @@ void LumivaneStatusItem::placeUnderIcon() {
     if (!screen)
         screen = QGuiApplication::primaryScreen();
     LumivaneWindow* window = lumivaneWindow_->window();
-    window->setGeometry(panelFrame(icon, window->size(), screen->geometry(), NSScreen::visibleFrame(screen)));
+    window->setGeometry(panelFrame(icon, window->size(), screen->geometry(), Screen::visibleFrame(screen)));
     if (swayPlacement_)
         swayPlacement_->place();
 }

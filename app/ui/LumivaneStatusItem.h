@@ -11,8 +11,9 @@
 
 class LumivaneWindow;
 class LumivaneWindowController;
-class NSStatusItem;
+class TrayIcon;
 class QMenu;
+class Shell;
 class SwayPlacement;
 
 /// Owns the program's one tray item, whose icon is the Moon, and the panel that a click on it opens. The
@@ -22,7 +23,8 @@ class LumivaneStatusItem : public QObject {
     Q_OBJECT
 
 public:
-    LumivaneStatusItem();
+    /// `shell` outlives the item.
+    explicit LumivaneStatusItem(Shell& shell);
     ~LumivaneStatusItem() override;
 
     /// Creates the tray item and the clock; the panel is loaded when it is first needed. On a desktop without
@@ -79,7 +81,8 @@ private:
     void placeUnderIcon();
     void updateToolTip();
 
-    std::unique_ptr<NSStatusItem> statusItem_;
+    Shell& shell_;
+    std::unique_ptr<TrayIcon> statusItem_;
     std::unique_ptr<QMenu> menu_;
     std::unique_ptr<LumivaneWindowController> lumivaneWindow_;
     /// Places the panel under Sway; the panel owns it.

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/ui/LumivaneWindow.h"
 
-#include "platform/appkit/NSScreen.h"
+#include "platform/windows/Screen.h"
 #include "shared/utilities/classes/ExtraWindowUtilities.h"
 
 #include <QApplication>
@@ -19,8 +19,6 @@
 
 namespace {
 
-std::uint32_t nextStyleMask = LumivaneWindow::kBorderlessMask;
-
 Qt::WindowFlags flagsOf(std::uint32_t mask) {
     if (mask == LumivaneWindow::kBorderlessMask)
         return Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint;
@@ -30,12 +28,8 @@ Qt::WindowFlags flagsOf(std::uint32_t mask) {
 
 } // namespace
 
-void LumivaneWindow::setNextStyleMask(std::uint32_t mask) {
-    nextStyleMask = mask;
-}
-
-LumivaneWindow::LumivaneWindow(QWidget* parent)
-    : QWidget(parent, flagsOf(nextStyleMask)), styleMask_(nextStyleMask) {
+LumivaneWindow::LumivaneWindow(std::uint32_t styleMask, QWidget* parent)
+    : QWidget(parent, flagsOf(styleMask)), styleMask_(styleMask) {
     // A panel that is put away must not end the program.
     setAttribute(Qt::WA_QuitOnClose, false);
 }
@@ -88,7 +82,7 @@ void LumivaneWindow::hideEvent(QHideEvent* event) {
 void LumivaneWindow::keepClearOf(QDialog* dialog) const {
     if (dialog->parentWidget() && dialog->parentWidget()->window() == this)
         return; // a window's own dialogs are above it everywhere
-    const QRect available = NSScreen::visibleFrame(screen());
+    const QRect available = Screen::visibleFrame(screen());
     const QRect frame = dialog->frameGeometry();
     if (!dialog->windowHandle() || !dialog->windowHandle()->isVisible())
         dialog->move(
@@ -112,7 +106,7 @@ void LumivaneWindow::fitToContent() {
     const int around = layout()->sizeHint().height() - area_->sizeHint().height();
     const int wanted = around + content_->height();
     const int titleBar = static_cast<int>(ExtraWindowUtilities::titleBarHeight(this));
-    const int available = std::min(NSScreen::visibleFrame(screen()).height(), availableHeight_) - titleBar;
+    const int available = std::min(Screen::visibleFrame(screen()).height(), availableHeight_) - titleBar;
     const bool scrolls = wanted > available;
     area_->setVerticalScrollBarPolicy(scrolls ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
     const int bar = scrolls ? area_->verticalScrollBar()->sizeHint().width() : 0;

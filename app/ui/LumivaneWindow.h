@@ -18,10 +18,8 @@ public:
     static constexpr std::uint32_t kBorderlessMask = 0;
     static constexpr std::uint32_t kWindoidMask = 1 + 2 + 16; ///< titled, closable, utility
 
-    /// The style of the next window to be created, whatever its layout says.
-    static void setNextStyleMask(std::uint32_t mask);
-
-    explicit LumivaneWindow(QWidget* parent = nullptr);
+    /// A window in one of the two styles.
+    explicit LumivaneWindow(std::uint32_t styleMask, QWidget* parent = nullptr);
 
     std::uint32_t styleMask() const { return styleMask_; }
 

@@ -6,22 +6,22 @@
 #include "app/ui/ControlIcon.h"
 #include "app/ui/LumivaneStatusItem.h"
 #include "app/ui/LumivaneWindow.h"
-#include "platform/appkit/NSBox.h"
-#include "platform/appkit/NSDatePicker.h"
-#include "platform/appkit/NSNib.h"
-#include "platform/appkit/NSSlider.h"
-#include "platform/foundation/NSBundle.h"
-#include "platform/foundation/NSDate.h"
-#include "platform/foundation/NSException.h"
-#include "platform/foundation/NSLog.h"
-#include "platform/foundation/NSUserDefaults.h"
+#include "platform/bundle/Bundle.h"
+#include "platform/layouts/DatePicker.h"
+#include "platform/layouts/Layout.h"
+#include "platform/layouts/SectionBox.h"
+#include "platform/layouts/Slider.h"
+#include "platform/locale/Clock.h"
+#include "platform/log/Log.h"
+#include "platform/preferences/Preferences.h"
 #include "shared/utilities/classes/DisclosureTriangleWithResize.h"
 #include "shared/utilities/classes/ExtraApplicationUtilities.h"
-#include "shared/utilities/classes/ExtraDateUtilities.h"
 #include "shared/utilities/classes/ExtraSliderUtilities.h"
 #include "shared/utilities/classes/ExtraWindowUtilities.h"
 #include "shared/utilities/classes/MouseDownButton.h"
 #include "shared/utilities/classes/setStringValueHilight.h"
+#include "shared/utilities/classes/values/Exception.h"
+#include "shared/utilities/classes/values/ExtraDateUtilities.h"
 
 #include <QComboBox>
 #include <QCoreApplication>
@@ -67,21 +67,20 @@ QDateTime pickerDate(std::uint32_t gmtSeconds) {
 
 template <typename T>
 void registerClass(const char* name) {
-    NSNib::registerClass(QLatin1String(name), [](QWidget* parent) -> QWidget* { return new T(parent); });
+    Layout::registerClass(QLatin1String(name), [](QWidget* parent) -> QWidget* { return new T(parent); });
 }
 
 void registerClasses() {
-    registerClass<LumivaneWindow>("LumivaneWindow");
-    registerClass<NSBox>("NSBox");
-    registerClass<NSSlider>("NSSlider");
-    registerClass<NSDatePicker>("NSDatePicker");
+    registerClass<SectionBox>("SectionBox");
+    registerClass<Slider>("Slider");
+    registerClass<DatePicker>("DatePicker");
     registerClass<MouseDownButton>("MouseDownButton");
     registerClass<DisclosureTriangleWithResize>("DisclosureTriangleWithResize");
 }
 
 [[noreturn]] void quitBecauseMoved(const QString& reason) {
-    NSLog(reason);
-    const NSBundle& bundle = NSBundle::mainBundle();
+    logLine(reason);
+    const Bundle& bundle = Bundle::main();
     ExtraApplicationUtilities::bringToFront();
     QMessageBox alert(QMessageBox::Warning, QStringLiteral("Lumivane"),
                       bundle.localizedString(QT_TRANSLATE_NOOP(
@@ -91,42 +90,44 @@ void registerClasses() {
                     "running.  Lumivane needs to quit now before bad things happen.")));
     alert.addButton(bundle.localizedString(QT_TRANSLATE_NOOP("Lumivane", "Quit")), QMessageBox::AcceptRole);
     alert.exec();
-    NSLog(QStringLiteral("Quitting because the application moved while it was running."));
+    logLine(QStringLiteral("Quitting because the application moved while it was running."));
     std::exit(1);
 }
 
 } // namespace
 
-std::unique_ptr<LumivaneWindowController> LumivaneWindowController::lumivaneWindowController() {
+std::unique_ptr<LumivaneWindowController>
+LumivaneWindowController::lumivaneWindowController(Shell& shell, std::uint32_t styleMask) {
     try {
-        std::unique_ptr<LumivaneWindowController> controller(new LumivaneWindowController);
-        controller->loadWindow();
+        std::unique_ptr<LumivaneWindowController> controller(new LumivaneWindowController(shell));
+        controller->loadWindow(styleMask);
         controller->window_->hide();
         return controller;
-    } catch (const NSInternalInconsistencyException& exception) {
+    } catch (const InternalInconsistencyException& exception) {
         quitBecauseMoved(exception.reason());
     }
 }
 
-LumivaneWindowController::LumivaneWindowController() = default;
-
 LumivaneWindowController::~LumivaneWindowController() = default;
 
-void LumivaneWindowController::loadWindow() {
+void LumivaneWindowController::loadWindow(std::uint32_t styleMask) {
     static const bool registered = [] {
         registerClasses();
         return true;
     }();
     Q_UNUSED(registered)
+    Layout::registerClass(QStringLiteral("LumivaneWindow"), [styleMask](QWidget* parent) -> QWidget* {
+        return new LumivaneWindow(styleMask, parent);
+    });
     QString error;
-    std::unique_ptr<QWidget> root = NSNib::load(QStringLiteral("LumivaneWindow"), this, &error);
+    std::unique_ptr<QWidget> root = Layout::load(QStringLiteral("LumivaneWindow"), this, &error);
     if (!root) {
-        NSLog(error);
-        throw NSInternalInconsistencyException(QStringLiteral("Can't load window LumivaneWindow"));
+        logLine(error);
+        throw InternalInconsistencyException(QStringLiteral("Can't load window LumivaneWindow"));
     }
     window_.reset(qobject_cast<LumivaneWindow*>(root.get()));
     if (!window_)
-        throw NSInternalInconsistencyException(QStringLiteral("Window was nil!"));
+        throw InternalInconsistencyException(QStringLiteral("Window was nil!"));
     (void)root.release();
     connectOutlets();
     awakeFromNib();
@@ -135,7 +136,7 @@ void LumivaneWindowController::loadWindow() {
 void LumivaneWindowController::connectOutlets() {
     QString error;
     const auto outlet = [&](const char* name, auto*& field) {
-        NSNib::connectOutlet(window_.get(), name, field, &error);
+        Layout::connectOutlet(window_.get(), name, field, &error);
     };
     outlet("datePicker_", datePicker_);
     outlet("moonImageView_", moonImageView_);
@@ -170,13 +171,13 @@ void LumivaneWindowController::connectOutlets() {
     outlet("scrollArea_", scrollArea_);
     outlet("contentView_", contentView_);
     if (!error.isEmpty()) {
-        NSLog(error);
-        throw NSInternalInconsistencyException(QStringLiteral("Can't load window LumivaneWindow"));
+        logLine(error);
+        throw InternalInconsistencyException(QStringLiteral("Can't load window LumivaneWindow"));
     }
 }
 
 void LumivaneWindowController::awakeFromNib() {
-    const NSDate::Hold oneMoment;
+    const Clock::Hold oneMoment;
     originalSystemTimeZoneMenuTitle_ = placeFromSystemSettings_->text();
     gearButton_->setIcon(ControlIcon::icon(ControlIcon::Symbol::Gear));
     windoidButton_->setIcon(ControlIcon::icon(ControlIcon::Symbol::UtilityWindow));
@@ -185,12 +186,12 @@ void LumivaneWindowController::awakeFromNib() {
     makeMenus();
     giveKeys();
     prepareTimeZonePopup();
-    connect(NSUserDefaults::standardUserDefaults(), &NSUserDefaults::valueChanged, this,
+    connect(Preferences::standard(), &Preferences::valueChanged, this,
             &LumivaneWindowController::defaultsChanged);
 
     setDatePickerGMTSeconds(presentGMTSeconds());
     ExtraWindowUtilities::setAlphaValue(window_.get(), 0.0F);
-    dtsSetting_->setText(NSBundle::mainBundle().localizedString(
+    dtsSetting_->setText(Bundle::main().localizedString(
         CMoonHelper::DaylightSavingsIsOn()
             ? QT_TRANSLATE_NOOP("Lumivane", "(DST is on for this session.)")
             : QT_TRANSLATE_NOOP("Lumivane", "(DST is off for this session.)")));
@@ -284,7 +285,7 @@ void LumivaneWindowController::setStatusItem(LumivaneStatusItem* statusItem) {
     statusItem_ = statusItem;
     if (isWindoid()) {
         const QString back =
-            NSBundle::mainBundle().localizedString(QT_TRANSLATE_NOOP("Lumivane", "Back to the tray icon"));
+            Bundle::main().localizedString(QT_TRANSLATE_NOOP("Lumivane", "Back to the tray icon"));
         windoidButton_->setToolTip(back);
         windoidButton_->setAccessibleName(back);
     }
@@ -303,14 +304,14 @@ void LumivaneWindowController::updateForTray() {
     // Without a tray there is no way back, neither from a window to a drop-down nor from hiding.
     const bool inTray = statusItem_->isInTray();
     windoidButton_->setVisible(!isWindoid() || inTray);
-    const QString hide = NSBundle::mainBundle().localizedString(
-        inTray ? QT_TRANSLATE_NOOP("Lumivane", "Hide") : QT_TRANSLATE_NOOP("Lumivane", "Quit"));
+    const QString hide = Bundle::main().localizedString(inTray ? QT_TRANSLATE_NOOP("Lumivane", "Hide")
+                                                               : QT_TRANSLATE_NOOP("Lumivane", "Quit"));
     hideButton_->setToolTip(QStringLiteral("%1 (%2)").arg(hide, hideButton_->accessibleDescription()));
     hideButton_->setAccessibleName(hide);
 }
 
 std::uint32_t LumivaneWindowController::presentGMTSeconds(bool* outOfRange) {
-    const std::int64_t present = NSDate::date().toSecsSinceEpoch() - ExtraDateUtilities::kReferenceInstant;
+    const std::int64_t present = Clock::now().toSecsSinceEpoch() - ExtraDateUtilities::kReferenceInstant;
     const std::uint32_t held = insideTable(present);
     if (outOfRange)
         *outOfRange = held != present;
@@ -368,7 +369,7 @@ void LumivaneWindowController::moveTo(std::int64_t gmtSeconds) {
 }
 
 void LumivaneWindowController::showNow(QObject*) {
-    const NSDate::Hold oneMoment;
+    const Clock::Hold oneMoment;
     bool outOfRange = false;
     const std::uint32_t present = presentGMTSeconds(&outOfRange);
     presentIsOutOfRange_ = outOfRange;
@@ -378,33 +379,33 @@ void LumivaneWindowController::showNow(QObject*) {
 }
 
 void LumivaneWindowController::clockChanged(QObject*) {
-    const NSDate::Hold oneMoment;
+    const Clock::Hold oneMoment;
     presentIsOutOfRange_ = false;
     setLunationSliderGMTSeconds(datePickerGMTSeconds());
     updateStaticMoonInfo();
 }
 
 void LumivaneWindowController::lunationSliderChanged(QObject*) {
-    const NSDate::Hold oneMoment;
+    const Clock::Hold oneMoment;
     presentIsOutOfRange_ = false;
     setDatePickerGMTSeconds(lunationSliderGMTSeconds());
     updateStaticMoonInfo();
 }
 
 void LumivaneWindowController::addTagToDatePicker(QObject* sender) {
-    const NSDate::Hold oneMoment;
-    moveTo(std::int64_t{datePickerGMTSeconds()} + NSNib::tag(sender) * kSecondsPerHour);
+    const Clock::Hold oneMoment;
+    moveTo(std::int64_t{datePickerGMTSeconds()} + Layout::tag(sender) * kSecondsPerHour);
 }
 
 void LumivaneWindowController::addTagToLunation(QObject* sender) {
-    const NSDate::Hold oneMoment;
-    const int index = gMoon.GetLunation(datePickerGMTSeconds()) + NSNib::tag(sender);
+    const Clock::Hold oneMoment;
+    const int index = gMoon.GetLunation(datePickerGMTSeconds()) + Layout::tag(sender);
     moveTo(gMoon.FindLunationAtIndex(std::clamp(index, 0, kLunationCount - 1))->fullMoon);
 }
 
 void LumivaneWindowController::phaseWithTag(QObject* sender) {
-    const NSDate::Hold oneMoment;
-    const auto tag = static_cast<std::size_t>(NSNib::tag(sender));
+    const Clock::Hold oneMoment;
+    const auto tag = static_cast<std::size_t>(Layout::tag(sender));
     const tLunation* lunation = gMoon.FindLunationForGMTSeconds(datePickerGMTSeconds());
     moveTo(lunation->*kPhaseInstants[tag < kPhaseInstants.size() ? tag : 0]);
 }

@@ -12,8 +12,8 @@ class DisclosureTriangleWithResize;
 class LumivaneStatusItem;
 class LumivaneWindow;
 class MouseDownButton;
-class NSDatePicker;
-class NSSlider;
+class DatePicker;
+class Slider;
 class QAbstractButton;
 class QAction;
 class QComboBox;
@@ -24,6 +24,7 @@ class QPushButton;
 class QScrollArea;
 class QToolButton;
 class QWidget;
+class Shell;
 
 /// Runs the information panel, which shows the Moon for one chosen moment, the displayed date. The moment
 /// exists only in the date picker and the lunation slider; it is GMT seconds everywhere else and always
@@ -32,10 +33,11 @@ class LumivaneWindowController : public QObject {
     Q_OBJECT
 
 public:
-    /// A new controller with its panel loaded and not visible. When the layout can't be loaded, which is
-    /// taken as a sign that the program was moved while it runs, the user is told and the program ends with
-    /// status 1.
-    static std::unique_ptr<LumivaneWindowController> lumivaneWindowController();
+    /// A new controller with its panel loaded and not visible, in the window style `styleMask`; `shell`
+    /// outlives it. When the layout can't be loaded, which is taken as a sign that the program was moved
+    /// while it runs, the user is told and the program ends with status 1.
+    static std::unique_ptr<LumivaneWindowController> lumivaneWindowController(Shell& shell,
+                                                                              std::uint32_t styleMask);
     ~LumivaneWindowController() override;
 
     /// The name of the picture for a moment: "M07".
@@ -107,9 +109,9 @@ public Q_SLOTS:
     void terminate(QObject* sender);
 
 private:
-    LumivaneWindowController();
+    explicit LumivaneWindowController(Shell& shell) : shell_(shell) {}
 
-    void loadWindow();
+    void loadWindow(std::uint32_t styleMask);
     void connectOutlets();
     void awakeFromNib();
     void makeMenus();
@@ -125,6 +127,7 @@ private:
     void updateQuarterTimes(std::uint32_t t);
     void updateRiseSetLines(std::uint32_t t);
 
+    Shell& shell_;
     QString originalSystemTimeZoneMenuTitle_;
     LumivaneStatusItem* statusItem_ = nullptr;
     std::unique_ptr<LumivaneWindow> window_;
@@ -132,7 +135,7 @@ private:
 
     // Outlets
     QMenu* gearMenu_ = nullptr;
-    NSDatePicker* datePicker_ = nullptr;
+    DatePicker* datePicker_ = nullptr;
     QLabel* moonImageView_ = nullptr;
     QLabel* phaseName_ = nullptr;
     QLabel* illumination_ = nullptr;
@@ -141,7 +144,7 @@ private:
     QLabel* sunRiseSet_ = nullptr;
     QLabel* nauticalTwilight_ = nullptr;
     QLabel* moonRiseSet_ = nullptr;
-    NSSlider* lunationSlider_ = nullptr;
+    Slider* lunationSlider_ = nullptr;
     QToolButton* showNew_ = nullptr;
     QToolButton* showQ1_ = nullptr;
     QToolButton* showFull_ = nullptr;
@@ -156,7 +159,7 @@ private:
     QPushButton* latitudeAndLongitudePopup_ = nullptr;
     QLineEdit* longitude_ = nullptr;
     QLineEdit* latitude_ = nullptr;
-    NSSlider* brightness_ = nullptr;
+    Slider* brightness_ = nullptr;
     MouseDownButton* gearButton_ = nullptr;
     QToolButton* windoidButton_ = nullptr;
     QToolButton* hideButton_ = nullptr;

@@ -3,17 +3,17 @@
 #include "app/ui/LumivaneStatusItem.h"
 #include "app/ui/LumivaneWindow.h"
 #include "app/ui/LumivaneWindowController.h"
-#include "platform/appkit/Mnemonics.h"
-#include "platform/appkit/NSDatePicker.h"
-#include "platform/appkit/RTFReader.h"
-#include "platform/foundation/NSBundle.h"
-#include "platform/foundation/NSLog.h"
-#include "platform/foundation/RegularFile.h"
-#include "shared/utilities/classes/ExtraDateUtilities.h"
+#include "platform/bundle/Bundle.h"
+#include "platform/files/RegularFile.h"
+#include "platform/layouts/DatePicker.h"
+#include "platform/layouts/Mnemonics.h"
+#include "platform/log/Log.h"
+#include "platform/richtext/RTFReader.h"
 #include "shared/utilities/classes/ExtraMutableAttributedStringUtilities.h"
-#include "shared/utilities/classes/ExtraMutableStringUtilities.h"
-#include "shared/utilities/classes/ExtraStringUtilities.h"
+#include "shared/utilities/classes/ExtraStringSystemUtilities.h"
 #include "shared/utilities/classes/SimpleTextWindow.h"
+#include "shared/utilities/classes/values/ExtraDateUtilities.h"
+#include "shared/utilities/classes/values/ExtraMutableStringUtilities.h"
 
 #include <QComboBox>
 #include <QCoreApplication>
@@ -28,7 +28,7 @@ constexpr qint64 kLargestCredits = 1 << 20;
 
 /// A localised label format with its first "%@" filled.
 QString filled(const char* format, const QString& value) {
-    QString text = NSBundle::mainBundle().localizedString(format);
+    QString text = Bundle::main().localizedString(format);
     const qsizetype slot = text.indexOf(u"%@");
     return slot < 0 ? text : text.replace(slot, 2, value);
 }
@@ -54,11 +54,11 @@ QPointer<SimpleTextWindow> shownCredits;
 /// The credits resource; null when it is missing or unreadable.
 std::unique_ptr<QTextDocument> credits() {
     QString error;
-    const auto rtf = RegularFile::read(NSBundle::mainBundle().resourcePath() + QStringLiteral("/Credits.rtf"),
+    const auto rtf = RegularFile::read(Bundle::main().resourcePath() + QStringLiteral("/Credits.rtf"),
                                        kLargestCredits, &error);
     std::unique_ptr<QTextDocument> text = rtf ? documentFromRTF(*rtf, &error) : nullptr;
     if (!text)
-        NSLog(QStringLiteral("The credits can't be shown: %1.").arg(error));
+        logLine(QStringLiteral("The credits can't be shown: %1.").arg(error));
     return text;
 }
 
@@ -107,7 +107,7 @@ void LumivaneWindowController::showAbout(QObject*) {
         return;
     }
     using ExtraMutableAttributedStringUtilities::replaceAllAttributedStrings;
-    const NSBundle& bundle = NSBundle::mainBundle();
+    const Bundle& bundle = Bundle::main();
     std::unique_ptr<QTextDocument> text = credits();
     if (!text)
         text = plainCredits();

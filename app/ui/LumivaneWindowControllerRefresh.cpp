@@ -3,21 +3,21 @@
 #include "app/engine/CMoon.h"
 #include "app/engine/CMoonHelper.h"
 #include "app/engine/CRiseSet.h"
-#include "app/shell/ApplicationDelegate.h"
 #include "app/ui/LumivaneStatusItem.h"
 #include "app/ui/LumivaneWindow.h"
 #include "app/ui/LumivaneWindowController.h"
-#include "platform/appkit/NSDatePicker.h"
-#include "platform/appkit/NSSlider.h"
-#include "platform/foundation/NSDate.h"
-#include "platform/foundation/NSNumberFormatter.h"
-#include "platform/foundation/NSTimeZone.h"
-#include "platform/foundation/NSUserDefaults.h"
-#include "shared/utilities/classes/ExtraDateUtilities.h"
-#include "shared/utilities/classes/ExtraMutableStringUtilities.h"
-#include "shared/utilities/classes/ExtraStringUtilities.h"
+#include "app/ui/Shell.h"
+#include "platform/layouts/DatePicker.h"
+#include "platform/layouts/Slider.h"
+#include "platform/locale/Clock.h"
+#include "platform/locale/NumberFormatter.h"
+#include "platform/locale/TimeZone.h"
+#include "platform/preferences/Preferences.h"
 #include "shared/utilities/classes/NSImageUtilities.h"
 #include "shared/utilities/classes/setStringValueHilight.h"
+#include "shared/utilities/classes/values/ExtraDateUtilities.h"
+#include "shared/utilities/classes/values/ExtraMutableStringUtilities.h"
+#include "shared/utilities/classes/values/ExtraStringUtilities.h"
 
 #include <QAction>
 #include <QLabel>
@@ -61,7 +61,7 @@ QImage LumivaneWindowController::moonImageFor(std::uint32_t gmtSeconds) {
     const QImage image = NSImageUtilities::imageNamed(moonImageNameFor(gmtSeconds));
     if (image.isNull())
         return {};
-    const NSUserDefaults* defaults = NSUserDefaults::standardUserDefaults();
+    const Preferences* defaults = Preferences::standard();
     const float brightness = defaults->floatForKey(QStringLiteral("LVBrightness"));
     const QImage tinted = gMoon.IsBlue(gmtSeconds)
                               ? NSImageUtilities::tintToBlueWithBrightness(image, brightness)
@@ -71,7 +71,7 @@ QImage LumivaneWindowController::moonImageFor(std::uint32_t gmtSeconds) {
 }
 
 void LumivaneWindowController::updateStaticMoonInfo() {
-    const NSDate::Hold oneMoment;
+    const Clock::Hold oneMoment;
     updateMoonImage();
     const std::uint32_t t = datePickerGMTSeconds();
 
@@ -81,7 +81,7 @@ void LumivaneWindowController::updateStaticMoonInfo() {
     setStringValueHilight(phaseName_, phase);
     moonImageView_->setAccessibleName(phase);
     const auto illumination = static_cast<float>(gMoon.IlluminationDisplay(t));
-    setStringValueHilight(illumination_, information(2, NSNumberFormatter::string(illumination, 3)));
+    setStringValueHilight(illumination_, information(2, NumberFormatter::string(illumination, 3)));
 
     // Ten seconds on, a moment just short of the new moon reads as the new lunation's first.
     QString age = CMoonHelper::stringForInformation(3);
@@ -147,10 +147,10 @@ void LumivaneWindowController::updateQuarterButtons() {
 bool LumivaneWindowController::validateMenuItem(QAction* item) {
     const QString action = item->property("action").toString();
     if (action == u"runAtLogin") {
-        item->setChecked(ApplicationDelegate::sharedDelegate()->alreadySetToStartup(std::nullopt));
+        item->setChecked(shell_.alreadySetToStartup(std::nullopt));
     } else if (action == u"latitudeAndLongitudeFromSystemSettings") {
         item->setText(QStringLiteral("%1 (%2)").arg(originalSystemTimeZoneMenuTitle_,
-                                                    NSTimeZone::name(NSTimeZone::systemTimeZone())));
+                                                    TimeZone::name(TimeZone::systemTimeZone())));
     }
     return true;
 }

@@ -1,18 +1,18 @@
 // SPDX-License-Identifier: MIT
 // The panel's settings and commands.
 #include "app/engine/CMoonHelper.h"
-#include "app/shell/ApplicationDelegate.h"
 #include "app/ui/LumivaneStatusItem.h"
 #include "app/ui/LumivaneWindow.h"
 #include "app/ui/LumivaneWindowController.h"
-#include "platform/appkit/NSSlider.h"
-#include "platform/foundation/NSBundle.h"
-#include "platform/foundation/NSDate.h"
-#include "platform/foundation/NSNumberFormatter.h"
-#include "platform/foundation/NSUserDefaults.h"
+#include "app/ui/Shell.h"
+#include "platform/bundle/Bundle.h"
+#include "platform/layouts/Slider.h"
+#include "platform/locale/Clock.h"
+#include "platform/locale/NumberFormatter.h"
+#include "platform/preferences/Preferences.h"
 #include "shared/utilities/classes/AskNumber.h"
-#include "shared/utilities/classes/ExtraNumberUtilities.h"
 #include "shared/utilities/classes/InternetConfig.h"
+#include "shared/utilities/classes/values/ExtraNumberUtilities.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -36,20 +36,20 @@ constexpr std::array kTimeZoneEntries{kTimeZoneGMT, kTimeZoneSystem, kTimeZoneCu
 /// The last brightness that the slider reported, for the whole program.
 float lastBrightness = 0.0F;
 
-NSUserDefaults* defaults() {
-    return NSUserDefaults::standardUserDefaults();
+Preferences* defaults() {
+    return Preferences::standard();
 }
 
 QString webPage(const char* path) {
     return QStringLiteral("https://%1%2")
-        .arg(NSBundle::mainBundle().infoString(QStringLiteral("LVWebHost")), QLatin1String(path));
+        .arg(Bundle::main().infoString(QStringLiteral("LVWebHost")), QLatin1String(path));
 }
 
 /// "GMT +5.5" for a custom offset, as the preferences keep it.
 QString offsetTitle(float hours) {
-    return NSBundle::mainBundle().localizedString(QT_TRANSLATE_NOOP("Lumivane", "GMT ")) +
+    return Bundle::main().localizedString(QT_TRANSLATE_NOOP("Lumivane", "GMT ")) +
            (hours >= 0.0F ? QStringLiteral("+") : QString()) +
-           NSNumberFormatter::plainString(hours == 0.0F ? 0.0F : hours, 1); // "-0" is no offset either
+           NumberFormatter::plainString(hours == 0.0F ? 0.0F : hours, 1); // "-0" is no offset either
 }
 
 } // namespace
@@ -65,7 +65,7 @@ void LumivaneWindowController::prepareTimeZonePopup() {
 void LumivaneWindowController::defaultsChanged(const QString& key) {
     if (key == kCustomTitle)
         timeZonePopup_->setItemText(timeZonePopup_->findData(static_cast<int>(kTimeZoneCustom)),
-                                    NSNumberFormatter::localized(defaults()->stringForKey(kCustomTitle)));
+                                    NumberFormatter::localized(defaults()->stringForKey(kCustomTitle)));
 }
 
 void LumivaneWindowController::selectTimeZoneEntry(int type) {
@@ -79,7 +79,7 @@ void LumivaneWindowController::timeZoneChanged(QObject* sender) {
         timeZoneOther(sender);
         return;
     }
-    const NSDate::Hold oneMoment;
+    const Clock::Hold oneMoment;
     // The picker keeps what it shows, unless that is now a moment outside the table.
     setDatePickerGMTSeconds(datePickerGMTSeconds());
     setLunationSliderGMTSeconds(datePickerGMTSeconds());
@@ -87,12 +87,12 @@ void LumivaneWindowController::timeZoneChanged(QObject* sender) {
 }
 
 void LumivaneWindowController::timeZoneOther(QObject*) {
-    const NSBundle& bundle = NSBundle::mainBundle();
+    const Bundle& bundle = Bundle::main();
     AskNumber* dialog = AskNumber::AskNumberWithMessage(
         bundle.localizedString(QT_TRANSLATE_NOOP("Lumivane", "GMT Time Zone Offset:")),
-        NSNumberFormatter::localized(
+        NumberFormatter::localized(
             bundle.localizedString(QT_TRANSLATE_NOOP("Lumivane", "For Example: -5, +1.5, 12, 0"))),
-        NSNumberFormatter::string(defaults()->floatForKey(kCustomOffset)), window_.get(),
+        NumberFormatter::string(defaults()->floatForKey(kCustomOffset)), window_.get(),
         [this](const QString& text, AskNumber* asked) { askTimeZoneDidEnd(text, asked); });
     const int type = CMoonHelper::prefZoneType();
     if (dialog)
@@ -108,7 +108,7 @@ void LumivaneWindowController::askTimeZoneDidEnd(const QString& text, AskNumber*
         defaults()->synchronize();
         return;
     }
-    const float hours = NSNumberFormatter::leadingNumber(text);
+    const float hours = NumberFormatter::leadingNumber(text);
     defaults()->setFloat(hours, kCustomOffset);
     defaults()->setObject(offsetTitle(hours), kCustomTitle);
     selectTimeZoneEntry(kTimeZoneCustom);
@@ -133,7 +133,7 @@ void LumivaneWindowController::latitudeOrLongitudeChange(QObject*) {
 void LumivaneWindowController::showStoredPlace() {
     for (const auto& [field, key] : {std::pair{latitude_, kLatitude}, std::pair{longitude_, kLongitude}}) {
         // Also in the place of what is being typed.
-        field->setText(NSNumberFormatter::string(defaults()->floatForKey(key)));
+        field->setText(NumberFormatter::string(defaults()->floatForKey(key)));
         field->setCursorPosition(0);
     }
 }
@@ -159,11 +159,11 @@ void LumivaneWindowController::hideButton(QObject*) {
 }
 
 void LumivaneWindowController::runAtLogin(QObject*) {
-    ApplicationDelegate::sharedDelegate()->toggleSetToStartup(std::nullopt);
+    shell_.toggleSetToStartup(std::nullopt);
 }
 
 void LumivaneWindowController::checkForUpdate(QObject* sender) {
-    ApplicationDelegate::sharedDelegate()->forwardCheckForUpdate(sender);
+    shell_.forwardCheckForUpdate(sender);
 }
 
 void LumivaneWindowController::lumivaneHomePage(QObject*) {

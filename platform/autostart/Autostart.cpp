@@ -2,8 +2,8 @@
 #include "platform/autostart/Autostart.h"
 
 #include "platform/desktop_entry/DesktopEntry.h"
-#include "platform/foundation/ConfigFolder.h"
-#include "platform/foundation/NSLog.h"
+#include "platform/files/ConfigFolder.h"
+#include "platform/log/Log.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -48,7 +48,7 @@ void reportOnce(const QString& file, const QString& reason) {
     if (reported.contains(file))
         return;
     reported.insert(file);
-    NSLog(QStringLiteral("%1 is left out of the login items: %2.").arg(file, reason));
+    logLine(QStringLiteral("%1 is left out of the login items: %2.").arg(file, reason));
 }
 
 Entry entryOf(const QString& file, const DesktopEntry& desktopEntry) {
@@ -106,7 +106,7 @@ std::optional<DesktopEntry> autostartOfEntry(const QString& path) {
     QString error;
     const auto source = DesktopEntry::fromFile(path, &error);
     if (!source || source->text("Type") != u"Application" || source->text("Exec").isEmpty()) {
-        NSLog(QStringLiteral("%1 starts no program, and is no login item. %2").arg(path, error));
+        logLine(QStringLiteral("%1 starts no program, and is no login item. %2").arg(path, error));
         return std::nullopt;
     }
     DesktopEntry entry;
@@ -276,11 +276,11 @@ void Autostart::mend(const QString& path) {
         if (!added || !nameProgramWhole(&*added, source->program()))
             continue;
         const std::error_code failure = writeEntry(entry.item.file, added->toBytes(), true);
-        NSLog(failure ? QStringLiteral("%1 can't be made to start %2 by its whole path (%3).")
-                            .arg(filePath(entry.item.file), source->program(),
-                                 QString::fromStdString(failure.message()))
-                      : QStringLiteral("%1 starts %2 by its whole path now.")
-                            .arg(filePath(entry.item.file), source->program()));
+        logLine(failure ? QStringLiteral("%1 can't be made to start %2 by its whole path (%3).")
+                              .arg(filePath(entry.item.file), source->program(),
+                                   QString::fromStdString(failure.message()))
+                        : QStringLiteral("%1 starts %2 by its whole path now.")
+                              .arg(filePath(entry.item.file), source->program()));
     }
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/browser/GioApplication.h"
 
-#include "platform/foundation/NSLog.h"
+#include "platform/log/Log.h"
 
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -131,7 +131,7 @@ bool GioApplication::launch(GDesktopAppInfo* application, const QUrl& address) {
         nullptr, nullptr, &failure);
     const std::unique_ptr<GError, FreeError> error(failure);
     if (!started)
-        NSLog(QStringLiteral("%1 can't be opened: %2")
-                  .arg(QString::fromUtf8(text), QString::fromUtf8(error ? error->message : "")));
+        logLine(QStringLiteral("%1 can't be opened: %2")
+                    .arg(QString::fromUtf8(text), QString::fromUtf8(error ? error->message : "")));
     return started;
 }

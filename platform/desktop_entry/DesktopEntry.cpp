@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/desktop_entry/DesktopEntry.h"
 
-#include "platform/foundation/RegularFile.h"
+#include "platform/files/RegularFile.h"
 
 #include <QStandardPaths>
 

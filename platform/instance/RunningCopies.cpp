@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/instance/RunningCopies.h"
 
-#include "platform/foundation/NSLog.h"
+#include "platform/log/Log.h"
 
 #include <QCoreApplication>
 #include <QDBusConnectionInterface>
@@ -79,8 +79,8 @@ public:
                                               QDBusConnectionInterface::AllowReplacement);
         isNewest_ = taken.value() == QDBusConnectionInterface::ServiceRegistered;
         if (!isNewest_)
-            NSLog(QStringLiteral("The desktop can't find this copy: the name %1 is not to be had (%2).")
-                      .arg(identifier_, taken.error().message()));
+            logLine(QStringLiteral("The desktop can't find this copy: the name %1 is not to be had (%2).")
+                        .arg(identifier_, taken.error().message()));
         return bus_.registerService(serviceName({ownPid(), identifier_}));
     }
 
@@ -177,13 +177,13 @@ std::vector<Copy> RunningCopies::others() {
 bool RunningCopies::announce(const QString& identifier, Requests requests, QObject* owner) {
     const QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected()) {
-        NSLog(QStringLiteral("No D-Bus session bus (%1); other copies can't be found.")
-                  .arg(bus.lastError().message()));
+        logLine(QStringLiteral("No D-Bus session bus (%1); other copies can't be found.")
+                    .arg(bus.lastError().message()));
         return false;
     }
     if ((new Service(identifier, std::move(requests), owner))->takeNames())
         return true;
-    NSLog(QStringLiteral("Other copies can't find this one (%1).").arg(bus.lastError().message()));
+    logLine(QStringLiteral("Other copies can't find this one (%1).").arg(bus.lastError().message()));
     return false;
 }
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/location/StoredLocation.h"
 
-#include "platform/foundation/NSLog.h"
-#include "platform/foundation/NSTimeZone.h"
-#include "platform/foundation/RegularFile.h"
+#include "platform/files/RegularFile.h"
+#include "platform/locale/TimeZone.h"
+#include "platform/log/Log.h"
 
 #include <QFileInfo>
 
@@ -45,11 +45,11 @@ std::optional<Place> placeOf(const QByteArray& iso6709) {
 std::vector<QList<QByteArray>> linesWith(const QByteArray& word, const QString& fileName, char separator) {
     if (word.isEmpty())
         return {};
-    const QString path = NSTimeZone::zoneInfoFolder() + QLatin1Char('/') + fileName;
+    const QString path = TimeZone::zoneInfoFolder() + QLatin1Char('/') + fileName;
     QString error;
     const QByteArray text = RegularFile::read(path, kLargestTable, &error).value_or(QByteArray());
     if (!error.isEmpty() && QFileInfo::exists(path))
-        NSLog(QStringLiteral("No place can be looked up in %1: %2.").arg(path, error));
+        logLine(QStringLiteral("No place can be looked up in %1: %2.").arg(path, error));
     std::vector<QList<QByteArray>> lines;
     for (qsizetype at = text.indexOf(word); at >= 0; at = text.indexOf(word, at)) {
         const qsizetype start = text.lastIndexOf('\n', at) + 1;
@@ -103,5 +103,5 @@ std::optional<Place> placeOfZone(const QByteArray& zoneId) {
 } // namespace
 
 std::optional<Place> StoredLocation::place() {
-    return placeOfZone(NSTimeZone::systemTimeZone().id());
+    return placeOfZone(TimeZone::systemTimeZone().id());
 }

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/system/SystemVersion.h"
 
-#include "platform/foundation/NSLog.h"
-#include "platform/foundation/RegularFile.h"
+#include "platform/files/RegularFile.h"
+#include "platform/log/Log.h"
 
 #include <QSysInfo>
 #include <QVersionNumber>
@@ -22,7 +22,7 @@ std::array<int, 3> leadingNumbers(const QString& text) {
 QString productVersion() {
     for (const char* file : {"/etc/os-release", "/usr/lib/os-release"}) {
         if (RegularFile::isOtherThing(QString::fromLatin1(file))) { // Qt would wait for it
-            NSLog(QStringLiteral("%1 is no regular file, and is not read.").arg(QString::fromLatin1(file)));
+            logLine(QStringLiteral("%1 is no regular file, and is not read.").arg(QString::fromLatin1(file)));
             return {};
         }
     }

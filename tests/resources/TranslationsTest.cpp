@@ -3,9 +3,9 @@
 #include "app/shell/ApplicationDelegate.h"
 #include "app/ui/LumivaneWindow.h"
 #include "app/ui/LumivaneWindowController.h"
-#include "platform/appkit/RTFReader.h"
-#include "platform/foundation/NSBundle.h"
-#include "platform/update/SUUpdateAlert.h"
+#include "platform/bundle/Bundle.h"
+#include "platform/richtext/RTFReader.h"
+#include "platform/updates/UpdateAlert.h"
 
 #include <QDialog>
 #include <QDir>
@@ -76,9 +76,7 @@ QStringList fixedParts(const QString& text) {
 class TranslationsTest : public testing::Test {
 protected:
     ~TranslationsTest() override { use("en"); }
-    static void use(const char* language) {
-        NSBundle::mainBundle().installTranslations({QLatin1String(language)});
-    }
+    static void use(const char* language) { Bundle::main().installTranslations({QLatin1String(language)}); }
 };
 
 } // namespace
@@ -163,9 +161,10 @@ TEST_F(TranslationsTest, EveryControlHasALetterOfItsOwnInEveryLanguage) {
     for (const char* language : {"en", "de", "es", "fr", "it", "ja", "pt-BR", "ru", "zh-CN", "ar"}) {
         SCOPED_TRACE(language);
         use(language);
-        const auto panel = LumivaneWindowController::lumivaneWindowController();
+        const auto panel =
+            LumivaneWindowController::lumivaneWindowController(delegate, LumivaneWindow::kBorderlessMask);
         expectLetters(controls(panel->window()), 12, "panel");
-        const QStringList show{NSBundle::mainBundle().localizedString("&Show Lumivane")};
+        const QStringList show{Bundle::main().localizedString("&Show Lumivane")};
         expectLetters(commands(panel->gearMenu()) + show, 7, "menu");
         const auto* place =
             panel->window()->findChild<QPushButton*>(QStringLiteral("latitudeAndLongitudePopup_"));
@@ -174,16 +173,16 @@ TEST_F(TranslationsTest, EveryControlHasALetterOfItsOwnInEveryLanguage) {
 
         panel->timeZoneOther(nullptr);
         expectLetters(controls(panel->window()->findChild<QDialog*>()), 3, "offset");
-        SUAppcastItem item;
+        AppcastItem item;
         item.notes = QStringLiteral("Notes");
         item.page = QUrl(QStringLiteral("https://lumivane.example/"));
-        const std::unique_ptr<SUUpdateAlert> alert(SUUpdateAlert::updateAvailable(item, QStringLiteral("1")));
+        const std::unique_ptr<UpdateAlert> alert(UpdateAlert::updateAvailable(item, QStringLiteral("1")));
         expectLetters(controls(alert.get()), 4, "update");
     }
 }
 
 TEST_F(TranslationsTest, TheUsersLanguagesReachTheTexts) {
-    NSBundle& bundle = NSBundle::mainBundle();
+    Bundle& bundle = Bundle::main();
     bundle.installTranslations({QStringLiteral("nl"), QStringLiteral("de-AT"), QStringLiteral("fr")});
     EXPECT_EQ(CMoonHelper::stringForMoonName(5), QStringLiteral("Zunehmende Mondsichel"));
     EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel"), QStringLiteral("&Abbrechen"));
@@ -199,7 +198,7 @@ TEST_F(TranslationsTest, TheCreditsWordsAreAmongTheTexts) {
     const QStringList untranslated{QStringLiteral("Lumivane"),
                                    QStringLiteral("Jean Meeus, Astronomical Algorithms"),
                                    QStringLiteral("Astronomy on the Personal Computer")};
-    const NSBundle& bundle = NSBundle::mainBundle();
+    const Bundle& bundle = Bundle::main();
     QFile file(bundle.resourcePath() + QStringLiteral("/Credits.rtf"));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     QString error;

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "shared/utilities/classes/AskNumber.h"
 
-#include "platform/appkit/Mnemonics.h"
-#include "platform/appkit/NSNib.h"
+#include "platform/layouts/Layout.h"
+#include "platform/layouts/Mnemonics.h"
 
 #include <QApplication>
 #include <QDialogButtonBox>
@@ -31,12 +31,12 @@ bool AskNumber::awakeFromNib(QString* error) {
     QDialogButtonBox* buttons = nullptr;
     QPushButton* okButton = nullptr;
     QPushButton* cancelButton = nullptr;
-    if (!NSNib::connectOutlet(window(), "message_", message_, error) ||
-        !NSNib::connectOutlet(window(), "userText_", userText_, error) ||
-        !NSNib::connectOutlet(window(), "smallMessage_", smallMessage_, error) ||
-        !NSNib::connectOutlet(window(), "buttons_", buttons, error) ||
-        !NSNib::connectOutlet(window(), "okButton_", okButton, error) ||
-        !NSNib::connectOutlet(window(), "cancelButton_", cancelButton, error))
+    if (!Layout::connectOutlet(window(), "message_", message_, error) ||
+        !Layout::connectOutlet(window(), "userText_", userText_, error) ||
+        !Layout::connectOutlet(window(), "smallMessage_", smallMessage_, error) ||
+        !Layout::connectOutlet(window(), "buttons_", buttons, error) ||
+        !Layout::connectOutlet(window(), "okButton_", okButton, error) ||
+        !Layout::connectOutlet(window(), "cancelButton_", cancelButton, error))
         return false;
     // The box puts the two in the order that the desktop is used to.
     buttons->addButton(okButton, QDialogButtonBox::AcceptRole);

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "shared/utilities/classes/DialogOrSheetController.h"
 
-#include "platform/appkit/NSNib.h"
-#include "platform/foundation/NSLog.h"
+#include "platform/layouts/Layout.h"
+#include "platform/log/Log.h"
 
 #include <QKeyEvent>
 #include <QScreen>
@@ -17,7 +17,7 @@ DialogOrSheetController::~DialogOrSheetController() {
 
 bool DialogOrSheetController::loadWindow(const QString& nibName) {
     QString error;
-    std::unique_ptr<QWidget> root = NSNib::load(nibName, this, &error);
+    std::unique_ptr<QWidget> root = Layout::load(nibName, this, &error);
     window_ = qobject_cast<QDialog*>(root.get());
     if (window_) {
         (void)root.release();
@@ -29,7 +29,7 @@ bool DialogOrSheetController::loadWindow(const QString& nibName) {
     } else if (root) {
         error = QStringLiteral("The layout is not one of a dialog.");
     }
-    NSLog(QStringLiteral("The dialog %1 can't be opened. %2").arg(nibName, error));
+    logLine(QStringLiteral("The dialog %1 can't be opened. %2").arg(nibName, error));
     return false;
 }
 

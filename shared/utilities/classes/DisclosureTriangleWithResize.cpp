@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "shared/utilities/classes/DisclosureTriangleWithResize.h"
 
-#include "platform/appkit/NSAppearance.h"
-#include "platform/appkit/NSBox.h"
-#include "platform/foundation/NSException.h"
-#include "platform/foundation/NSUserDefaults.h"
+#include "platform/layouts/SectionBox.h"
+#include "platform/preferences/Preferences.h"
+#include "platform/windows/Appearance.h"
+#include "shared/utilities/classes/values/Exception.h"
 
 #include <QLayout>
 #include <QPainter>
@@ -51,16 +51,16 @@ DisclosureTriangleWithResize::DisclosureTriangleWithResize(QWidget* parent) : QT
     });
 }
 
-NSBox* DisclosureTriangleWithResize::boxView() const {
+SectionBox* DisclosureTriangleWithResize::boxView() const {
     const QWidget* content = parentWidget();
-    auto* box = content ? qobject_cast<NSBox*>(content->parentWidget()) : nullptr;
+    auto* box = content ? qobject_cast<SectionBox*>(content->parentWidget()) : nullptr;
     if (!box)
-        throw NSInternalInconsistencyException(QStringLiteral("DisclosureTriangle needs to be in an NSBox."));
+        throw InternalInconsistencyException(QStringLiteral("DisclosureTriangle needs to be in an NSBox."));
     return box;
 }
 
 QList<QWidget*> DisclosureTriangleWithResize::viewsInWindow(bool above) const {
-    const NSBox* box = boxView();
+    const SectionBox* box = boxView();
     const int edge = bottomEdge(box);
     QList<QWidget*> views;
     for (QWidget* view : viewsIn(box->parentWidget())) {
@@ -107,14 +107,14 @@ void DisclosureTriangleWithResize::changeHeight(float shrinkBy, bool animated) {
 }
 
 int DisclosureTriangleWithResize::animationDuration() const {
-    if (!isVisible() || !NSAppearance::wantsAnimations())
+    if (!isVisible() || !Appearance::wantsAnimations())
         return 0;
     return std::min(style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, this),
                     kLongestAnimation);
 }
 
 void DisclosureTriangleWithResize::setBoxHeight(int height) {
-    NSBox* box = boxView();
+    SectionBox* box = boxView();
     const int by = box->height() - height;
     if (by == 0)
         return;
@@ -139,14 +139,14 @@ void DisclosureTriangleWithResize::sizeToState(bool animated) {
 }
 
 void DisclosureTriangleWithResize::awakeFromNib() {
-    NSBox* box = boxView();
+    SectionBox* box = boxView();
     superViewExpandedHeight_ = static_cast<float>(box->height());
     if (!valueBindingKeyPath_.isEmpty()) {
-        setChecked(NSUserDefaults::standardUserDefaults()->boolForKey(valueBindingKeyPath_));
-        connect(NSUserDefaults::standardUserDefaults(), &NSUserDefaults::valueChanged, this,
+        setChecked(Preferences::standard()->boolForKey(valueBindingKeyPath_));
+        connect(Preferences::standard(), &Preferences::valueChanged, this,
                 &DisclosureTriangleWithResize::observeValue);
     }
-    connect(box, &NSBox::contentSizeHintChanged, this, &DisclosureTriangleWithResize::contentChanged);
+    connect(box, &SectionBox::contentSizeHintChanged, this, &DisclosureTriangleWithResize::contentChanged);
     sizeToState();
     animate_ = true;
 }
@@ -154,7 +154,7 @@ void DisclosureTriangleWithResize::awakeFromNib() {
 void DisclosureTriangleWithResize::observeValue(const QString& key) {
     if (key != valueBindingKeyPath_)
         return;
-    setChecked(NSUserDefaults::standardUserDefaults()->boolForKey(key));
+    setChecked(Preferences::standard()->boolForKey(key));
     sizeToState();
 }
 

@@ -6,12 +6,12 @@
 #include <QToolButton>
 #include <QVariantAnimation>
 
-class NSBox;
+class SectionBox;
 
 /// A triangle that folds and unfolds the box it sits in and lets the window follow. It sits in the content
-/// view of an NSBox; the box and the views beside it share one superview, which has no layout of its own. A
-/// triangle with a `binding` is tied to that boolean preference: the box follows the preference, wherever a
-/// change comes from.
+/// view of an SectionBox; the box and the views beside it share one superview, which has no layout of its
+/// own. A triangle with a `binding` is tied to that boolean preference: the box follows the preference,
+/// wherever a change comes from.
 class DisclosureTriangleWithResize : public QToolButton {
     Q_OBJECT
     Q_PROPERTY(QString binding MEMBER valueBindingKeyPath_)
@@ -19,8 +19,8 @@ class DisclosureTriangleWithResize : public QToolButton {
 public:
     explicit DisclosureTriangleWithResize(QWidget* parent = nullptr);
 
-    /// The box that the triangle folds. Throws NSInternalInconsistencyException outside of one.
-    NSBox* boxView() const;
+    /// The box that the triangle folds. Throws InternalInconsistencyException outside of one.
+    SectionBox* boxView() const;
 
     /// The box's neighbours whose bottom edge lies above (or below) the box's own, in the superview's order.
     QList<QWidget*> viewsInWindow(bool above) const;

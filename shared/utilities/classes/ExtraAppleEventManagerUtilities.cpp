@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shared/utilities/classes/ExtraAppleEventManagerUtilities.h"
 
-#include "shared/utilities/classes/ExtraStringUtilities.h"
+#include "shared/utilities/classes/ExtraStringSystemUtilities.h"
 
 std::int16_t ExtraAppleEventManagerUtilities::quickSend(Event event, const QString& toProcess) {
     const auto copy = ExtraStringUtilities::findProcess(toProcess);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/foundation/NSRange.h"
+#include "shared/utilities/classes/values/Range.h"
 
 #include <concepts>
 
@@ -93,7 +93,7 @@ bool isNotEqual(const T& object, const U& other) {
 
 /// The range over all of a string or collection.
 template <HasRange T>
-NSRange wholeRange(const T& object) {
+Range wholeRange(const T& object) {
     return {0, lengthOf(object)};
 }
 

@@ -1,28 +1,28 @@
 // SPDX-License-Identifier: MIT
 #include "shared/utilities/classes/ExtraSliderUtilities.h"
 
-#include "platform/appkit/NSSlider.h"
+#include "platform/layouts/Slider.h"
 
-void ExtraSliderUtilities::setReverseDoubleValue(NSSlider* slider, double value) {
+void ExtraSliderUtilities::setReverseDoubleValue(Slider* slider, double value) {
     slider->setDoubleValue(-value);
 }
 
-double ExtraSliderUtilities::reverseDoubleValue(const NSSlider* slider) {
+double ExtraSliderUtilities::reverseDoubleValue(const Slider* slider) {
     return -slider->doubleValue();
 }
 
-void ExtraSliderUtilities::setReverseMaxValue(NSSlider* slider, double value) {
+void ExtraSliderUtilities::setReverseMaxValue(Slider* slider, double value) {
     slider->setMinValue(-value);
 }
 
-double ExtraSliderUtilities::reverseMaxValue(const NSSlider* slider) {
+double ExtraSliderUtilities::reverseMaxValue(const Slider* slider) {
     return -slider->minValue();
 }
 
-void ExtraSliderUtilities::setReverseMinValue(NSSlider* slider, double value) {
+void ExtraSliderUtilities::setReverseMinValue(Slider* slider, double value) {
     slider->setMaxValue(-value);
 }
 
-double ExtraSliderUtilities::reverseMinValue(const NSSlider* slider) {
+double ExtraSliderUtilities::reverseMinValue(const Slider* slider) {
     return -slider->maxValue();
 }

@@ -1,20 +1,20 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-class NSSlider;
+class Slider;
 
 /// Values of a slider whose direction runs against their meaning: the reverse value is the negated value.
 namespace ExtraSliderUtilities {
 
-void setReverseDoubleValue(NSSlider* slider, double value);
-double reverseDoubleValue(const NSSlider* slider);
+void setReverseDoubleValue(Slider* slider, double value);
+double reverseDoubleValue(const Slider* slider);
 
 /// The largest reverse value, at the slider's minimum end.
-void setReverseMaxValue(NSSlider* slider, double value);
-double reverseMaxValue(const NSSlider* slider);
+void setReverseMaxValue(Slider* slider, double value);
+double reverseMaxValue(const Slider* slider);
 
 /// The smallest reverse value, at the slider's maximum end.
-void setReverseMinValue(NSSlider* slider, double value);
-double reverseMinValue(const NSSlider* slider);
+void setReverseMinValue(Slider* slider, double value);
+double reverseMinValue(const Slider* slider);
 
 } // namespace ExtraSliderUtilities

@@ -2,11 +2,11 @@
 #include "shared/utilities/classes/InternetConfig.h"
 
 #include "platform/browser/DefaultApplications.h"
-#include "platform/foundation/NSBundle.h"
-#include "platform/foundation/NSLog.h"
+#include "platform/bundle/Bundle.h"
+#include "platform/log/Log.h"
 #include "shared/utilities/classes/ExtraContainerUtilities.h"
-#include "shared/utilities/classes/ExtraStringUtilities.h"
-#include "shared/utilities/classes/ExtraURLUtilities.h"
+#include "shared/utilities/classes/values/ExtraStringUtilities.h"
+#include "shared/utilities/classes/values/ExtraURLUtilities.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -92,7 +92,7 @@ void openWith(const QString& application, const QString& address, const QString&
         statusOf(DefaultApplications::open(urlWithURLString(withScheme(address)), application));
     if (status == 0)
         return;
-    NSLog(QStringLiteral("InternetConfig %1").arg(kLaunchLine));
+    logLine(QStringLiteral("InternetConfig %1").arg(kLaunchLine));
     throw InternetConfigException(QStringLiteral("LSOpenFromURLSpec faiure.  Returned (%1) with URL <%2> "
                                                  "Browser <%3>.  -43 means 'File Not Found'.")
                                       .arg(QString::number(status), address, browser));
@@ -103,22 +103,22 @@ void openWith(const QString& application, const QString& address, const QString&
 std::function<void(const QString&, const QString&)> InternetConfig::showAlert = runAlert;
 
 InternetConfigException::InternetConfigException(const QString& reason)
-    : NSException(QStringLiteral("InternetConfigException"), reason) {
+    : Exception(QStringLiteral("InternetConfigException"), reason) {
 }
 
 void InternetConfig::launchURL(const QString& address) {
     try {
         InternetConfig().launchURL(address, QString());
     } catch (const std::exception& failure) {
-        NSLog(QString::fromUtf8(failure.what()));
+        logLine(QString::fromUtf8(failure.what()));
     }
 }
 
 QString InternetConfig::defaultBrowserForScheme(const QString& scheme) {
     const auto browser = DefaultApplications::forScheme(scheme.toLower());
     if (!browser) {
-        NSLog(QStringLiteral("-[InternetConfig defaultBrowserForScheme:] %1 error=%2")
-                  .arg(QString::number(kPreferenceLine), QString::number(kNoneNamed)));
+        logLine(QStringLiteral("-[InternetConfig defaultBrowserForScheme:] %1 error=%2")
+                    .arg(QString::number(kPreferenceLine), QString::number(kNoneNamed)));
         throw InternetConfigException(
             QStringLiteral("ICGetPref faiure.  Can't find default browser.  Returned %1").arg(kNoneNamed));
     }
@@ -140,7 +140,7 @@ void InternetConfig::launchURL(const QString& urlString, const QString& browser)
         chosen = defaultBrowserForScheme(scheme);
         if (isEmpty(chosen)) {
             if (DefaultApplications::openTheSystemsWay(address) != DefaultApplications::Outcome::Opened)
-                NSLog(QStringLiteral("Can't find default browser from LaunchServices or InternetConfig."));
+                logLine(QStringLiteral("Can't find default browser from LaunchServices or InternetConfig."));
             return;
         }
     }
@@ -152,7 +152,7 @@ void InternetConfig::launchURL(const QString& urlString, const QString& browser)
 }
 
 void InternetConfig::browserNotFound(const QString& address, const QString& browser, const QString& scheme) {
-    const NSBundle& bundle = NSBundle::mainBundle();
+    const Bundle& bundle = Bundle::main();
     showAlert(bundle.localizedString(QT_TRANSLATE_NOOP("Lumivane", "Browser not found.")),
               bundle.localizedString(QT_TRANSLATE_NOOP("Lumivane", "url: <%1>, browser: <%2>"))
                   .arg(address, browser));

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/foundation/NSException.h"
+#include "shared/utilities/classes/values/Exception.h"
 
 #include <QString>
 
 #include <functional>
 
 /// A launch that could not be done: no application is named for the scheme, or it failed to open the address.
-class InternetConfigException : public NSException {
+class InternetConfigException : public Exception {
 public:
     explicit InternetConfigException(const QString& reason);
 };

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "shared/utilities/classes/NSImageUtilities.h"
 
-#include "platform/foundation/NSBundle.h"
-#include "platform/foundation/NSLog.h"
-#include "platform/foundation/RegularFile.h"
+#include "platform/bundle/Bundle.h"
+#include "platform/files/RegularFile.h"
+#include "platform/log/Log.h"
 
 #include <QBuffer>
 #include <QImageReader>
@@ -31,7 +31,7 @@ void logOnce(const QString& name, const QString& reason) {
     static QSet<QString> told;
     if (!told.contains(name)) {
         told.insert(name);
-        NSLog(reason);
+        logLine(reason);
     }
 }
 
@@ -43,10 +43,9 @@ int between(int from, int to, double fraction) {
 
 QImage NSImageUtilities::imageNamed(const QString& name) {
     QString error;
-    QByteArray bytes =
-        RegularFile::read(NSBundle::mainBundle().resourcePath() + u'/' + name + QStringLiteral(".png"),
-                          kLargestFile, &error)
-            .value_or(QByteArray());
+    QByteArray bytes = RegularFile::read(Bundle::main().resourcePath() + u'/' + name + QStringLiteral(".png"),
+                                         kLargestFile, &error)
+                           .value_or(QByteArray());
     QBuffer file(&bytes);
     // With its format named, the reader does not load every format's plugin to ask whether it is that one's.
     QImageReader reader(&file, "png");
@@ -81,7 +80,7 @@ QImage NSImageUtilities::imageOfSize(const QImage& image, const QSize& size) {
 QImage NSImageUtilities::tintTo(const QImage& image, const QColor& colour, float brightness) {
     QImage result = image.convertToFormat(QImage::Format_ARGB32);
     if (result.isNull()) {
-        NSLog(QStringLiteral("Couldn't get TIFFRepresentation from image."));
+        logLine(QStringLiteral("Couldn't get TIFFRepresentation from image."));
         return image;
     }
     const double middle =

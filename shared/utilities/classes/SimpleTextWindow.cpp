@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shared/utilities/classes/SimpleTextWindow.h"
 
-#include "platform/appkit/NSNib.h"
+#include "platform/layouts/Layout.h"
 #include "shared/utilities/classes/ExtraContainerUtilities.h"
 #include "shared/utilities/classes/InternetConfig.h"
 
@@ -40,8 +40,8 @@ SimpleTextWindow* SimpleTextWindow::freeTextWindowFromAttributedString(const QTe
 
 bool SimpleTextWindow::awakeFromNib(QString* error) {
     QPushButton* okButton = nullptr;
-    if (!NSNib::connectOutlet(window(), "text_", text_, error) ||
-        !NSNib::connectOutlet(window(), "okButton_", okButton, error))
+    if (!Layout::connectOutlet(window(), "text_", text_, error) ||
+        !Layout::connectOutlet(window(), "okButton_", okButton, error))
         return false;
     connect(text_, &QTextBrowser::anchorClicked,
             [](const QUrl& link) { InternetConfig::launchURL(link.toString(QUrl::FullyEncoded)); });

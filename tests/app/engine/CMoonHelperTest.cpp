@@ -3,8 +3,8 @@
 
 #include "app/engine/CMoon.h"
 #include "app/engine/CRiseSet.h"
-#include "platform/foundation/NSUserDefaults.h"
-#include "shared/utilities/classes/ExtraDateUtilities.h"
+#include "platform/preferences/Preferences.h"
+#include "shared/utilities/classes/values/ExtraDateUtilities.h"
 #include "tests/TestMain.h"
 
 #include <limits>
@@ -17,7 +17,7 @@ namespace {
 class CMoonHelperTest : public testing::Test {
 protected:
     void set(const char* key, float value) {
-        NSUserDefaults::standardUserDefaults()->setFloat(value, QLatin1String(key));
+        Preferences::standard()->setFloat(value, QLatin1String(key));
         keys_.append(QLatin1String(key));
     }
     void setZone(int type, float customHours = 0.0F) {
@@ -30,7 +30,7 @@ protected:
     }
     void TearDown() override {
         for (const QString& key : std::as_const(keys_))
-            NSUserDefaults::standardUserDefaults()->removeObjectForKey(key);
+            Preferences::standard()->removeObjectForKey(key);
     }
 
 private:
@@ -45,7 +45,7 @@ std::uint32_t seconds(const QDateTime& date) {
 
 TEST_F(CMoonHelperTest, ZoneTypesShiftAMoment) {
     const InZone newYork("America/New_York");
-    const NSDate::Hold summer(gmt(2026, 7, 1));
+    const Clock::Hold summer(gmt(2026, 7, 1));
     const std::uint32_t winterMoment = seconds(gmt(2026, 1, 1, 12));
     const auto shift = [&] {
         return static_cast<std::int32_t>(CMoon::GMTToZone(winterMoment) - winterMoment);
@@ -75,7 +75,7 @@ TEST_F(CMoonHelperTest, CalendarReadingsOfAMoment) {
     EXPECT_EQ(ExtraDateUtilities::carbonSecondsGMT(gmt(1970, 1, 1)), 2082844800u);
 
     const InZone newYork("America/New_York");
-    const NSDate::Hold winter(gmt(2026, 1, 15));
+    const Clock::Hold winter(gmt(2026, 1, 15));
     date = {};
     CMoonHelper::SecondsToMoonDate(moment, date);
     EXPECT_EQ(date.hour, 18) << "the present offset is taken off and the zone's put on again";
@@ -118,7 +118,7 @@ TEST_F(CMoonHelperTest, TemplatesAndDurations) {
 
 TEST_F(CMoonHelperTest, SystemOffsetCountsTwiceInTheRequestsDate) {
     const InZone newYork("America/New_York");
-    const NSDate::Hold winter(gmt(2026, 1, 15));
+    const Clock::Hold winter(gmt(2026, 1, 15));
     setZone(kTimeZoneSystem);
     setPlace(40.7F, -74.0F);
     const auto dayAsked = [](int localHour) {

@@ -2,8 +2,8 @@
 #include "app/engine/CMoon.h"
 
 #include "app/engine/CMoonHelper.h"
-#include "platform/foundation/NSPropertyList.h"
-#include "shared/utilities/classes/ExtraDateUtilities.h"
+#include "platform/bundle/PropertyList.h"
+#include "shared/utilities/classes/values/ExtraDateUtilities.h"
 #include "tests/TestMain.h"
 
 #include <QFile>
@@ -41,7 +41,7 @@ TEST_F(CMoonTest, PhaseTimesAreThoseOfTheSeries) {
     EXPECT_NEAR(CMoon::moonphase(544.75, 3), 2467636.49186, 0.0003);
 
     const InZone newYork("America/New_York");
-    const NSDate::Hold winter(gmt(2026, 1, 1));
+    const Clock::Hold winter(gmt(2026, 1, 1));
     EXPECT_EQ(CMoon::TimeOfPhase(953, 0), 3030027285u - 18000u);
     EXPECT_EQ(CMoon::GMTTimeOfPhase(953, 0), 3030027285u);
 }
@@ -94,7 +94,7 @@ TEST_F(CMoonTest, DamagedTablesAreToldAndReplaced) {
     }
     const auto complaintOn = [&](const QVariant& table) {
         QString error;
-        EXPECT_TRUE(NSPropertyList::write(table, path, &error)) << qPrintable(error);
+        EXPECT_TRUE(PropertyList::write(table, path, &error)) << qPrintable(error);
         const CaughtLog log;
         CMoon moon;
         moon.Init();

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/shell/ApplicationDelegate.h"
 
-#include "platform/foundation/NSBundle.h"
+#include "platform/bundle/Bundle.h"
 #include "tests/platform/autostart/TestAutostart.h"
 
 namespace {
@@ -49,7 +49,7 @@ TEST_F(DelegateLoginItems, AProgramOfAnotherNameStaysWhenSwitchedOff) {
 
 TEST_F(DelegateLoginItems, TheApplicationItselfIsMeantByNothing) {
     delegate_.toggleSetToStartup(std::nullopt);
-    EXPECT_EQ(paths(), QStringList{NSBundle::mainBundle().bundlePath()});
+    EXPECT_EQ(paths(), QStringList{Bundle::main().bundlePath()});
     EXPECT_TRUE(delegate_.alreadySetToStartup(std::nullopt));
     delegate_.toggleSetToStartup(std::nullopt);
     EXPECT_FALSE(delegate_.alreadySetToStartup(std::nullopt));

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "app/shell/ApplicationDelegate.h"
 
-#include "platform/foundation/NSUserDefaults.h"
+#include "platform/preferences/Preferences.h"
 #include "tests/TestMain.h"
 
 #include <gtest/gtest.h>
 
 TEST(ApplicationDelegateTest, APersonsFirstStartReadsTheDefaults) {
     const InZone newYork("America/New_York");
-    NSUserDefaults* defaults = NSUserDefaults::standardUserDefaults();
+    Preferences* defaults = Preferences::standard();
     defaults->setBool(true, SUAllowsAutomaticUpdatesKey);
     defaults->setBool(true, SUAutomaticallyUpdateKey);
     const ApplicationDelegate delegate;

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "app/shell/ApplicationDelegate.h"
 
-#include "platform/foundation/NSBundle.h"
-#include "platform/foundation/NSUserDefaults.h"
-#include "platform/update/SUUpdateAlert.h"
-#include "shared/utilities/classes/ExtraStringUtilities.h"
+#include "platform/bundle/Bundle.h"
+#include "platform/preferences/Preferences.h"
+#include "platform/updates/UpdateAlert.h"
+#include "shared/utilities/classes/ExtraStringSystemUtilities.h"
 #include "tests/FakeDesktop.h"
 #include "tests/TestMain.h"
-#include "tests/platform/update/FeedServer.h"
+#include "tests/platform/updates/FeedServer.h"
 
 #include <QApplication>
 
@@ -15,7 +15,7 @@ namespace {
 
 bool closeAlert() {
     for (QWidget* window : QApplication::topLevelWidgets()) {
-        if (auto* alert = qobject_cast<SUUpdateAlert*>(window); alert && alert->isVisible())
+        if (auto* alert = qobject_cast<UpdateAlert*>(window); alert && alert->isVisible())
             return alert->close();
     }
     return false;
@@ -37,13 +37,13 @@ TEST(ApplicationDelegateUpdates, AsksItsOwnFeedThroughTheSystemsProxy) {
     const WithEnvironment environment("https_proxy", "http://" + proxy.host("plain").toUtf8());
 
     const CaughtLog log;
-    NSUserDefaults::standardUserDefaults()->registerDefaults({{SUScheduledCheckIntervalKey, 604800}});
+    Preferences::standard()->registerDefaults({{SUScheduledCheckIntervalKey, 604800}});
     ApplicationDelegate delegate;
     delegate.initCheckForUpdateURL();
     delegate.forwardCheckForUpdate(nullptr);
     EXPECT_TRUE(waitFor(closeAlert)) << "the user asked, so the failure is told";
 
-    const NSBundle& bundle = NSBundle::mainBundle();
+    const Bundle& bundle = Bundle::main();
     const QString host = bundle.infoString(QStringLiteral("LVFeedHost"));
     EXPECT_EQ(proxy.requests(), QStringList(QStringLiteral("plain %1:443").arg(host)));
     const QString url = ApplicationDelegate::feedURLString(
@@ -65,7 +65,7 @@ TEST(ApplicationDelegateUpdates, AnAddressThatNobodyMeantIsNone) {
 TEST(ApplicationDelegateUpdates, TheServerGetsTheQueryAsItIsBuilt) {
     FeedServer server;
     ApplicationDelegate delegate;
-    SUUpdater updater;
+    UpdateChecker updater;
     updater.setDelegate(&delegate);
     updater.setFeedURL(ApplicationDelegate::feedURL(
         ApplicationDelegate::feedURLString(server.host(), QStringLiteral("100"), QStringLiteral("604800"),

@@ -6,12 +6,12 @@
 #include "app/shell/ApplicationDelegate.h"
 #include "app/ui/LumivaneStatusItem.h"
 #include "app/ui/LumivaneWindow.h"
-#include "platform/appkit/NSDatePicker.h"
-#include "platform/appkit/NSSlider.h"
-#include "platform/foundation/NSUserDefaults.h"
-#include "shared/utilities/classes/ExtraDateUtilities.h"
+#include "platform/layouts/DatePicker.h"
+#include "platform/layouts/Slider.h"
+#include "platform/preferences/Preferences.h"
 #include "shared/utilities/classes/ExtraSliderUtilities.h"
 #include "shared/utilities/classes/InternetConfig.h"
+#include "shared/utilities/classes/values/ExtraDateUtilities.h"
 #include "tests/FakeDesktop.h"
 #include "tests/TestMain.h"
 
@@ -58,12 +58,13 @@ protected:
             defaults()->removeObjectForKey(QLatin1String(key));
     }
 
-    static NSUserDefaults* defaults() { return NSUserDefaults::standardUserDefaults(); }
+    static Preferences* defaults() { return Preferences::standard(); }
 
     void load() {
-        controller_ = LumivaneWindowController::lumivaneWindowController();
-        picker_ = controller_->window()->findChild<NSDatePicker*>();
-        slider_ = controller_->window()->findChild<NSSlider*>(QStringLiteral("lunationSlider_"));
+        controller_ =
+            LumivaneWindowController::lumivaneWindowController(delegate_, LumivaneWindow::kBorderlessMask);
+        picker_ = controller_->window()->findChild<DatePicker*>();
+        slider_ = controller_->window()->findChild<Slider*>(QStringLiteral("lunationSlider_"));
     }
 
     void setZone(const Zone& zone) {
@@ -94,8 +95,8 @@ protected:
     const InZone zone_{"America/New_York"};
     ApplicationDelegate delegate_;
     std::unique_ptr<LumivaneWindowController> controller_;
-    NSDatePicker* picker_ = nullptr;
-    NSSlider* slider_ = nullptr;
+    DatePicker* picker_ = nullptr;
+    Slider* slider_ = nullptr;
 };
 
 } // namespace
@@ -109,7 +110,7 @@ TEST_F(LumivaneWindowControllerTest, WhatIsSetComesBackAndStepsAreExactInEveryZo
     while (moments.size() < 1000)
         moments.append(inTable(random));
     for (const QDateTime& now : {gmt(2026, 7, 1), gmt(2026, 12, 1)}) {
-        const NSDate::Hold present(now);
+        const Clock::Hold present(now);
         for (const Zone& zone :
              {Zone{1, 0}, Zone{2, 0}, Zone{3, 5.5F}, Zone{3, -3.75F}, Zone{3, 12.75F}, Zone{3, -1000.0F}}) {
             setZone(zone);
@@ -129,7 +130,7 @@ TEST_F(LumivaneWindowControllerTest, WhatIsSetComesBackAndStepsAreExactInEveryZo
 }
 
 TEST_F(LumivaneWindowControllerTest, EveryControlStopsAtTheTablesEnds) {
-    const NSDate::Hold present(gmt(2026, 7, 1));
+    const Clock::Hold present(gmt(2026, 7, 1));
     const std::uint32_t first = firstMoment();
     const std::uint32_t last = lastMoment();
     for (const Zone& zone : {Zone{1, 0}, Zone{2, 0}, Zone{3, 12.75F}, Zone{3, -3.75F}, Zone{3, 1000.0F},
@@ -179,7 +180,7 @@ TEST_F(LumivaneWindowControllerTest, EveryControlStopsAtTheTablesEnds) {
 }
 
 TEST_F(LumivaneWindowControllerTest, QuartersAndLunationsAreThoseOfTheDisplayedDate) {
-    const NSDate::Hold present(gmt(2026, 7, 1));
+    const Clock::Hold present(gmt(2026, 7, 1));
     const tLunation* lunation = gMoon.FindLunationAtIndex(1076);
     const auto from = [&](std::uint32_t moment) { controller_->setDatePickerGMTSeconds(moment); };
     const std::uint32_t quarters[]{lunation->newMoon, lunation->firstQuarter, lunation->fullMoon,
@@ -205,7 +206,7 @@ TEST_F(LumivaneWindowControllerTest, QuartersAndLunationsAreThoseOfTheDisplayedD
 }
 
 TEST_F(LumivaneWindowControllerTest, AnotherZoneKeepsThePickerAndMovesTheMoment) {
-    const NSDate::Hold present(gmt(2026, 7, 1));
+    const Clock::Hold present(gmt(2026, 7, 1));
     setZone({2, 0});
     const std::uint32_t moment = seconds(gmt(2026, 2, 1, 12));
     controller_->setDatePickerGMTSeconds(moment);
@@ -235,7 +236,7 @@ TEST_F(LumivaneWindowControllerTest, AnotherZoneKeepsThePickerAndMovesTheMoment)
 TEST_F(LumivaneWindowControllerTest, AClockOutsideTheTableIsToldUntilTheNextMove) {
     for (const auto& [clock, end] :
          {std::pair{gmt(2045, 6, 1), lastMoment()}, std::pair{gmt(1910, 1, 1), firstMoment()}}) {
-        const NSDate::Hold present(clock);
+        const Clock::Hold present(clock);
         load();
         for (const auto move :
              {&LumivaneWindowController::addTagToDatePicker, &LumivaneWindowController::clockChanged,
@@ -253,7 +254,7 @@ TEST_F(LumivaneWindowControllerTest, AClockOutsideTheTableIsToldUntilTheNextMove
 }
 
 TEST_F(LumivaneWindowControllerTest, AChangedLineIsDarkRedForOneUpdate) {
-    const NSDate::Hold present(gmt(2026, 7, 1));
+    const Clock::Hold present(gmt(2026, 7, 1));
     load();
     const auto isRed = [this](const char* name) {
         const QLabel* label = field(name);
@@ -345,15 +346,15 @@ protected:
         QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
     }
 
-    LumivaneStatusItem item_;
+    LumivaneStatusItem item_{delegate_};
 };
 
 } // namespace
 
 TEST_F(PanelOfTheItem, CopiesThePresentWhileItIsHidden) {
-    const NSDate::Hold present(NSDate::date().addDays(40));
+    const Clock::Hold present(Clock::now().addDays(40));
     choose("copyAction_");
-    const QString lunation = QStringLiteral("Lunation %1").arg(gMoon.GetLunation(seconds(NSDate::date())));
+    const QString lunation = QStringLiteral("Lunation %1").arg(gMoon.GetLunation(seconds(Clock::now())));
     EXPECT_TRUE(QApplication::clipboard()->text().contains(lunation)) << "it was loaded forty days earlier";
 }
 

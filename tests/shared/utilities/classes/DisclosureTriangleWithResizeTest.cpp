@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "shared/utilities/classes/DisclosureTriangleWithResize.h"
 
-#include "platform/appkit/NSBox.h"
-#include "platform/foundation/NSException.h"
-#include "platform/foundation/NSUserDefaults.h"
-#include "tests/platform/appkit/PrivateBus.h"
+#include "platform/layouts/SectionBox.h"
+#include "platform/preferences/Preferences.h"
+#include "shared/utilities/classes/values/Exception.h"
+#include "tests/platform/PrivateBus.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -34,7 +34,7 @@ public:
 class DisclosureTriangleWithResizeTest : public testing::Test {
 protected:
     struct Section {
-        NSBox* box;
+        SectionBox* box;
         DisclosureTriangleWithResize* triangle;
         QLineEdit* field;
     };
@@ -54,10 +54,10 @@ protected:
     }
     ~DisclosureTriangleWithResizeTest() override { defaults()->removeObjectForKey(kKey); }
 
-    static NSUserDefaults* defaults() { return NSUserDefaults::standardUserDefaults(); }
+    static Preferences* defaults() { return Preferences::standard(); }
 
     Section section(bool bound) {
-        auto* box = new NSBox(&content_);
+        auto* box = new SectionBox(&content_);
         auto* view = new QWidget(box);
         auto* triangle = new DisclosureTriangleWithResize;
         triangle->setStyle(&style_);
@@ -199,7 +199,7 @@ TEST(DisclosureTriangleWithResize, BelongsInABox) {
         try {
             (void)triangle->boxView();
             ADD_FAILURE() << "nothing raised";
-        } catch (const NSInternalInconsistencyException& failure) {
+        } catch (const InternalInconsistencyException& failure) {
             EXPECT_TRUE(failure.reason().startsWith(u"DisclosureTriangle needs to be in an NSBox."))
                 << failure.what();
         }

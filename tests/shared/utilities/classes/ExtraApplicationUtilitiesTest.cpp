@@ -2,7 +2,7 @@
 #include "shared/utilities/classes/ExtraApplicationUtilities.h"
 
 #include "platform/system/SystemVersion.h"
-#include "shared/utilities/classes/ExtraStringUtilities.h"
+#include "shared/utilities/classes/ExtraStringSystemUtilities.h"
 
 #include <gtest/gtest.h>
 

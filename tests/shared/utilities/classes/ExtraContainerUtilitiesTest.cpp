@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shared/utilities/classes/ExtraContainerUtilities.h"
 
-#include "shared/utilities/classes/ExtraURLUtilities.h"
+#include "shared/utilities/classes/values/ExtraURLUtilities.h"
 
 #include <QImage>
 #include <QLabel>

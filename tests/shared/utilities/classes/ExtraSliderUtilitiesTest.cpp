@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shared/utilities/classes/ExtraSliderUtilities.h"
 
-#include "platform/appkit/NSSlider.h"
+#include "platform/layouts/Slider.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -31,7 +31,7 @@ protected:
         QApplication::sendEvent(&slider, &down);
     }
 
-    NSSlider slider;
+    Slider slider;
 };
 
 } // namespace

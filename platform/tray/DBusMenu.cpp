@@ -1,0 +1,352 @@
+// SPDX-License-Identifier: MIT
+#include "platform/tray/DBusMenu.h"
+
+#include <QActionEvent>
+#include <QActionGroup>
+#include <QDBusMetaType>
+#include <QGuiApplication>
+
+#include <utility>
+
+namespace {
+
+/// Qt marks a mnemonic with '&', the bus with '_'; each doubles its own mark to mean the character.
+QString withUnderscores(const QString& text) {
+    QString label;
+    bool marked = false;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        if (text[i] == u'_') {
+            label += u"__";
+        } else if (text[i] != u'&') {
+            label += text[i];
+        } else if (i + 1 < text.size() && text[i + 1] == u'&') {
+            label += text[i++];
+        } else if (!std::exchange(marked, true)) {
+            label += u'_';
+        }
+    }
+    return label;
+}
+
+/// The keys of a shortcut as the bus has them: for each press its modifiers and then the key, by GTK's names.
+QList<QStringList> keysOf(const QKeySequence& shortcut) {
+    QList<QStringList> presses;
+    for (int i = 0; i < shortcut.count(); ++i) {
+        QStringList press;
+        for (const auto& [modifier, name] :
+             {std::pair{Qt::ControlModifier, "Control"}, std::pair{Qt::AltModifier, "Alt"},
+              std::pair{Qt::ShiftModifier, "Shift"}, std::pair{Qt::MetaModifier, "Super"}}) {
+            if (shortcut[i].keyboardModifiers().testFlag(modifier))
+                press.append(QLatin1String(name));
+        }
+        press.append(QKeySequence(shortcut[i].key()).toString(QKeySequence::PortableText).toLower());
+        presses.append(press);
+    }
+    return presses;
+}
+
+QVariantMap allProperties(const QAction& action) {
+    if (action.isSeparator())
+        return {{QStringLiteral("type"), QStringLiteral("separator")},
+                {QStringLiteral("visible"), action.isVisible()}};
+    QVariantMap properties{{QStringLiteral("label"), withUnderscores(action.text())},
+                           {QStringLiteral("enabled"), action.isEnabled()},
+                           {QStringLiteral("visible"), action.isVisible()}};
+    if (action.isCheckable()) {
+        const bool radio = action.actionGroup() && action.actionGroup()->isExclusive();
+        properties.insert(QStringLiteral("toggle-type"),
+                          radio ? QStringLiteral("radio") : QStringLiteral("checkmark"));
+        properties.insert(QStringLiteral("toggle-state"), action.isChecked() ? 1 : 0);
+    }
+    if (!action.shortcut().isEmpty() && action.isShortcutVisibleInContextMenu())
+        properties.insert(QStringLiteral("shortcut"), QVariant::fromValue(keysOf(action.shortcut())));
+    if (action.menu())
+        properties.insert(QStringLiteral("children-display"), QStringLiteral("submenu"));
+    return properties;
+}
+
+const QStringList& propertyNames() {
+    static const QStringList names{QStringLiteral("type"),        QStringLiteral("label"),
+                                   QStringLiteral("enabled"),     QStringLiteral("visible"),
+                                   QStringLiteral("toggle-type"), QStringLiteral("toggle-state"),
+                                   QStringLiteral("shortcut"),    QStringLiteral("children-display")};
+    return names;
+}
+
+} // namespace
+
+QDBusArgument& operator<<(QDBusArgument& argument, const DBusMenuLayout& layout) {
+    argument.beginStructure();
+    argument << layout.id << layout.properties;
+    argument.beginArray(QMetaType::fromType<QDBusVariant>());
+    for (const DBusMenuLayout& child : layout.children)
+        argument << QDBusVariant(QVariant::fromValue(child));
+    argument.endArray();
+    argument.endStructure();
+    return argument;
+}
+
+const QDBusArgument& operator>>(const QDBusArgument& argument, DBusMenuLayout& layout) {
+    argument.beginStructure();
+    argument >> layout.id >> layout.properties;
+    argument.beginArray();
+    while (!argument.atEnd()) {
+        QDBusVariant child;
+        argument >> child;
+        layout.children.append(qdbus_cast<DBusMenuLayout>(child.variant()));
+    }
+    argument.endArray();
+    argument.endStructure();
+    return argument;
+}
+
+QDBusArgument& operator<<(QDBusArgument& argument, const DBusMenuItem& item) {
+    argument.beginStructure();
+    argument << item.id << item.properties;
+    argument.endStructure();
+    return argument;
+}
+
+const QDBusArgument& operator>>(const QDBusArgument& argument, DBusMenuItem& item) {
+    argument.beginStructure();
+    argument >> item.id >> item.properties;
+    argument.endStructure();
+    return argument;
+}
+
+QDBusArgument& operator<<(QDBusArgument& argument, const DBusMenuItemKeys& keys) {
+    argument.beginStructure();
+    argument << keys.id << keys.names;
+    argument.endStructure();
+    return argument;
+}
+
+const QDBusArgument& operator>>(const QDBusArgument& argument, DBusMenuItemKeys& keys) {
+    argument.beginStructure();
+    argument >> keys.id >> keys.names;
+    argument.endStructure();
+    return argument;
+}
+
+QDBusArgument& operator<<(QDBusArgument& argument, const DBusMenuEvent& event) {
+    argument.beginStructure();
+    argument << event.id << event.name << event.data << event.timestamp;
+    argument.endStructure();
+    return argument;
+}
+
+const QDBusArgument& operator>>(const QDBusArgument& argument, DBusMenuEvent& event) {
+    argument.beginStructure();
+    argument >> event.id >> event.name >> event.data >> event.timestamp;
+    argument.endStructure();
+    return argument;
+}
+
+DBusMenu::DBusMenu(QObject* parent) : QObject(parent) {
+    qDBusRegisterMetaType<DBusMenuLayout>();
+    qDBusRegisterMetaType<DBusMenuItem>();
+    qDBusRegisterMetaType<QList<DBusMenuItem>>();
+    qDBusRegisterMetaType<DBusMenuItemKeys>();
+    qDBusRegisterMetaType<QList<DBusMenuItemKeys>>();
+    qDBusRegisterMetaType<DBusMenuEvent>();
+    qDBusRegisterMetaType<QList<DBusMenuEvent>>();
+    qDBusRegisterMetaType<QList<QStringList>>();
+}
+
+DBusMenu::~DBusMenu() = default;
+
+void DBusMenu::setMenu(QMenu* menu) {
+    if (menu_ == menu)
+        return;
+    if (menu_)
+        menu_->removeEventFilter(this);
+    menu_ = menu;
+    changedMenus_.insert(0);
+    scheduleUpdate();
+}
+
+QString DBusMenu::textDirection() const {
+    return QGuiApplication::isRightToLeft() ? QStringLiteral("rtl") : QStringLiteral("ltr");
+}
+
+uint DBusMenu::GetLayout(int parentId, int recursionDepth, const QStringList& names, DBusMenuLayout& layout) {
+    if (isItem(parentId))
+        layout = layoutOf(parentId, recursionDepth, names);
+    else
+        refuse(parentId);
+    return revision_;
+}
+
+QList<DBusMenuItem> DBusMenu::GetGroupProperties(const QList<int>& ids, const QStringList& names) {
+    QList<DBusMenuItem> items;
+    for (const int id : ids.isEmpty() ? actions_.keys() : ids) {
+        if (isItem(id))
+            items.append({id, propertiesOf(id, names)});
+    }
+    return items;
+}
+
+QDBusVariant DBusMenu::GetProperty(int id, const QString& name) {
+    const QVariant value = isItem(id) ? propertiesOf(id, {}).value(name) : QVariant();
+    if (value.isValid())
+        return QDBusVariant(value);
+    refuse(id);
+    return QDBusVariant(QString());
+}
+
+void DBusMenu::Event(int id, const QString& eventId, const QDBusVariant&, uint) {
+    if (!handleEvent(id, eventId))
+        refuse(id);
+}
+
+QList<int> DBusMenu::EventGroup(const QList<DBusMenuEvent>& events) {
+    QList<int> unknown;
+    for (const DBusMenuEvent& event : events) {
+        if (!handleEvent(event.id, event.name))
+            unknown.append(event.id);
+    }
+    if (!events.isEmpty() && unknown.size() == events.size())
+        refuse(unknown.first());
+    return unknown;
+}
+
+bool DBusMenu::AboutToShow(int id) {
+    if (!isItem(id)) {
+        refuse(id);
+        return false;
+    }
+    return prepare(id);
+}
+
+QList<int> DBusMenu::AboutToShowGroup(const QList<int>& ids, QList<int>& idErrors) {
+    QList<int> changed;
+    for (const int id : ids) {
+        if (!isItem(id))
+            idErrors.append(id);
+        else if (prepare(id))
+            changed.append(id);
+    }
+    return changed;
+}
+
+bool DBusMenu::eventFilter(QObject* watched, QEvent* event) {
+    switch (event->type()) {
+    case QEvent::ActionAdded:
+    case QEvent::ActionRemoved:
+        changedMenus_.insert(idOf(static_cast<QMenu*>(watched)));
+        scheduleUpdate();
+        break;
+    case QEvent::ActionChanged:
+        changedItems_.insert(idOf(static_cast<QActionEvent*>(event)->action()));
+        scheduleUpdate();
+        break;
+    default:
+        break;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+bool DBusMenu::isItem(int id) const {
+    return id == 0 || actions_.contains(id);
+}
+
+int DBusMenu::idOf(QAction* action) {
+    int& id = ids_[action];
+    if (id == 0) {
+        id = ++lastId_;
+        actions_.insert(id, action);
+        connect(action, &QObject::destroyed, this, [this, action, gone = id] {
+            ids_.remove(action);
+            actions_.remove(gone);
+        });
+    }
+    return id;
+}
+
+int DBusMenu::idOf(QMenu* menu) {
+    return menu == menu_ ? 0 : idOf(menu->menuAction());
+}
+
+QMenu* DBusMenu::menuOf(int id) const {
+    if (id == 0)
+        return menu_;
+    QAction* const action = actions_.value(id);
+    return action ? action->menu() : nullptr;
+}
+
+/// Those properties of an item that `names` lists; all when it lists none.
+QVariantMap DBusMenu::propertiesOf(int id, const QStringList& names) const {
+    QVariantMap properties =
+        id == 0 ? QVariantMap{{QStringLiteral("children-display"), QStringLiteral("submenu")}}
+                : allProperties(*actions_.value(id));
+    if (!names.isEmpty())
+        properties.removeIf([&names](const auto& property) { return !names.contains(property.key()); });
+    return properties;
+}
+
+/// An item with `depth` generations below it, all of them when it is negative.
+DBusMenuLayout DBusMenu::layoutOf(int id, int depth, const QStringList& names) {
+    DBusMenuLayout layout{id, propertiesOf(id, names), {}};
+    QMenu* const menu = depth == 0 ? nullptr : menuOf(id);
+    if (!menu)
+        return layout;
+    menu->installEventFilter(this);
+    Q_EMIT menu->aboutToShow();
+    // This answer holds what the menu's owner changed just now; telling the host to ask again would go on
+    // for ever.
+    changedMenus_.remove(id);
+    const QList<QAction*> actions = menu->actions();
+    for (QAction* action : actions)
+        layout.children.append(layoutOf(idOf(action), depth - 1, names));
+    return layout;
+}
+
+bool DBusMenu::handleEvent(int id, const QString& name) {
+    if (!isItem(id))
+        return false;
+    QAction* const action = actions_.value(id);
+    // The host gets its answer first: what the action does may last as long as a dialog is open.
+    if (action && name == u"clicked")
+        QMetaObject::invokeMethod(action, &QAction::trigger, Qt::QueuedConnection);
+    return true;
+}
+
+/// Lets a menu's owner bring it up to date; whether that changed anything.
+bool DBusMenu::prepare(int id) {
+    QMenu* const menu = menuOf(id);
+    if (!menu)
+        return false;
+    menu->installEventFilter(this);
+    Q_EMIT menu->aboutToShow();
+    const bool changed = !changedItems_.isEmpty() || !changedMenus_.isEmpty();
+    sendUpdates();
+    return changed;
+}
+
+void DBusMenu::refuse(int id) {
+    if (calledFromDBus())
+        sendErrorReply(QDBusError::InvalidArgs, QStringLiteral("The menu has no such item: %1").arg(id));
+}
+
+void DBusMenu::scheduleUpdate() {
+    if (!std::exchange(updateScheduled_, true))
+        QMetaObject::invokeMethod(this, &DBusMenu::sendUpdates, Qt::QueuedConnection);
+}
+
+void DBusMenu::sendUpdates() {
+    updateScheduled_ = false;
+    QList<DBusMenuItem> updated;
+    QList<DBusMenuItemKeys> removed;
+    for (const int id : std::exchange(changedItems_, {})) {
+        if (!actions_.contains(id))
+            continue;
+        updated.append({id, propertiesOf(id, {})});
+        QStringList defaulted = propertyNames();
+        defaulted.removeIf([&](const QString& name) { return updated.last().properties.contains(name); });
+        removed.append({id, defaulted});
+    }
+    if (!updated.isEmpty())
+        Q_EMIT ItemsPropertiesUpdated(updated, removed);
+    if (const QSet<int> menus = std::exchange(changedMenus_, {}); !menus.isEmpty())
+        Q_EMIT LayoutUpdated(++revision_, menus.size() == 1 ? *menus.begin() : 0);
+}

@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+#include "platform/tray/XEmbedTray.h"
+
+#include "platform/windows/X11.h"
+
+#include <QGuiApplication>
+
+#include <cstdlib>
+
+namespace {
+
+QByteArray selectionName() {
+    char* host = nullptr;
+    int display = 0;
+    int screen = 0;
+    if (xcb_parse_display(nullptr, &host, &display, &screen))
+        std::free(host);
+    return "_NET_SYSTEM_TRAY_S" + QByteArray::number(screen);
+}
+
+} // namespace
+
+XEmbedTray::XEmbedTray(QObject* parent) : QObject(parent) {
+    connection_ = X11::connection();
+    if (!connection_)
+        return;
+    manager_ = atom("MANAGER");
+    selection_ = atom(selectionName());
+    qGuiApp->installNativeEventFilter(this);
+    findOwner();
+}
+
+XEmbedTray::~XEmbedTray() = default;
+
+xcb_atom_t XEmbedTray::atom(const QByteArray& name) const {
+    const auto cookie = xcb_intern_atom(connection_, false, name.size(), name.constData());
+    const auto answer = X11::owned(xcb_intern_atom_reply(connection_, cookie, nullptr));
+    return answer ? answer->atom : xcb_atom_t{XCB_ATOM_NONE};
+}
+
+void XEmbedTray::findOwner() {
+    const auto cookie = xcb_get_selection_owner(connection_, selection_);
+    const auto answer = X11::owned(xcb_get_selection_owner_reply(connection_, cookie, nullptr));
+    owner_ = answer ? answer->owner : xcb_window_t{XCB_NONE};
+    if (!isThere())
+        return;
+    // Asks for word of the window's end; an error says that it has come already.
+    const std::uint32_t mask = XCB_EVENT_MASK_STRUCTURE_NOTIFY;
+    const auto selected = xcb_change_window_attributes_checked(connection_, owner_, XCB_CW_EVENT_MASK, &mask);
+    if (X11::owned(xcb_request_check(connection_, selected)))
+        owner_ = XCB_NONE;
+}
+
+bool XEmbedTray::nativeEventFilter(const QByteArray& eventType, void* message, qintptr*) {
+    if (eventType != "xcb_generic_event_t")
+        return false;
+    const auto* const event = static_cast<const xcb_generic_event_t*>(message);
+    bool concernsTray = false;
+    switch (event->response_type & 0x7f) {
+    case XCB_CLIENT_MESSAGE: {
+        const auto* const sent = reinterpret_cast<const xcb_client_message_event_t*>(event);
+        concernsTray = sent->type == manager_ && sent->data.data32[1] == selection_;
+        break;
+    }
+    case XCB_DESTROY_NOTIFY:
+        concernsTray = reinterpret_cast<const xcb_destroy_notify_event_t*>(event)->window == owner_;
+        break;
+    default:
+        break;
+    }
+    if (concernsTray) {
+        // Later, when Qt has taken note of the event as well.
+        QMetaObject::invokeMethod(
+            this,
+            [this] {
+                findOwner();
+                Q_EMIT changed();
+            },
+            Qt::QueuedConnection);
+    }
+    return false;
+}

@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: MIT
+#include "platform/windows/Screen.h"
+
+#include "platform/windows/X11.h"
+
+#include <QScreen>
+
+#include <algorithm>
+#include <cmath>
+#include <string_view>
+#include <vector>
+
+namespace {
+
+constexpr std::uint32_t kMostWindows = 4096;
+
+xcb_atom_t atom(xcb_connection_t* connection, std::string_view name) {
+    const auto cookie =
+        xcb_intern_atom(connection, true, static_cast<std::uint16_t>(name.size()), name.data());
+    const auto answer = X11::owned(xcb_intern_atom_reply(connection, cookie, nullptr));
+    return answer ? answer->atom : xcb_atom_t{XCB_ATOM_NONE};
+}
+
+std::vector<std::uint32_t> numbers(xcb_connection_t* connection, xcb_get_property_cookie_t cookie) {
+    const auto answer = X11::owned(xcb_get_property_reply(connection, cookie, nullptr));
+    if (!answer || answer->format != 32)
+        return {};
+    const auto* const first = static_cast<const std::uint32_t*>(xcb_get_property_value(answer.get()));
+    return {first, first + answer->value_len};
+}
+
+/// What all windows reserve at the edges of the desktop, whose size is `desktop`.
+std::vector<Screen::Strut> struts(xcb_connection_t* connection, xcb_window_t root, const QSize& desktop) {
+    const xcb_atom_t name = atom(connection, "_NET_WM_STRUT_PARTIAL");
+    const xcb_atom_t list = atom(connection, "_NET_CLIENT_LIST");
+    const auto windows = numbers(
+        connection, xcb_get_property(connection, false, root, list, XCB_ATOM_WINDOW, 0, kMostWindows));
+    std::vector<xcb_get_property_cookie_t> questions;
+    questions.reserve(windows.size());
+    for (const xcb_window_t window : windows)
+        questions.push_back(xcb_get_property(connection, false, window, name, XCB_ATOM_CARDINAL, 0, 12));
+
+    std::vector<Screen::Strut> all;
+    const int right = desktop.width();
+    const int bottom = desktop.height();
+    for (const auto question : questions) {
+        // The depths at the left, right, top and bottom, then the first and the last pixel of each.
+        const std::vector<std::uint32_t> told = numbers(connection, question);
+        if (told.size() < 12)
+            continue;
+        const std::vector<int> n(told.begin(), told.end());
+        if (n[0] > 0)
+            all.push_back({Qt::LeftEdge, QRect(QPoint(0, n[4]), QPoint(n[0] - 1, n[5]))});
+        if (n[1] > 0)
+            all.push_back({Qt::RightEdge, QRect(QPoint(right - n[1], n[6]), QPoint(right - 1, n[7]))});
+        if (n[2] > 0)
+            all.push_back({Qt::TopEdge, QRect(QPoint(n[8], 0), QPoint(n[9], n[2] - 1))});
+        if (n[3] > 0)
+            all.push_back({Qt::BottomEdge, QRect(QPoint(n[10], bottom - n[3]), QPoint(n[11], bottom - 1))});
+    }
+    return all;
+}
+
+QRect withoutStruts(xcb_connection_t* connection, const QScreen* screen) {
+    const QRect whole = screen->geometry();
+    const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root;
+    const auto desktop =
+        X11::owned(xcb_get_geometry_reply(connection, xcb_get_geometry(connection, root), nullptr));
+    if (!desktop)
+        return whole;
+    // A scaled screen keeps its origin.
+    const qreal scale = screen->devicePixelRatio();
+    const QPoint origin = whole.topLeft();
+    const QRect native = Screen::without(struts(connection, root, QSize(desktop->width, desktop->height)),
+                                         QRect(origin, whole.size() * scale))
+                             .translated(-origin);
+    const auto inside = [scale](int edge, auto round) { return static_cast<int>(round(edge / scale)); };
+    const auto up = [](qreal number) { return std::ceil(number); };
+    const auto down = [](qreal number) { return std::floor(number); };
+    return QRect(QPoint(inside(native.left(), up), inside(native.top(), up)),
+                 QPoint(inside(native.right() + 1, down) - 1, inside(native.bottom() + 1, down) - 1))
+        .translated(origin);
+}
+
+} // namespace
+
+QRect Screen::without(const std::vector<Strut>& struts, const QRect& screen) {
+    QRect rest = screen;
+    for (const auto& [edge, taken] : struts) {
+        if (!taken.intersects(screen) || taken.contains(screen.center()))
+            continue;
+        switch (edge) {
+        case Qt::LeftEdge:
+            rest.setLeft(std::max(rest.left(), taken.right() + 1));
+            break;
+        case Qt::RightEdge:
+            rest.setRight(std::min(rest.right(), taken.left() - 1));
+            break;
+        case Qt::TopEdge:
+            rest.setTop(std::max(rest.top(), taken.bottom() + 1));
+            break;
+        case Qt::BottomEdge:
+            rest.setBottom(std::min(rest.bottom(), taken.top() - 1));
+            break;
+        }
+    }
+    return rest;
+}
+
+QRect Screen::visibleFrame(const QScreen* screen) {
+    xcb_connection_t* const connection = X11::connection();
+    if (connection && QGuiApplication::screens().size() > 1)
+        return withoutStruts(connection, screen);
+    return screen->availableGeometry() & screen->geometry();
+}

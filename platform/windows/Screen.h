@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QRect>
+
+#include <vector>
+
+class QScreen;
+
+/// What bars leave of a screen: as QScreen tells, and on X11 with several screens, where that knows nothing
+/// of bars, as the bars' windows tell.
+namespace Screen {
+
+/// The part of the screen that bars leave to windows, in Qt's coordinates (y downwards).
+QRect visibleFrame(const QScreen* screen);
+
+/// What a bar takes of the desktop at one of its edges. It reaches to the edge over what other screens lie
+/// between.
+struct Strut {
+    Qt::Edge edge = Qt::TopEdge;
+    QRect taken;
+};
+
+/// `screen` without the struts that lie at its own edges; one that takes its middle is another screen's. All
+/// in pixels of the desktop.
+QRect without(const std::vector<Strut>& struts, const QRect& screen);
+
+} // namespace Screen

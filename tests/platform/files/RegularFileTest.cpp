@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#include "platform/files/RegularFile.h"
+
+#include "app/engine/CMoon.h"
+#include "platform/bundle/PropertyList.h"
+#include "platform/layouts/Layout.h"
+#include "platform/log/Log.h"
+#include "shared/utilities/classes/NSImageUtilities.h"
+#include "tests/TestMain.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+TEST(RegularFile, ReadsNothingThatOnlyStandsInAFilesPlace) {
+    const QTemporaryDir folder;
+    const auto path = [&](const char* name) { return folder.filePath(QLatin1String(name)); };
+    QFile file(path("file"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("moon");
+    file.close();
+    QFile::link(path("file"), path("link"));
+    QFile::link(path("none"), path("dangling"));
+    QFile::link(QStringLiteral("/dev/zero"), path("device"));
+    QDir().mkpath(path("folder"));
+    ASSERT_EQ(mkfifo(qPrintable(path("pipe")), 0600), 0);
+
+    QString error;
+    for (const char* name : {"file", "link"})
+        EXPECT_EQ(RegularFile::read(path(name), 4, &error), "moon") << name;
+    EXPECT_EQ(error, QString());
+    EXPECT_EQ(RegularFile::read(path("file"), 3, &error), std::nullopt);
+    EXPECT_EQ(error, u"it is too large");
+    for (const char* name : {"folder", "pipe", "device"}) {
+        EXPECT_EQ(RegularFile::read(path(name), 1 << 20, &error), std::nullopt) << name;
+        EXPECT_EQ(error, u"it is no regular file") << name;
+        EXPECT_TRUE(RegularFile::isOtherThing(path(name))) << name;
+    }
+    for (const char* name : {"none", "dangling", ""}) {
+        EXPECT_EQ(RegularFile::read(path(name), 1 << 20, &error), std::nullopt) << name;
+        EXPECT_FALSE(RegularFile::isOtherThing(path(name)) && *name) << name;
+    }
+}
+
+TEST(RegularFile, NoResourceIsWaitedFor) {
+    const QTemporaryDir folder;
+    for (const char* name : {"Lunations.plist", "M07.png", "AskNumber.ui"})
+        ASSERT_EQ(mkfifo(qPrintable(folder.filePath(QLatin1String(name))), 0600), 0);
+    const WithEnvironment resources("LUMIVANE_RESOURCES", folder.path().toUtf8());
+    const CaughtLog log;
+    CMoon moon;
+    moon.Init();
+    EXPECT_TRUE(NSImageUtilities::imageNamed(QStringLiteral("M07")).isNull());
+    ASSERT_EQ(log.lines().size(), 2);
+    for (const QString& line : log.lines())
+        EXPECT_TRUE(line.contains(u"no regular file")) << qPrintable(line);
+    QString error;
+    EXPECT_FALSE(Layout::load(QStringLiteral("AskNumber"), nullptr, &error));
+    EXPECT_TRUE(error.contains(u"no regular file")) << qPrintable(error);
+}
+
+TEST(NSLog, AForeignTextIsOneVisibleLine) {
+    const CaughtLog log;
+    logLine(QStringLiteral("a\nb\x1b[31mc\u202ed\u2028\u0085 \u00e9 \u6708 \U0001F319"));
+    EXPECT_EQ(log.lines(), QStringList(QStringLiteral("a\\nb\\u001b[31mc\\u202ed\\u2028\\u0085 \u00e9 \u6708 "
+                                                      "\U0001F319")));
+}

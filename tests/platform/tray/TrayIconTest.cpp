@@ -1,0 +1,249 @@
+// SPDX-License-Identifier: MIT
+#include "platform/tray/TrayIcon.h"
+
+#include "platform/tray/StatusNotifierItem.h"
+#include "tests/TestMain.h"
+#include "tests/platform/PrivateBus.h"
+
+#include <QDBusConnectionInterface>
+#include <QDBusContext>
+#include <QMenu>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+const QString kWatcher = QStringLiteral("org.kde.StatusNotifierWatcher");
+const QString kWatcherPath = QStringLiteral("/StatusNotifierWatcher");
+const QString kItem = QStringLiteral("org.kde.StatusNotifierItem");
+const QString kItemPath = QStringLiteral("/StatusNotifierItem");
+
+/// A panel: watcher and host in one, on a connection of its own.
+class FakePanel : public QObject, protected QDBusContext {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.kde.StatusNotifierWatcher")
+    Q_PROPERTY(bool IsStatusNotifierHostRegistered READ hasHost)
+
+public:
+    explicit FakePanel(const QDBusConnection& connection, bool withHost = true)
+        : bus(connection), host(withHost) {
+        bus.registerObject(kWatcherPath, this, QDBusConnection::ExportScriptableContents);
+        bus.registerService(kWatcher);
+    }
+    ~FakePanel() override {
+        bus.unregisterObject(kWatcherPath);
+        bus.unregisterService(kWatcher);
+    }
+
+    bool hasHost() const { return host; }
+    void setHost(bool there) {
+        host = there;
+        there ? Q_EMIT StatusNotifierHostRegistered() : Q_EMIT StatusNotifierHostUnregistered();
+    }
+
+    QDBusPendingCall callItem(const char* method, int x, int y) {
+        return PrivateBus::send(bus, items.last(), kItemPath, kItem, QString::fromLatin1(method), {x, y});
+    }
+    QVariantMap itemProperties() {
+        return qdbus_cast<QVariantMap>(PrivateBus::call(bus, items.last(), kItemPath,
+                                                        QStringLiteral("org.freedesktop.DBus.Properties"),
+                                                        QStringLiteral("GetAll"), {kItem})
+                                           .arguments()
+                                           .value(0));
+    }
+
+    QDBusConnection bus;
+    bool host;
+    bool refuses = false;
+    QStringList items;
+
+public Q_SLOTS:
+    Q_SCRIPTABLE void RegisterStatusNotifierItem(const QString& service) {
+        if (refuses)
+            sendErrorReply(QDBusError::AccessDenied, QStringLiteral("No room"));
+        else
+            items.append(service);
+    }
+    void countNewIcon() { ++newIcons; }
+
+Q_SIGNALS:
+    Q_SCRIPTABLE void StatusNotifierHostRegistered();
+    Q_SCRIPTABLE void StatusNotifierHostUnregistered();
+
+public:
+    int newIcons = 0;
+};
+
+QImage picture(int size, const QColor& colour) {
+    QImage image(size, size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(colour);
+    return image;
+}
+
+class TrayIconTest : public testing::Test {
+protected:
+    TrayIconTest() {
+        QObject::connect(&item, &TrayIcon::shownChanged, &item, [this](bool now) { shown.append(now); });
+        QObject::connect(&item, &TrayIcon::clicked, &item, [this] { ++clicks; });
+    }
+
+    /// Brings the item up in a panel.
+    std::unique_ptr<FakePanel> panelWithItem() {
+        auto panel = std::make_unique<FakePanel>(bus.connect());
+        item.setImages({picture(16, Qt::red)});
+        EXPECT_TRUE(waitFor([this] { return item.isShown(); }));
+        EXPECT_EQ(panel->items.size(), 1);
+        return panel;
+    }
+
+    QStringList itemsOnTheBus() {
+        QStringList names = onlooker.interface()->registeredServiceNames().value();
+        names.removeIf([](const QString& name) { return !name.startsWith(kItem + u'-'); });
+        return names;
+    }
+
+    PrivateBus bus;
+    QDBusConnection onlooker = bus.connect();
+    TrayIcon item{QStringLiteral("moon"), QStringLiteral("Moon"), bus.connect()};
+    QList<bool> shown;
+    int clicks = 0;
+};
+
+} // namespace
+
+TEST_F(TrayIconTest, RegistersAndDescribesItself) {
+    QMenu menu;
+    item.setMenu(&menu);
+    item.setToolTip(QStringLiteral("Full moon"));
+    const auto panel = panelWithItem();
+    EXPECT_EQ(shown, QList<bool>{true});
+    EXPECT_EQ(itemsOnTheBus(), panel->items);
+
+    const QVariantMap properties = panel->itemProperties();
+    EXPECT_EQ(properties.value(QStringLiteral("Category")), QStringLiteral("ApplicationStatus"));
+    EXPECT_EQ(properties.value(QStringLiteral("Id")), QStringLiteral("moon"));
+    EXPECT_EQ(properties.value(QStringLiteral("Title")), QStringLiteral("Moon"));
+    EXPECT_EQ(properties.value(QStringLiteral("Status")), QStringLiteral("Active"));
+    EXPECT_EQ(properties.value(QStringLiteral("ItemIsMenu")), false);
+    EXPECT_EQ(qdbus_cast<DBusToolTip>(properties.value(QStringLiteral("ToolTip"))).title,
+              QStringLiteral("Full moon"));
+
+    // The menu is where the item says.
+    const auto path = properties.value(QStringLiteral("Menu")).value<QDBusObjectPath>().path();
+    const QDBusMessage layout =
+        PrivateBus::call(panel->bus, panel->items.last(), path, QStringLiteral("com.canonical.dbusmenu"),
+                         QStringLiteral("GetLayout"), {0, -1, QStringList()});
+    EXPECT_EQ(layout.type(), QDBusMessage::ReplyMessage);
+    item.setMenu(nullptr);
+    EXPECT_EQ(panel->itemProperties().value(QStringLiteral("Menu")).value<QDBusObjectPath>().path(),
+              QStringLiteral("/NO_DBUSMENU"));
+}
+
+TEST_F(TrayIconTest, GivesEverySizeInNetworkByteOrder) {
+    const auto panel = panelWithItem();
+    const QList<QImage> images{picture(2, QColor(255, 255, 0, 128)), picture(3, QColor(1, 2, 3))};
+    panel->bus.connect(panel->items.last(), kItemPath, kItem, QStringLiteral("NewIcon"), panel.get(),
+                       SLOT(countNewIcon()));
+    item.setImages(images);
+    item.setImages(images);
+    {
+        const CaughtLog log;
+        item.setImages({QImage()});
+        EXPECT_EQ(log.lines().size(), 1);
+    }
+    const QVariant pixmaps = panel->itemProperties().value(QStringLiteral("IconPixmap"));
+    EXPECT_EQ(pixmaps.value<QDBusArgument>().currentSignature(), QStringLiteral("a(iiay)"));
+    const auto given = qdbus_cast<QList<DBusImage>>(pixmaps);
+    ASSERT_EQ(given.size(), 2);
+    EXPECT_EQ(given[0].width, 2);
+    EXPECT_EQ(given[0].pixels, QByteArray::fromHex("80ffff00").repeated(4));
+    EXPECT_EQ(given[1].height, 3);
+    EXPECT_EQ(given[1].pixels, QByteArray::fromHex("ff010203").repeated(9));
+    settle(panel->bus);
+    EXPECT_EQ(panel->newIcons, 1);
+}
+
+TEST_F(TrayIconTest, SurvivesTheWatchersRestarts) {
+    auto panel = panelWithItem();
+    for (int restart = 0; restart < 20; ++restart) {
+        panel.reset();
+        settle(onlooker);
+        EXPECT_TRUE(itemsOnTheBus().isEmpty());
+        panel = std::make_unique<FakePanel>(bus.connect());
+        ASSERT_TRUE(waitFor([&] { return !panel->items.isEmpty(); })) << restart;
+        settle(onlooker);
+        EXPECT_EQ(panel->items.size(), 1);
+        EXPECT_EQ(itemsOnTheBus(), panel->items);
+    }
+    EXPECT_EQ(shown, QList<bool>{true});
+    panel->callItem("Activate", 20, 10);
+    EXPECT_TRUE(waitFor([this] { return clicks == 1; }));
+}
+
+TEST_F(TrayIconTest, WaitsForAHost) {
+    FakePanel panel(bus.connect(), false);
+    item.setImages({}); // nor does it need a picture to come up
+    settle(onlooker);
+    EXPECT_TRUE(itemsOnTheBus().isEmpty());
+    panel.setHost(true);
+    ASSERT_TRUE(waitFor([this] { return item.isShown(); }));
+    EXPECT_EQ(panel.items.size(), 1);
+    panel.setHost(false);
+    EXPECT_TRUE(waitFor([this] { return itemsOnTheBus().isEmpty(); }));
+}
+
+TEST_F(TrayIconTest, TellsThatThereIsNoTrayAndThatOneCame) {
+    item.setImages({picture(16, Qt::red)});
+    settle(onlooker);
+    EXPECT_TRUE(shown.isEmpty());
+    ASSERT_TRUE(waitFor([this] { return shown == QList<bool>{false}; }));
+    {
+        const FakePanel panel(bus.connect());
+        ASSERT_TRUE(waitFor([this] { return item.isShown(); }));
+    }
+    ASSERT_TRUE(waitFor([this] { return !item.isShown(); }));
+    EXPECT_EQ(shown, (QList<bool>{false, true, false}));
+
+    const CaughtLog log;
+    FakePanel panel(bus.connect());
+    panel.refuses = true;
+    ASSERT_TRUE(waitFor([&] { return !log.lines().isEmpty(); }));
+    EXPECT_FALSE(item.isShown());
+}
+
+TEST_F(TrayIconTest, KnowsWhereTheClickWas) {
+    const auto panel = panelWithItem();
+    EXPECT_FALSE(item.iconGeometry());
+
+    // The panel has its answer while the click is still being worked on.
+    std::optional<QDBusPendingCallWatcher> click;
+    std::optional<bool> answeredMeanwhile;
+    const auto working = QObject::connect(&item, &TrayIcon::clicked, &item, [&] {
+        answeredMeanwhile = waitFor([&] { return click->isFinished(); });
+    });
+    click.emplace(panel->callItem("Activate", 120, 3));
+    EXPECT_TRUE(waitFor([&] { return answeredMeanwhile.has_value(); }));
+    EXPECT_EQ(answeredMeanwhile, true);
+    QObject::disconnect(working);
+    EXPECT_EQ(item.iconGeometry(), QRect(120, 3, 1, 1));
+
+    // Some hosts tell nothing of use.
+    panel->callItem("Activate", 0, 0);
+    panel->callItem("Activate", -5000, 70000);
+    EXPECT_TRUE(waitFor([this] { return clicks == 3; }));
+    EXPECT_EQ(item.iconGeometry(), QRect(120, 3, 1, 1));
+}
+
+TEST_F(TrayIconTest, OpensTheMenuWhereTheHostAsksForIt) {
+    QMenu menu;
+    menu.addAction(QStringLiteral("Quit"));
+    item.setMenu(&menu);
+    const auto panel = panelWithItem();
+    panel->callItem("ContextMenu", 90, 40);
+    EXPECT_TRUE(waitFor([&] { return menu.isVisible(); }));
+    EXPECT_EQ(menu.pos(), QPoint(90, 40));
+    EXPECT_EQ(clicks, 0);
+    menu.hide();
+}
+
+#include "TrayIconTest.moc"
