@@ -139,8 +139,11 @@ void LumivaneWindow::paintEvent(QPaintEvent* event) {
     QWidget::paintEvent(event);
     if (styleMask_ != kBorderlessMask)
         return;
-    // Nothing else sets a borderless window off from what lies behind it.
+    // Nothing else sets a borderless window off from what lies behind it, be it as dark as the panel. A drawn
+    // outline would not lie on the edge where a point is several pixels.
+    QColor line = palette().color(QPalette::WindowText);
+    line.setAlphaF(0.25F);
     QPainter painter(this);
-    painter.setPen(palette().color(QPalette::Mid));
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    for (const QRect& side : QRegion(rect()) - rect().adjusted(1, 1, -1, -1))
+        painter.fillRect(side, line);
 }

@@ -25,7 +25,7 @@ class InstallTest(unittest.TestCase):
         subprocess.run(["cmake", "--install", BUILD, "--prefix", cls.prefix], check=True, stdout=subprocess.DEVNULL)
         # Tells its resources from those of the build.
         layout = cls.prefix / "share/lumivane/LumivaneWindow.ui"
-        layout.write_text(layout.read_text().replace("<string>Latitude:", "<string>Moved:"))
+        layout.write_text(layout.read_text().replace("<string>&amp;Latitude:", "<string>Moved:"))
         # The session's bus starts what the menu asks for.
         os.environ["XDG_DATA_DIRS"] = "{}:/usr/local/share:/usr/share".format(cls.prefix / "share")
         cls.desktop = Desktop()

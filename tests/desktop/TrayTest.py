@@ -21,7 +21,7 @@ class TrayTest(unittest.TestCase):
     def setUp(self):
         self.desktop.start(PROGRAM, tray=False)
         self.addCleanup(self.desktop.stop)
-        self.desktop.placed(wait_for("the utility window", self.desktop.window))
+        self.desktop.resting(wait_for("the utility window", self.desktop.window))
 
     def test_late_tray_takes_the_program_in(self):
         self.assertTrue(self.desktop.line("Moon is "))

@@ -28,7 +28,11 @@ def leave_root(program):
     os.makedirs("/tmp/.X11-unix", exist_ok=True)
     os.chmod("/tmp/.X11-unix", 0o1777)
     folder = tempfile.mkdtemp(prefix="lumivane-stage-")
-    shutil.copytree(pathlib.Path(program).parent.parent, folder, dirs_exist_ok=True)
+    staged = pathlib.Path(program).parent.parent
+    shutil.copytree(staged, folder, dirs_exist_ok=True)
+    # They name the program by its absolute path.
+    for entry in pathlib.Path(folder, "share/applications").iterdir():
+        entry.write_text(entry.read_text().replace(str(staged), folder))
     for path in [folder, *pathlib.Path(folder).rglob("*")]:
         os.chown(path, user.pw_uid, user.pw_gid)
     os.setgroups([])
