@@ -209,8 +209,9 @@ void DisclosureTriangleWithResize::paintEvent(QPaintEvent*) {
     style()->drawPrimitive(isChecked() ? QStyle::PE_IndicatorArrowDown : folded, &triangle, &painter, this);
     const bool underlines = style()->styleHint(QStyle::SH_UnderlineShortcut, &option, this) != 0;
     const int mnemonic = underlines ? Qt::TextShowMnemonic : Qt::TextHideMnemonic;
-    style()->drawItemText(&painter, text, Qt::AlignVCenter | Qt::AlignLeading | mnemonic, option.palette,
-                          isEnabled(), this->text(), foregroundRole());
+    const auto alignment = static_cast<int>(Qt::AlignVCenter | Qt::AlignLeading);
+    style()->drawItemText(&painter, text, alignment | mnemonic, option.palette, isEnabled(), this->text(),
+                          foregroundRole());
     if (hasFocus()) {
         QStyleOptionFocusRect focus;
         focus.initFrom(this);
