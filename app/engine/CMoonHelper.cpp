@@ -2,6 +2,7 @@
 #include "app/engine/CMoonHelper.h"
 
 #include "app/engine/CRiseSet.h"
+#include "app/engine/PreferenceKeys.h"
 #include "platform/bundle/Bundle.h"
 #include "platform/locale/Calendar.h"
 #include "platform/locale/TimeZone.h"
@@ -135,11 +136,11 @@ std::uint32_t CMoonHelper::MoonDateToGMTSeconds(const tMoonDate& date) {
 }
 
 int CMoonHelper::prefZoneType() {
-    return Preferences::standard()->integerForKey(QStringLiteral("LVTimeZoneType"));
+    return Preferences::standard()->value(PreferenceKeys::timeZoneType);
 }
 
 float CMoonHelper::prefCustomZoneGMTOffset() {
-    return Preferences::standard()->floatForKey(QStringLiteral("LVTimeZoneCustomGMTOffset"));
+    return Preferences::standard()->value(PreferenceKeys::customOffset);
 }
 
 int CMoonHelper::prefZoneOffset() {
@@ -189,8 +190,8 @@ void CMoonHelper::BuildRiseSetBlock(std::uint32_t seconds, tRiseSetCalcParamBloc
     block.month = date.month;
     block.year = date.year;
     const Preferences* defaults = Preferences::standard();
-    block.longitude = static_cast<double>(defaults->floatForKey(QStringLiteral("LVLongitude")));
-    block.latitude = static_cast<double>(defaults->floatForKey(QStringLiteral("LVLatitude")));
+    block.longitude = static_cast<double>(defaults->value(PreferenceKeys::longitude));
+    block.latitude = static_cast<double>(defaults->value(PreferenceKeys::latitude));
     switch (prefZoneType()) {
     case kTimeZoneCustom:
         block.zoneHours = static_cast<double>(prefCustomZoneGMTOffset());

@@ -3,6 +3,7 @@
 
 #include "app/engine/CMoon.h"
 #include "app/engine/CRiseSet.h"
+#include "app/engine/PreferenceKeys.h"
 #include "platform/preferences/Preferences.h"
 #include "shared/utilities/classes/values/ExtraDateUtilities.h"
 #include "tests/TestMain.h"
@@ -16,25 +17,20 @@ namespace {
 /// The preferences of one test, taken back at its end.
 class CMoonHelperTest : public testing::Test {
 protected:
-    void set(const char* key, float value) {
-        Preferences::standard()->setFloat(value, QLatin1String(key));
-        keys_.append(QLatin1String(key));
+    static void setZone(int type, float customHours = 0.0F) {
+        Preferences::standard()->set(PreferenceKeys::timeZoneType, type);
+        Preferences::standard()->set(PreferenceKeys::customOffset, customHours);
     }
-    void setZone(int type, float customHours = 0.0F) {
-        set("LVTimeZoneType", static_cast<float>(type));
-        set("LVTimeZoneCustomGMTOffset", customHours);
-    }
-    void setPlace(float latitude, float longitude) {
-        set("LVLatitude", latitude);
-        set("LVLongitude", longitude);
+    static void setPlace(float latitude, float longitude) {
+        Preferences::standard()->set(PreferenceKeys::latitude, latitude);
+        Preferences::standard()->set(PreferenceKeys::longitude, longitude);
     }
     void TearDown() override {
-        for (const QString& key : std::as_const(keys_))
-            Preferences::standard()->removeObjectForKey(key);
+        Preferences::standard()->remove(PreferenceKeys::timeZoneType);
+        for (const auto& key :
+             {PreferenceKeys::customOffset, PreferenceKeys::latitude, PreferenceKeys::longitude})
+            Preferences::standard()->remove(key);
     }
-
-private:
-    QStringList keys_;
 };
 
 std::uint32_t seconds(const QDateTime& date) {
