@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What the tests run as another copy of the program: `shell_probe [warned]` does what every start does and
 // tells what reaches it. Without the word it shows the warning of its folder first.
+#include "app/engine/PreferenceKeys.h"
 #include "app/shell/ApplicationDelegate.h"
 #include "platform/bundle/Bundle.h"
 #include "platform/preferences/Preferences.h"
@@ -26,8 +27,7 @@ int main(int argc, char** argv) {
                      [] { say(QStringLiteral("raise ") + qEnvironmentVariable("XDG_ACTIVATION_TOKEN")); });
     const bool isWarned = QApplication::arguments().value(1) == u"warned";
     if (isWarned)
-        Preferences::standard()->setObject(Bundle::main().bundlePath(),
-                                           QStringLiteral("LVNotApplicationsFolderWarning"));
+        Preferences::standard()->set(PreferenceKeys::warnedPath, Bundle::main().bundlePath());
     else
         QTimer::singleShot(0, [] { say(QStringLiteral("warning")); }); // in the warning's event loop
     delegate.installNewVersion();

@@ -1,11 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/TestMain.h"
 
-#include <QApplication>
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
-
 namespace {
 QStringList caught;
 }
@@ -45,19 +40,12 @@ QDateTime gmt(int year, int month, int day, int hour, int minute, int second) {
     return QDateTime(QDate(year, month, day), QTime(hour, minute, second), Qt::UTC);
 }
 
-int main(int argc, char** argv) {
-    // Nothing of the person who runs the tests is read or written.
-    const QTemporaryDir home;
-    qputenv("HOME", home.path().toLocal8Bit());
-    qputenv("XDG_CONFIG_HOME", home.filePath(QStringLiteral("config")).toLocal8Bit());
+TestEnvironment::TestEnvironment() {
+    qputenv("HOME", home_.path().toLocal8Bit());
+    qputenv("XDG_CONFIG_HOME", home_.filePath(QStringLiteral("config")).toLocal8Bit());
     qunsetenv("LUMIVANE_CONFIG_HOME");
-    qputenv("XDG_DATA_HOME", home.filePath(QStringLiteral("data")).toLocal8Bit());
-    qputenv("XDG_CACHE_HOME", home.filePath(QStringLiteral("cache")).toLocal8Bit());
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("XDG_DATA_HOME", home_.filePath(QStringLiteral("data")).toLocal8Bit());
+    qputenv("XDG_CACHE_HOME", home_.filePath(QStringLiteral("cache")).toLocal8Bit());
     qputenv("LC_ALL", "en_US.UTF-8");
     qputenv("TZ", "UTC");
-    testing::InitGoogleTest(&argc, argv);
-    QApplication application(argc, argv);
-    return RUN_ALL_TESTS();
 }

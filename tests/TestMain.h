@@ -5,6 +5,16 @@
 
 #include <QByteArray>
 #include <QStringList>
+#include <QTemporaryDir>
+
+/// What a test program runs in: nothing of the person who runs the tests is read or written.
+class TestEnvironment {
+public:
+    TestEnvironment();
+
+private:
+    QTemporaryDir home_;
+};
 
 /// Sets the system's time zone for a test's span.
 class InZone {

@@ -124,24 +124,21 @@ std::span<const PeriodicTerm> termsOfPhase(int phase) {
 /// The phrases by illumination: below the bound, the waning and the waxing moon name.
 struct DescriptorRow {
     double bound;
-    int waning;
-    int waxing;
+    MoonName waning;
+    MoonName waxing;
 };
 
-constexpr std::array<DescriptorRow, 9> kDescriptors{{
-    {0.5, 1, 1},
-    {2.0, 2, 3},
-    {45.0, 4, 5},
-    {49.5, 6, 7},
-    {50.5, 8, 9},
-    {55.0, 10, 11},
-    {98.0, 12, 13},
-    {99.5, 14, 15},
-    {std::numeric_limits<double>::max(), 16, 16},
+constexpr std::array<DescriptorRow, 8> kDescriptors{{
+    {0.5, MoonName::New, MoonName::New},
+    {2.0, MoonName::NearNew, MoonName::PastNew},
+    {45.0, MoonName::WaningCrescent, MoonName::WaxingCrescent},
+    {49.5, MoonName::PastLastQuarter, MoonName::NearFirstQuarter},
+    {50.5, MoonName::AtLastQuarter, MoonName::AtFirstQuarter},
+    {55.0, MoonName::NearLastQuarter, MoonName::PastFirstQuarter},
+    {98.0, MoonName::WaningGibbous, MoonName::WaxingGibbous},
+    {99.5, MoonName::PastFull, MoonName::NearFull},
 }};
 
-constexpr int kFullDescriptor = 16;
-constexpr int kFirstAlmanacName = 17;
 constexpr std::uint32_t kLastAlmanacName = 12; // counted from the first
 
 /// What keeps `root` from being a table of lunations, or an empty string after filling `lunations`.
@@ -286,16 +283,16 @@ bool CMoon::IsBlue(std::uint32_t t) const {
     return fullMoon.month == previous.month;
 }
 
-int CMoon::GetDescriptorIndex(std::uint32_t t) const {
+MoonName CMoon::GetDescriptorIndex(std::uint32_t t) const {
     const tLunation* record = FindLunationForGMTSeconds(t);
     if (!record)
-        return kFullDescriptor;
+        return MoonName::Full;
     const double illumination = IlluminationDisplay(t);
     for (const DescriptorRow& row : kDescriptors) {
         if (illumination < row.bound)
             return record->fullMoon <= t ? row.waning : row.waxing;
     }
-    return kFullDescriptor;
+    return MoonName::Full;
 }
 
 const tLunation* CMoon::LunationOfNextFullMoon(std::uint32_t t) const {
@@ -303,12 +300,13 @@ const tLunation* CMoon::LunationOfNextFullMoon(std::uint32_t t) const {
     return next != lunations.end() ? &*next : nullptr;
 }
 
-int CMoon::GetAlmanacIndex(std::uint32_t t) const {
+MoonName CMoon::GetAlmanacIndex(std::uint32_t t) const {
     const tLunation* next = LunationOfNextFullMoon(t);
     if (!FindLunationForGMTSeconds(t) || !next)
-        return kFirstAlmanacName;
+        return MoonName::WolfMoon;
     const std::uint32_t count = next->lunationIndex - FirstLunationOfYear(t)->lunationIndex;
-    return count > kLastAlmanacName ? kFirstAlmanacName : kFirstAlmanacName + static_cast<int>(count);
+    const auto name = static_cast<std::uint32_t>(MoonName::WolfMoon) + count;
+    return count > kLastAlmanacName ? MoonName::WolfMoon : static_cast<MoonName>(name);
 }
 
 const tLunation* CMoon::FirstLunationOfYear(std::uint32_t t) const {

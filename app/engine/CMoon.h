@@ -5,6 +5,7 @@
 #include <cstdint>
 
 struct tMoonDate;
+enum class MoonName : std::int32_t;
 
 /// One lunation. All instants are GMT seconds: whole seconds since 1904-01-01 00:00:00 GMT.
 struct tLunation {
@@ -34,7 +35,7 @@ constexpr std::array<double, 28> kIconBounds{1,  2,  5,  10, 12.5, 17, 20, 25,  
 /// 2040-01-14) and holds the series that such a table is made with.
 ///
 /// Every query takes GMT seconds. A moment outside the table gets a neutral answer: 0, false, no record, the
-/// phrase "full" (16), the name "a Wolf Moon" (17). Queries before `Init` are all outside the table.
+/// phrase "full", the name "a Wolf Moon". Queries before `Init` are all outside the table.
 class CMoon {
 public:
     CMoon() = default;
@@ -77,12 +78,12 @@ public:
     /// Whether the full moon of t's lunation is the second of its calendar month (default time zone).
     bool IsBlue(std::uint32_t t) const;
 
-    /// The moon name (1 to 16) of t's phase: "new", "a waxing crescent", ...
-    int GetDescriptorIndex(std::uint32_t t) const;
+    /// The name of t's phase: "new", "a waxing crescent", ...
+    MoonName GetDescriptorIndex(std::uint32_t t) const;
 
-    /// The moon name (17 to 29) of the first full moon after t, counted from the first full moon of t's year
-    /// in the default time zone.
-    int GetAlmanacIndex(std::uint32_t t) const;
+    /// The name of the first full moon after t, counted from the first full moon of t's year in the default
+    /// time zone.
+    MoonName GetAlmanacIndex(std::uint32_t t) const;
 
     /// The instant of a phase (0 new moon, 1 first quarter, 2 full moon, 3 last quarter) as a Julian
     /// Ephemeris Day. `k` counts lunations from the new moon of 2000-01-06, with .25, .5 and .75 for the

@@ -2,6 +2,7 @@
 #include "app/engine/CMoonHelper.h"
 
 #include "app/engine/CRiseSet.h"
+#include "app/engine/PreferenceKeys.h"
 #include "platform/bundle/Bundle.h"
 #include "platform/locale/Calendar.h"
 #include "platform/locale/TimeZone.h"
@@ -135,11 +136,11 @@ std::uint32_t CMoonHelper::MoonDateToGMTSeconds(const tMoonDate& date) {
 }
 
 int CMoonHelper::prefZoneType() {
-    return Preferences::standard()->integerForKey(QStringLiteral("LVTimeZoneType"));
+    return Preferences::standard()->value(PreferenceKeys::timeZoneType);
 }
 
 float CMoonHelper::prefCustomZoneGMTOffset() {
-    return Preferences::standard()->floatForKey(QStringLiteral("LVTimeZoneCustomGMTOffset"));
+    return Preferences::standard()->value(PreferenceKeys::customOffset);
 }
 
 int CMoonHelper::prefZoneOffset() {
@@ -164,12 +165,14 @@ bool CMoonHelper::DaylightSavingsIsOn() {
     return TimeZone::isDaylightSavingTime(TimeZone::systemTimeZone());
 }
 
-QString CMoonHelper::stringForMoonName(int index) {
-    return lookUp(kMoonNames, index, QT_TRANSLATE_NOOP("Lumivane", "Unknown name or info: %d."));
+QString CMoonHelper::stringForMoonName(MoonName name) {
+    return lookUp(kMoonNames, static_cast<int>(name),
+                  QT_TRANSLATE_NOOP("Lumivane", "Unknown name or info: %d."));
 }
 
-QString CMoonHelper::stringForInformation(int index) {
-    return lookUp(kInformation, index, QT_TRANSLATE_NOOP("Lumivane", "Unknown info: %d."));
+QString CMoonHelper::stringForInformation(Information information) {
+    return lookUp(kInformation, static_cast<int>(information),
+                  QT_TRANSLATE_NOOP("Lumivane", "Unknown info: %d."));
 }
 
 void CMoonHelper::SubstituteDaysHoursMinutes(QString& text, std::int32_t seconds) {
@@ -189,8 +192,8 @@ void CMoonHelper::BuildRiseSetBlock(std::uint32_t seconds, tRiseSetCalcParamBloc
     block.month = date.month;
     block.year = date.year;
     const Preferences* defaults = Preferences::standard();
-    block.longitude = static_cast<double>(defaults->floatForKey(QStringLiteral("LVLongitude")));
-    block.latitude = static_cast<double>(defaults->floatForKey(QStringLiteral("LVLatitude")));
+    block.longitude = static_cast<double>(defaults->value(PreferenceKeys::longitude));
+    block.latitude = static_cast<double>(defaults->value(PreferenceKeys::latitude));
     switch (prefZoneType()) {
     case kTimeZoneCustom:
         block.zoneHours = static_cast<double>(prefCustomZoneGMTOffset());
@@ -203,20 +206,19 @@ void CMoonHelper::BuildRiseSetBlock(std::uint32_t seconds, tRiseSetCalcParamBloc
     }
 }
 
-QString CMoonHelper::FormatDataAsString(CRiseSet* calculator, int index, std::uint32_t seconds) {
+QString CMoonHelper::FormatDataAsString(CRiseSet* calculator, Information line, std::uint32_t seconds) {
     if (!calculator)
         return {};
     tRiseSetCalcParamBlock block{};
     BuildRiseSetBlock(seconds, block);
     calculator->Calculate(block);
 
-    QString line = stringForInformation(index);
     tRiseSetPair pair{};
-    if (index == 19)
+    if (line == Information::Moon)
         calculator->GetMoonInfo(pair);
-    else if (index == 18)
+    else if (line == Information::NauticalTwilight)
         calculator->GetTwilightInfo(pair);
-    else if (index == 17)
+    else if (line == Information::Sun)
         calculator->GetSunInfo(pair);
 
     const auto time = [&block](int hour, int minute) {
@@ -225,28 +227,29 @@ QString CMoonHelper::FormatDataAsString(CRiseSet* calculator, int index, std::ui
     QString value;
     switch (pair.state) {
     case kRiseSetAlwaysAbove:
-        value = stringForInformation(23);
+        value = stringForInformation(Information::AlwaysVisible);
         break;
     case kRiseSetAlwaysBright:
-        value = stringForInformation(24);
+        value = stringForInformation(Information::AlwaysBright);
         break;
     case kRiseSetAlwaysBelow:
-        value = stringForInformation(25);
+        value = stringForInformation(Information::AlwaysInvisible);
         break;
     case kRiseSetAlwaysDark:
-        value = stringForInformation(26);
+        value = stringForInformation(Information::AlwaysDark);
         break;
     default:
-        value = stringForInformation(20);
+        value = stringForInformation(Information::RiseAndSet);
         replaceAll(value, QStringLiteral("^2"),
-                   pair.state == kRiseSetNoRise ? stringForInformation(21)
+                   pair.state == kRiseSetNoRise ? stringForInformation(Information::NoRise)
                                                 : time(pair.riseHour, pair.riseMinute));
         replaceAll(value, QStringLiteral("^3"),
-                   pair.state == kRiseSetNoSet ? stringForInformation(22)
+                   pair.state == kRiseSetNoSet ? stringForInformation(Information::NoSet)
                                                : time(pair.setHour, pair.setMinute));
     }
-    replaceAll(line, QStringLiteral("^1"), value);
-    return line;
+    QString text = stringForInformation(line);
+    replaceAll(text, QStringLiteral("^1"), value);
+    return text;
 }
 
 QString CMoonHelper::DateStringFromComponents(int year, int month, int day, int hour, int minute) {

@@ -33,6 +33,67 @@ struct DateTimeRec {
 /// What the preference LVTimeZoneType holds; any other value behaves as kTimeZoneGMT.
 enum tTimeZoneType { kTimeZoneGMT = 1, kTimeZoneSystem = 2, kTimeZoneCustom = 3 };
 
+/// The names of the Moon's phases and, from WolfMoon on, those of the year's full moons.
+enum class MoonName : std::int32_t {
+    New = 1,
+    NearNew,
+    PastNew,
+    WaningCrescent,
+    WaxingCrescent,
+    PastLastQuarter,
+    NearFirstQuarter,
+    AtLastQuarter,
+    AtFirstQuarter,
+    NearLastQuarter,
+    PastFirstQuarter,
+    WaningGibbous,
+    WaxingGibbous,
+    PastFull,
+    NearFull,
+    Full,
+    WolfMoon,
+    SnowMoon,
+    WormMoon,
+    PinkMoon,
+    FlowerMoon,
+    StrawberryMoon,
+    BuckMoon,
+    SturgeonMoon,
+    FruitOrBarleyMoon,
+    HarvestMoon,
+    HuntersMoon,
+    BeaverMoon,
+    ColdMoon,
+};
+
+/// The information templates; the numbers 5, 14 and 15 are not given. Their slots `^1`, `^2` and `^3` stand
+/// for what the caller fills in, `^d`, `^h` and `^m` for a duration.
+enum class Information : std::int32_t {
+    MoonIs = 1,
+    Illumination = 2,
+    SinceNewMoon = 3,
+    Lunation = 4,
+    DateOutOfRange = 6,
+    NextNewMoon = 7,
+    NextFirstQuarter = 8,
+    NextFullMoon = 9,
+    NextLastQuarter = 10,
+    DateAndTime = 11,
+    NextFullMoonIs = 12,
+    CopyToClipboard = 13,
+    OpenApplication = 16,
+    Sun = 17,
+    NauticalTwilight = 18,
+    Moon = 19,
+    RiseAndSet = 20,
+    NoRise = 21,
+    NoSet = 22,
+    AlwaysVisible = 23,
+    AlwaysBright = 24,
+    AlwaysInvisible = 25,
+    AlwaysDark = 26,
+};
+
 /// Fills `date` with the local calendar reading (default time zone) of the instant 1904-01-01 00:00:00 GMT
 /// plus `seconds`; does nothing without a record.
 void LVSecondsToDate(std::uint32_t seconds, DateTimeRec* date);
@@ -62,14 +123,12 @@ public:
 
     static bool DaylightSavingsIsOn();
 
-    /// The moon name of an index: 1 to 16 phases ("a waxing crescent"), 17 to 29 full moons ("a Wolf Moon"),
-    /// in the user's language. Any other index is logged and gives an empty text.
-    static QString stringForMoonName(int index);
+    /// A moon name ("a waxing crescent") in the user's language. One that is none of the enumeration's is
+    /// logged and gives an empty text.
+    static QString stringForMoonName(MoonName name);
 
-    /// The information template of an index (1 to 26 with gaps), in the user's language. `^1`, `^2`, `^3`
-    /// stand for what the caller fills in, `^d`, `^h`, `^m` for a duration. An unknown index is logged and
-    /// gives an empty text.
-    static QString stringForInformation(int index);
+    /// The same for an information template.
+    static QString stringForInformation(Information information);
 
     /// Fills `^d`, `^h` and `^m` with the whole days, hours and minutes of a duration; its sign and the
     /// seconds left over are dropped.
@@ -80,9 +139,9 @@ public:
     /// twice.
     static void BuildRiseSetBlock(std::uint32_t seconds, tRiseSetCalcParamBlock& block);
 
-    /// The line of the Sun (17), nautical twilight (18) or the Moon (19) for a moment in zone seconds; a null
-    /// string without a calculator.
-    static QString FormatDataAsString(CRiseSet* calculator, int index, std::uint32_t seconds);
+    /// The line of the Sun, the nautical twilight or the Moon for a moment in zone seconds; a null string
+    /// without a calculator. Any other template gets two midnights.
+    static QString FormatDataAsString(CRiseSet* calculator, Information line, std::uint32_t seconds);
 
     /// A local time of day (default zone) in the user's short format. Hour 24 is the next day's midnight.
     static QString DateStringFromComponents(int year, int month, int day, int hour, int minute);

@@ -2,7 +2,7 @@
 #include "app/shell/ApplicationDelegate.h"
 
 #include "app/engine/CMoon.h"
-#include "app/engine/CMoonHelper.h"
+#include "app/engine/PreferenceKeys.h"
 #include "platform/bundle/Bundle.h"
 #include "platform/instance/RunningCopies.h"
 #include "platform/log/Log.h"
@@ -17,12 +17,6 @@
 
 #include <chrono>
 
-namespace {
-
-constexpr int kSevenDays = 604800;
-
-} // namespace
-
 ApplicationDelegate::ApplicationDelegate() {
     setupDefaults();
     gMoon.Init();
@@ -33,30 +27,25 @@ ApplicationDelegate::ApplicationDelegate() {
 ApplicationDelegate::~ApplicationDelegate() = default;
 
 void ApplicationDelegate::setupDefaults() {
-    QVariantMap disclosures;
-    for (const char* key : {"LVCalculationDisclosure", "LVInformationDisclosure", "LVRiseSetDisclosure",
-                            "LVSettingsDisclosure", "LVMoonDisclosure"})
-        disclosures.insert(QLatin1String(key), true);
-    Preferences::standard()->registerDefaults(disclosures);
-    Preferences::standard()->synchronize();
+    Preferences* defaults = Preferences::standard();
+    for (const auto& key : PreferenceKeys::disclosures)
+        defaults->registerKey(key);
+    defaults->synchronize();
 }
 
 void ApplicationDelegate::setupDefaultPreferences() {
+    using namespace PreferenceKeys;
     Preferences* defaults = Preferences::standard();
-    defaults->registerDefaults({
-        {QStringLiteral("LVTimeZoneType"), static_cast<int>(kTimeZoneSystem)},
-        {QStringLiteral("LVTimeZoneCustomGMTOffset"), 0.0},
-        {QStringLiteral("LVTimeZoneGMTOffsetTitle"), QStringLiteral("GMT +0")},
-        {QStringLiteral("LVLatitude"), ExtraNumberUtilities::numberWithLatitude()},
-        {QStringLiteral("LVLongitude"), ExtraNumberUtilities::numberWithLongitude()},
-        {QStringLiteral("LVBrightness"), 0.5},
-        {SUEnableAutomaticChecksKey, true},
-        {SUScheduledCheckIntervalKey, kSevenDays},
-    });
-    defaults->registerRange(QStringLiteral("LVLatitude"), {-90.0F, 90.0F});
-    defaults->registerRange(QStringLiteral("LVLongitude"), {-180.0F, 180.0F});
-    defaults->setBool(false, SUAllowsAutomaticUpdatesKey);
-    defaults->setBool(false, SUAutomaticallyUpdateKey);
+    defaults->registerKey(timeZoneType);
+    defaults->registerKey(customOffset);
+    defaults->registerKey(customOffsetTitle);
+    defaults->registerKey(latitude, static_cast<float>(ExtraNumberUtilities::numberWithLatitude()));
+    defaults->registerKey(longitude, static_cast<float>(ExtraNumberUtilities::numberWithLongitude()));
+    defaults->registerKey(brightness);
+    defaults->registerKey(SUEnableAutomaticChecksKey);
+    defaults->registerKey(SUScheduledCheckIntervalKey);
+    defaults->set(SUAllowsAutomaticUpdatesKey, false);
+    defaults->set(SUAutomaticallyUpdateKey, false);
 }
 
 void ApplicationDelegate::awakeFromNib() {
@@ -104,9 +93,8 @@ void ApplicationDelegate::installNewVersion() {
 }
 
 void ApplicationDelegate::warnOutsideApplicationsOnce(const QString& bundlePath) {
-    const QString key = QStringLiteral("LVNotApplicationsFolderWarning");
     Preferences* defaults = Preferences::standard();
-    if (defaults->stringForKey(key) == bundlePath)
+    if (defaults->value(PreferenceKeys::warnedPath) == bundlePath)
         return;
     ExtraApplicationUtilities::bringToFront();
     const Bundle& bundle = Bundle::main();
@@ -119,7 +107,7 @@ void ApplicationDelegate::warnOutsideApplicationsOnce(const QString& bundlePath)
         "be shown once for the current install location.)  Please quit Lumivane before moving it, if you "
         "do so.")));
     alert.addButton(bundle.localizedString(QT_TRANSLATE_NOOP("Lumivane", "OK")), QMessageBox::AcceptRole);
-    defaults->setObject(bundlePath, key);
+    defaults->set(PreferenceKeys::warnedPath, bundlePath);
     defaults->synchronize();
     alert.exec();
 }

@@ -31,11 +31,11 @@ QUrl ApplicationDelegate::feedURL(const QString& text) {
 
 void ApplicationDelegate::initCheckForUpdateURL() {
     const Bundle& bundle = Bundle::main();
-    const QString url = feedURLString(bundle.infoString(QStringLiteral("LVFeedHost")),
-                                      bundle.infoString(QStringLiteral("CFBundleVersion")),
-                                      Preferences::standard()->stringForKey(SUScheduledCheckIntervalKey),
-                                      bundle.infoString(QStringLiteral("CFBundleShortVersionString")),
-                                      ExtraStringUtilities::stringWithOSVersion());
+    const QString url = feedURLString(
+        bundle.infoString(QStringLiteral("LVFeedHost")), bundle.infoString(QStringLiteral("CFBundleVersion")),
+        QString::number(Preferences::standard()->value(SUScheduledCheckIntervalKey)),
+        bundle.infoString(QStringLiteral("CFBundleShortVersionString")),
+        ExtraStringUtilities::stringWithOSVersion());
     sparkleUpdater_->setDelegate(this);
     sparkleUpdater_->setFeedURL(feedURL(url));
 }

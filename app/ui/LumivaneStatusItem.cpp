@@ -141,13 +141,13 @@ void LumivaneStatusItem::updateToolTip() {
     bool outOfRange = false;
     const std::uint32_t present = LumivaneWindowController::presentGMTSeconds(&outOfRange);
     if (outOfRange) {
-        statusItem_->setToolTip(CMoonHelper::stringForInformation(6));
+        statusItem_->setToolTip(CMoonHelper::stringForInformation(Information::DateOutOfRange));
         return;
     }
-    QString phase = CMoonHelper::stringForInformation(1);
+    QString phase = CMoonHelper::stringForInformation(Information::MoonIs);
     replaceAll(phase, QStringLiteral("^1"),
                CMoonHelper::stringForMoonName(gMoon.GetDescriptorIndex(present)));
-    QString lit = CMoonHelper::stringForInformation(2);
+    QString lit = CMoonHelper::stringForInformation(Information::Illumination);
     replaceAll(lit, QStringLiteral("^1"),
                NumberFormatter::string(static_cast<float>(gMoon.IlluminationDisplay(present)), 3));
     statusItem_->setToolTip(phase + QLatin1Char('\n') + lit);

@@ -34,8 +34,8 @@ constexpr int kPictureSide = 140;
 constexpr int kQuarterPictureSide = 16;
 
 /// An information template with its first slot filled.
-QString information(int index, const QString& value) {
-    QString text = CMoonHelper::stringForInformation(index);
+QString filled(Information information, const QString& value) {
+    QString text = CMoonHelper::stringForInformation(information);
     replaceAll(text, QStringLiteral("^1"), value);
     return text;
 }
@@ -75,23 +75,26 @@ void LumivaneWindowController::updateStaticMoonInfo() {
     updateMoonImage();
     const std::uint32_t t = datePickerGMTSeconds();
 
-    const QString phase = presentIsOutOfRange_
-                              ? CMoonHelper::stringForInformation(6)
-                              : information(1, CMoonHelper::stringForMoonName(gMoon.GetDescriptorIndex(t)));
+    const QString phase =
+        presentIsOutOfRange_
+            ? CMoonHelper::stringForInformation(Information::DateOutOfRange)
+            : filled(Information::MoonIs, CMoonHelper::stringForMoonName(gMoon.GetDescriptorIndex(t)));
     setStringValueHilight(phaseName_, phase);
     moonImageView_->setAccessibleName(phase);
     const auto illumination = static_cast<float>(gMoon.IlluminationDisplay(t));
-    setStringValueHilight(illumination_, information(2, NumberFormatter::string(illumination, 3)));
+    setStringValueHilight(illumination_,
+                          filled(Information::Illumination, NumberFormatter::string(illumination, 3)));
 
     // Ten seconds on, a moment just short of the new moon reads as the new lunation's first.
-    QString age = CMoonHelper::stringForInformation(3);
+    QString age = CMoonHelper::stringForInformation(Information::SinceNewMoon);
     CMoonHelper::SubstituteDaysHoursMinutes(age, static_cast<std::int32_t>(gMoon.MoonAgeInSeconds(t + 10)));
     setStringValueHilight(daysSinceNewMoon_, age);
 
-    setStringValueHilight(lunation_,
-                          information(4, ExtraStringUtilities::stringWithInteger(gMoon.GetLunation(t))));
-    setStringValueHilight(nextFullMoonName_,
-                          information(12, CMoonHelper::stringForMoonName(gMoon.GetAlmanacIndex(t))));
+    setStringValueHilight(lunation_, filled(Information::Lunation,
+                                            ExtraStringUtilities::stringWithInteger(gMoon.GetLunation(t))));
+    setStringValueHilight(
+        nextFullMoonName_,
+        filled(Information::NextFullMoonIs, CMoonHelper::stringForMoonName(gMoon.GetAlmanacIndex(t))));
     updateQuarterTimes(t);
     updateRiseSetLines(t);
     // A screen reader says this as the slider moves.
@@ -108,7 +111,7 @@ void LumivaneWindowController::updateQuarterTimes(std::uint32_t t) {
                                                        {lunation->lastQuarter, timeLastQuarter_}};
     for (const auto& [instant, field] : quarters) {
         const QDateTime date = ExtraDateUtilities::dateWithCarbonSecondsGMT(CMoon::GMTToZone(instant));
-        QString text = information(11, ExtraDateUtilities::dateStringWithFormat(date, 0));
+        QString text = filled(Information::DateAndTime, ExtraDateUtilities::dateStringWithFormat(date, 0));
         replaceAll(text, QStringLiteral("^2"), ExtraDateUtilities::timeStringWithSeconds(date, false));
         setStringValueHilight(field, text);
     }
@@ -117,9 +120,12 @@ void LumivaneWindowController::updateQuarterTimes(std::uint32_t t) {
 void LumivaneWindowController::updateRiseSetLines(std::uint32_t t) {
     CRiseSet calculator;
     const std::uint32_t zoneSeconds = CMoon::GMTToZone(t);
-    setStringValueHilight(sunRiseSet_, CMoonHelper::FormatDataAsString(&calculator, 17, zoneSeconds));
-    setStringValueHilight(nauticalTwilight_, CMoonHelper::FormatDataAsString(&calculator, 18, zoneSeconds));
-    setStringValueHilight(moonRiseSet_, CMoonHelper::FormatDataAsString(&calculator, 19, zoneSeconds));
+    setStringValueHilight(sunRiseSet_,
+                          CMoonHelper::FormatDataAsString(&calculator, Information::Sun, zoneSeconds));
+    setStringValueHilight(nauticalTwilight_, CMoonHelper::FormatDataAsString(
+                                                 &calculator, Information::NauticalTwilight, zoneSeconds));
+    setStringValueHilight(moonRiseSet_,
+                          CMoonHelper::FormatDataAsString(&calculator, Information::Moon, zoneSeconds));
 }
 
 void LumivaneWindowController::updateMoonImage() {

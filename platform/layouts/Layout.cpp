@@ -85,7 +85,7 @@ private:
 };
 
 /// Why a field's text is not taken; empty for a number within `range`.
-QString refusal(const QString& text, const Preferences::Range& range) {
+QString refusal(const QString& text, const PreferenceRange& range) {
     const Bundle& bundle = Bundle::main();
     const auto number = NumberFormatter::number(text);
     if (!number)

@@ -12,7 +12,6 @@
 
 #include <array>
 #include <charconv>
-#include <cmath>
 #include <optional>
 #include <utility>
 
@@ -70,7 +69,12 @@ void makePrivate(const QString& path) {
         narrow(path);
 }
 
-std::optional<bool> toBool(const QString& text) {
+/// The value that a text of the file stands for, or nothing.
+template <typename T>
+std::optional<T> parsed(const QString& text, const PreferenceRange& range);
+
+template <>
+std::optional<bool> parsed(const QString& text, const PreferenceRange&) {
     for (const char* yes : {"true", "yes", "1"}) {
         if (text.compare(QLatin1String(yes), Qt::CaseInsensitive) == 0)
             return true;
@@ -82,16 +86,37 @@ std::optional<bool> toBool(const QString& text) {
     return std::nullopt;
 }
 
-std::optional<float> toFloat(const QString& text) {
-    bool ok = false;
-    const float value = text.toFloat(&ok);
-    return ok && std::isfinite(value) ? std::optional(value) : std::nullopt;
-}
-
-std::optional<int> toInteger(const QString& text) {
+template <>
+std::optional<int> parsed(const QString& text, const PreferenceRange&) {
     bool ok = false;
     const int value = text.toInt(&ok);
     return ok ? std::optional(value) : std::nullopt;
+}
+
+template <>
+std::optional<float> parsed(const QString& text, const PreferenceRange& range) {
+    bool ok = false;
+    const float value = text.toFloat(&ok);
+    // Not a number is in no range.
+    return ok && value >= range.smallest && value <= range.largest ? std::optional(value) : std::nullopt;
+}
+
+template <>
+std::optional<QString> parsed(const QString& text, const PreferenceRange&) {
+    return text;
+}
+
+template <typename T>
+QVariant stored(const T& value) {
+    return value;
+}
+
+/// The shortest text that reads back as the same number: 5.4, not 5.400000095367432.
+template <>
+QVariant stored(const float& value) {
+    std::array<char, 32> text{};
+    const auto end = std::to_chars(text.data(), text.data() + text.size(), value).ptr;
+    return QString::fromLatin1(text.data(), end - text.data());
 }
 
 } // namespace
@@ -148,91 +173,93 @@ void Preferences::prepareFile() {
     makePrivate(path);
 }
 
-void Preferences::registerDefaults(const QVariantMap& defaults) {
-    registered_.insert(defaults);
+template <typename T>
+void Preferences::registerKey(const PreferenceKey<T>& key, const std::type_identity_t<T>& fallback) {
+    registered_.insert(key.name, stored<T>(fallback));
+    ranges_.insert(key.name, key.range);
 }
 
-void Preferences::registerRange(const QString& key, const Range& range) {
-    ranges_.insert(key, range);
+template <typename T>
+T Preferences::value(const PreferenceKey<T>& key) const {
+    return read<T>(key.name, key.range, key.fallback);
 }
 
-QVariant Preferences::objectForKey(const QString& key) const {
-    const QVariant stored = settings_->value(key);
-    return stored.isValid() ? stored : registered_.value(key);
+template <typename T>
+void Preferences::set(const PreferenceKey<T>& key, const std::type_identity_t<T>& value) {
+    store(key.name, stored<T>(value));
 }
 
-template <typename T, typename Convert>
-T Preferences::typedValue(const QString& key, Convert convert) const {
-    const QVariant stored = settings_->value(key);
-    if (stored.isValid()) {
-        if (const std::optional<T> value = convert(stored.toString()))
+template <typename T>
+T Preferences::read(const QString& name, const PreferenceRange& range, const T& fallback) const {
+    if (const QVariant own = settings_->value(name); own.isValid()) {
+        if (const std::optional<T> value = parsed<T>(own.toString(), range))
             return *value;
-        if (!reportedKeys_.contains(key)) {
-            reportedKeys_.append(key);
+        if (!reported_.contains(name)) {
+            reported_.append(name);
             logLine(QStringLiteral(
                         "The preference %1 holds \"%2\", which is no value for it; its default serves.")
-                        .arg(key, stored.toString()));
+                        .arg(name, own.toString()));
         }
     }
-    return convert(registered_.value(key).toString()).value_or(T());
+    const QVariant registered = registered_.value(name);
+    return registered.isValid() ? parsed<T>(registered.toString(), {}).value_or(fallback) : fallback;
 }
 
-int Preferences::integerForKey(const QString& key) const {
-    return typedValue<int>(key, toInteger);
+int Preferences::integerForKey(const QString& name) const {
+    return read<int>(name, {}, 0);
 }
 
-float Preferences::floatForKey(const QString& key) const {
-    return typedValue<float>(key, [range = rangeForKey(key)](const QString& text) {
-        const std::optional<float> value = toFloat(text);
-        return value && *value >= range.smallest && *value <= range.largest ? value : std::nullopt;
-    });
+float Preferences::floatForKey(const QString& name) const {
+    return read<float>(name, rangeForKey(name), 0.0F);
 }
 
-bool Preferences::boolForKey(const QString& key) const {
-    return typedValue<bool>(key, toBool);
+bool Preferences::boolForKey(const QString& name) const {
+    return read<bool>(name, {}, false);
 }
 
-QString Preferences::stringForKey(const QString& key) const {
-    return objectForKey(key).toString();
+QString Preferences::stringForKey(const QString& name) const {
+    return read<QString>(name, {}, {});
 }
 
-void Preferences::setInteger(int value, const QString& key) {
-    store(key, value);
+void Preferences::setInteger(int value, const QString& name) {
+    store(name, value);
 }
 
-void Preferences::setFloat(float value, const QString& key) {
-    // The shortest text that reads back as the same number: 5.4, not 5.400000095367432.
-    std::array<char, 32> text{};
-    const auto end = std::to_chars(text.data(), text.data() + text.size(), value).ptr;
-    store(key, QString::fromLatin1(text.data(), end - text.data()));
+void Preferences::setFloat(float value, const QString& name) {
+    store(name, stored(value));
 }
 
-void Preferences::setBool(bool value, const QString& key) {
-    store(key, value);
+void Preferences::setBool(bool value, const QString& name) {
+    store(name, value);
 }
 
-void Preferences::setObject(const QString& value, const QString& key) {
-    store(key, value);
+void Preferences::setObject(const QString& value, const QString& name) {
+    store(name, value);
 }
 
-void Preferences::store(const QString& key, const QVariant& value) {
-    const QString before = objectForKey(key).toString();
-    if (settings_->contains(key) && before == value.toString())
+QVariant Preferences::answer(const QString& name) const {
+    const QVariant own = settings_->value(name);
+    return own.isValid() ? own : registered_.value(name);
+}
+
+void Preferences::store(const QString& name, const QVariant& value) {
+    const QString before = answer(name).toString();
+    if (settings_->contains(name) && before == value.toString())
         return;
     prepareFile();
-    settings_->setValue(key, value);
+    settings_->setValue(name, value);
     synchronizeLater();
     if (before != value.toString())
-        Q_EMIT valueChanged(key);
+        Q_EMIT valueChanged(name);
 }
 
-void Preferences::removeObjectForKey(const QString& key) {
-    const QString before = objectForKey(key).toString();
+void Preferences::removeObjectForKey(const QString& name) {
+    const QString before = answer(name).toString();
     prepareFile();
-    settings_->remove(key);
+    settings_->remove(name);
     synchronizeLater();
-    if (before != objectForKey(key).toString())
-        Q_EMIT valueChanged(key);
+    if (before != answer(name).toString())
+        Q_EMIT valueChanged(name);
 }
 
 bool Preferences::synchronize() {
@@ -262,3 +289,19 @@ void Preferences::synchronizeLater() {
             },
             Qt::QueuedConnection);
 }
+
+template void Preferences::registerKey(const PreferenceKey<bool>&, const bool&);
+template bool Preferences::value(const PreferenceKey<bool>&) const;
+template void Preferences::set(const PreferenceKey<bool>&, const bool&);
+
+template void Preferences::registerKey(const PreferenceKey<int>&, const int&);
+template int Preferences::value(const PreferenceKey<int>&) const;
+template void Preferences::set(const PreferenceKey<int>&, const int&);
+
+template void Preferences::registerKey(const PreferenceKey<float>&, const float&);
+template float Preferences::value(const PreferenceKey<float>&) const;
+template void Preferences::set(const PreferenceKey<float>&, const float&);
+
+template void Preferences::registerKey(const PreferenceKey<QString>&, const QString&);
+template QString Preferences::value(const PreferenceKey<QString>&) const;
+template void Preferences::set(const PreferenceKey<QString>&, const QString&);

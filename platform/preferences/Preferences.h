@@ -1,19 +1,20 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/preferences/PreferenceKey.h"
+
 #include <QHash>
 #include <QObject>
 #include <QVariantMap>
 
-#include <limits>
 #include <memory>
+#include <type_traits>
 
 class QSettings;
 
-/// The user's preferences: values that the user stored, over registered defaults that answer for every other
-/// key, in an INI file which only its user may read: 0600, in a folder of
-/// 0700. A file that can't be read as one is kept aside under another name and logged, and the registered
-/// defaults serve.
+/// The user's preferences: values that the user stored, over defaults that answer for every other key, in an
+/// INI file which only its user may read: 0600, in a folder of 0700. A file that can't be read as one is kept
+/// aside under another name and logged, and the defaults serve.
 class Preferences : public QObject {
     Q_OBJECT
 
@@ -24,33 +25,42 @@ public:
     explicit Preferences(const QString& path);
     ~Preferences() override;
 
-    /// Adds to the registration domain, which is never written to the file.
-    void registerDefaults(const QVariantMap& defaults);
+    /// Has the key's default answer under its name as well, as layouts ask, or another default that is known
+    /// only now. Defaults are never written to the file.
+    template <typename T>
+    void registerKey(const PreferenceKey<T>& key) {
+        registerKey(key, key.fallback);
+    }
+    template <typename T>
+    void registerKey(const PreferenceKey<T>& key, const std::type_identity_t<T>& fallback);
 
-    /// The numbers that a key may have.
-    struct Range {
-        float smallest = std::numeric_limits<float>::lowest();
-        float largest = std::numeric_limits<float>::max();
-    };
-    void registerRange(const QString& key, const Range& range);
-    /// All numbers for a key without a range of its own.
-    Range rangeForKey(const QString& key) const { return ranges_.value(key); }
+    /// The user's value, else the default. A stored value of another kind or outside the key's range is
+    /// logged once, and the default is given.
+    template <typename T>
+    T value(const PreferenceKey<T>& key) const;
 
-    /// The user's value, else the registered one, else an invalid variant.
-    QVariant objectForKey(const QString& key) const;
-    /// Typed reads. A stored value of another kind or outside its range is logged once and the registered one
-    /// is given, else 0, false or an empty string.
-    int integerForKey(const QString& key) const;
-    float floatForKey(const QString& key) const;
-    bool boolForKey(const QString& key) const;
-    QString stringForKey(const QString& key) const;
+    template <typename T>
+    void set(const PreferenceKey<T>& key, const std::type_identity_t<T>& value);
 
-    void setInteger(int value, const QString& key);
-    void setFloat(float value, const QString& key);
-    void setBool(bool value, const QString& key);
-    void setObject(const QString& value, const QString& key);
-    /// Forgets the user's value, so that the registered one answers again.
-    void removeObjectForKey(const QString& key);
+    /// Forgets the user's value, so that the default answers again.
+    template <typename T>
+    void remove(const PreferenceKey<T>& key) {
+        removeObjectForKey(key.name);
+    }
+
+    // The same by name, for controls that a layout binds to a preference. The default of a name that is not
+    // registered is 0, false or an empty string, and its range all numbers.
+
+    PreferenceRange rangeForKey(const QString& name) const { return ranges_.value(name); }
+    int integerForKey(const QString& name) const;
+    float floatForKey(const QString& name) const;
+    bool boolForKey(const QString& name) const;
+    QString stringForKey(const QString& name) const;
+    void setInteger(int value, const QString& name);
+    void setFloat(float value, const QString& name);
+    void setBool(bool value, const QString& name);
+    void setObject(const QString& value, const QString& name);
+    void removeObjectForKey(const QString& name);
 
     /// Writes what is pending to disk, atomically, as happens by itself soon after each change; false when
     /// the disk refuses, with a log line the first time. What it refused goes with the next change or at the
@@ -58,21 +68,22 @@ public:
     bool synchronize();
 
 Q_SIGNALS:
-    /// The answer for `key` is now another one.
-    void valueChanged(const QString& key);
+    /// The answer for the preference of this name is now another one.
+    void valueChanged(const QString& name);
 
 private:
     void synchronizeLater();
-    void store(const QString& key, const QVariant& value);
+    QVariant answer(const QString& name) const;
+    void store(const QString& name, const QVariant& value);
     void openFile(const QString& path);
     void prepareFile();
-    template <typename T, typename Convert>
-    T typedValue(const QString& key, Convert convert) const;
+    template <typename T>
+    T read(const QString& name, const PreferenceRange& range, const T& fallback) const;
 
     std::unique_ptr<QSettings> settings_;
     QVariantMap registered_;
-    QHash<QString, Range> ranges_;
-    mutable QStringList reportedKeys_;
+    QHash<QString, PreferenceRange> ranges_;
+    mutable QStringList reported_;
     bool synchronizesLater_ = false;
     bool refused_ = false; ///< by the disk, the last time
 };

@@ -42,8 +42,8 @@ UpdateChecker::UpdateChecker(const UpdateCheckerTiming& timing, QObject* parent)
     sinceStart_.start();
     timer_.setSingleShot(true);
     connect(&timer_, &QTimer::timeout, this, &UpdateChecker::timerFired);
-    connect(Preferences::standard(), &Preferences::valueChanged, this, [this](const QString& key) {
-        if (key == SUEnableAutomaticChecksKey || key == SUScheduledCheckIntervalKey)
+    connect(Preferences::standard(), &Preferences::valueChanged, this, [this](const QString& name) {
+        if (name == SUEnableAutomaticChecksKey.name || name == SUScheduledCheckIntervalKey.name)
             schedule();
     });
 }
@@ -74,11 +74,11 @@ void UpdateChecker::timerFired() {
 std::optional<milliseconds> UpdateChecker::timeUntilNextCheck() const {
     const Preferences* defaults = Preferences::standard();
     const bool isBusy = fetcher_ || alert_;
-    if (isBusy || !isSecure(feedURL_) || !defaults->boolForKey(SUEnableAutomaticChecksKey))
+    if (isBusy || !isSecure(feedURL_) || !defaults->value(SUEnableAutomaticChecksKey))
         return std::nullopt;
     const milliseconds interval = std::max<milliseconds>(
-        std::chrono::seconds(defaults->integerForKey(SUScheduledCheckIntervalKey)), timing_.shortestInterval);
-    const QDateTime last = QDateTime::fromString(defaults->stringForKey(SULastCheckTimeKey), Qt::ISODate);
+        std::chrono::seconds(defaults->value(SUScheduledCheckIntervalKey)), timing_.shortestInterval);
+    const QDateTime last = QDateTime::fromString(defaults->value(SULastCheckTimeKey), Qt::ISODate);
     const QDateTime now = Clock::now();
     // A last check that is still to come is the trace of a clock that was wrong.
     const milliseconds untilDue =
@@ -105,7 +105,7 @@ void UpdateChecker::checkForUpdates(QObject*) {
 void UpdateChecker::startCheck() {
     const QUrl url = completeFeedURL();
     // A check counts from its start, whatever comes of it: a server that is down is not asked more often.
-    Preferences::standard()->setObject(Clock::now().toString(Qt::ISODate), SULastCheckTimeKey);
+    Preferences::standard()->set(SULastCheckTimeKey, Clock::now().toString(Qt::ISODate));
     fetcher_ = new FeedFetcher(timing_.limits, Bundle::main().plugInsPath(), this);
     connect(fetcher_, &FeedFetcher::fetched, this, &UpdateChecker::feedFetched);
     connect(fetcher_, &FeedFetcher::failed, this, &UpdateChecker::checkFailed);
@@ -165,7 +165,7 @@ void UpdateChecker::feedFetched(const QByteArray& feed) {
         return checkFailed(FetchFailure::Unusable, error);
     const AppcastItem& newest = appcast->newest();
     const bool isNewer = compareBuildNumbers(newest.build, runningBuild()) > 0;
-    const QString skipped = Preferences::standard()->stringForKey(SUSkippedVersionKey);
+    const QString skipped = Preferences::standard()->value(SUSkippedVersionKey);
     const bool isSkipped = !skipped.isEmpty() && compareBuildNumbers(newest.build, skipped) == 0;
     if (isNewer && (asked_ || !isSkipped))
         offer(newest);
@@ -188,7 +188,7 @@ void UpdateChecker::offer(const AppcastItem& item) {
         if (result == UpdateAlert::LearnMore)
             openPage(item.page);
         else if (result == UpdateAlert::Skip)
-            Preferences::standard()->setObject(item.build, SUSkippedVersionKey);
+            Preferences::standard()->set(SUSkippedVersionKey, item.build);
     });
     if (asked_)
         return answer(alert);

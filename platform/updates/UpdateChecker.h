@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/preferences/PreferenceKey.h"
 #include "platform/updates/Appcast.h"
 #include "platform/updates/FeedFetcher.h"
 
@@ -18,16 +19,18 @@ class UpdateAlert;
 class UpdateChecker;
 class QProgressDialog;
 
-/// Keys in the user's defaults: whether to check at all by itself (boolean), how often (integer, seconds;
-/// less than an hour counts as an hour), and two switches for installing, which nothing here ever does.
-inline const QString SUEnableAutomaticChecksKey = QStringLiteral("SUEnableAutomaticChecks");
-inline const QString SUScheduledCheckIntervalKey = QStringLiteral("SUScheduledCheckInterval");
-inline const QString SUAllowsAutomaticUpdatesKey = QStringLiteral("SUAllowsAutomaticUpdates");
-inline const QString SUAutomaticallyUpdateKey = QStringLiteral("SUAutomaticallyUpdate");
+/// Whether to check at all by itself, how often (seconds; less than an hour counts as an hour), and two
+/// switches for installing, which nothing here ever does.
+inline constexpr PreferenceKey<bool> SUEnableAutomaticChecksKey{QLatin1String("SUEnableAutomaticChecks"),
+                                                                true};
+inline constexpr PreferenceKey<int> SUScheduledCheckIntervalKey{QLatin1String("SUScheduledCheckInterval"),
+                                                                7 * 24 * 60 * 60};
+inline constexpr PreferenceKey<bool> SUAllowsAutomaticUpdatesKey{QLatin1String("SUAllowsAutomaticUpdates")};
+inline constexpr PreferenceKey<bool> SUAutomaticallyUpdateKey{QLatin1String("SUAutomaticallyUpdate")};
 /// Kept by the updater itself: the start of the last check (ISO 8601, UTC) and the build that the user does
 /// not want to hear of again.
-inline const QString SULastCheckTimeKey = QStringLiteral("SULastCheckTime");
-inline const QString SUSkippedVersionKey = QStringLiteral("SUSkippedVersion");
+inline const PreferenceKey<QString> SULastCheckTimeKey{QLatin1String("SULastCheckTime")};
+inline const PreferenceKey<QString> SUSkippedVersionKey{QLatin1String("SUSkippedVersion")};
 
 /// One more parameter for the feed's query, not yet percent-encoded.
 struct FeedParameter {

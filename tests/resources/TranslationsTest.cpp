@@ -111,7 +111,9 @@ TEST_F(TranslationsTest, EveryLanguageHasEveryTextWhole) {
         // The compiled catalogue tells by its language which one of Qt's goes with it.
         const QString language = file.mid(9).chopped(3);
         use(language.toLatin1().constData());
-        EXPECT_NE(CMoonHelper::stringForMoonName(5), QStringLiteral("a waxing crescent")) << qPrintable(file);
+        EXPECT_NE(CMoonHelper::stringForMoonName(MoonName::WaxingCrescent),
+                  QStringLiteral("a waxing crescent"))
+            << qPrintable(file);
         const QString qtCatalogue = QLibraryInfo::path(QLibraryInfo::TranslationsPath) +
                                     QStringLiteral("/qtbase_%1.qm").arg(language);
         if (QFile::exists(qtCatalogue)) {
@@ -184,13 +186,14 @@ TEST_F(TranslationsTest, EveryControlHasALetterOfItsOwnInEveryLanguage) {
 TEST_F(TranslationsTest, TheUsersLanguagesReachTheTexts) {
     Bundle& bundle = Bundle::main();
     bundle.installTranslations({QStringLiteral("nl"), QStringLiteral("de-AT"), QStringLiteral("fr")});
-    EXPECT_EQ(CMoonHelper::stringForMoonName(5), QStringLiteral("Zunehmende Mondsichel"));
+    EXPECT_EQ(CMoonHelper::stringForMoonName(MoonName::WaxingCrescent),
+              QStringLiteral("Zunehmende Mondsichel"));
     EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel"), QStringLiteral("&Abbrechen"));
     EXPECT_EQ(QGuiApplication::layoutDirection(), Qt::LeftToRight);
     use("ar");
     EXPECT_EQ(QGuiApplication::layoutDirection(), Qt::RightToLeft);
     bundle.installTranslations({QStringLiteral("fi"), QStringLiteral("en-GB"), QStringLiteral("ar")});
-    EXPECT_EQ(CMoonHelper::stringForMoonName(5), QStringLiteral("a waxing crescent"));
+    EXPECT_EQ(CMoonHelper::stringForMoonName(MoonName::WaxingCrescent), QStringLiteral("a waxing crescent"));
     EXPECT_EQ(QGuiApplication::layoutDirection(), Qt::LeftToRight);
 }
 

@@ -3,6 +3,7 @@
 
 #include "app/engine/CMoon.h"
 #include "app/engine/CRiseSet.h"
+#include "app/engine/PreferenceKeys.h"
 #include "platform/preferences/Preferences.h"
 #include "shared/utilities/classes/values/ExtraDateUtilities.h"
 #include "tests/TestMain.h"
@@ -16,25 +17,20 @@ namespace {
 /// The preferences of one test, taken back at its end.
 class CMoonHelperTest : public testing::Test {
 protected:
-    void set(const char* key, float value) {
-        Preferences::standard()->setFloat(value, QLatin1String(key));
-        keys_.append(QLatin1String(key));
+    static void setZone(int type, float customHours = 0.0F) {
+        Preferences::standard()->set(PreferenceKeys::timeZoneType, type);
+        Preferences::standard()->set(PreferenceKeys::customOffset, customHours);
     }
-    void setZone(int type, float customHours = 0.0F) {
-        set("LVTimeZoneType", static_cast<float>(type));
-        set("LVTimeZoneCustomGMTOffset", customHours);
-    }
-    void setPlace(float latitude, float longitude) {
-        set("LVLatitude", latitude);
-        set("LVLongitude", longitude);
+    static void setPlace(float latitude, float longitude) {
+        Preferences::standard()->set(PreferenceKeys::latitude, latitude);
+        Preferences::standard()->set(PreferenceKeys::longitude, longitude);
     }
     void TearDown() override {
-        for (const QString& key : std::as_const(keys_))
-            Preferences::standard()->removeObjectForKey(key);
+        Preferences::standard()->remove(PreferenceKeys::timeZoneType);
+        for (const auto& key :
+             {PreferenceKeys::customOffset, PreferenceKeys::latitude, PreferenceKeys::longitude})
+            Preferences::standard()->remove(key);
     }
-
-private:
-    QStringList keys_;
 };
 
 std::uint32_t seconds(const QDateTime& date) {
@@ -72,6 +68,11 @@ TEST_F(CMoonHelperTest, CalendarReadingsOfAMoment) {
         std::make_tuple(date.year, date.month, date.day, date.hour, date.minute, date.second, date.isPM),
         std::make_tuple(2000, 1, 6, 18, 14, 45, 1));
     EXPECT_EQ(CMoonHelper::MoonDateToSeconds(date), moment);
+    tMoonDate noon{};
+    CMoonHelper::SecondsToMoonDate(seconds(gmt(2000, 1, 6, 11, 59, 59)), noon);
+    EXPECT_EQ(noon.isPM, 0);
+    CMoonHelper::SecondsToMoonDate(seconds(gmt(2000, 1, 6, 12)), noon);
+    EXPECT_EQ(noon.isPM, 1);
     EXPECT_EQ(ExtraDateUtilities::carbonSecondsGMT(gmt(1970, 1, 1)), 2082844800u);
 
     const InZone newYork("America/New_York");
@@ -92,16 +93,17 @@ TEST_F(CMoonHelperTest, CalendarReadingsOfAMoment) {
 }
 
 TEST_F(CMoonHelperTest, TemplatesAndDurations) {
-    EXPECT_EQ(CMoonHelper::stringForMoonName(1), QStringLiteral("new"));
-    EXPECT_EQ(CMoonHelper::stringForMoonName(29), QStringLiteral("a Cold Moon"));
-    EXPECT_EQ(CMoonHelper::stringForInformation(6), QStringLiteral("Date out of range"));
-    EXPECT_EQ(CMoonHelper::stringForInformation(26), QStringLiteral("always dark"));
+    EXPECT_EQ(CMoonHelper::stringForMoonName(MoonName::New), QStringLiteral("new"));
+    EXPECT_EQ(CMoonHelper::stringForMoonName(MoonName::ColdMoon), QStringLiteral("a Cold Moon"));
+    EXPECT_EQ(CMoonHelper::stringForInformation(Information::DateOutOfRange),
+              QStringLiteral("Date out of range"));
+    EXPECT_EQ(CMoonHelper::stringForInformation(Information::AlwaysDark), QStringLiteral("always dark"));
     {
         const CaughtLog log;
         for (const int unknown : {0, 30, -1})
-            EXPECT_EQ(CMoonHelper::stringForMoonName(unknown), QString());
+            EXPECT_EQ(CMoonHelper::stringForMoonName(static_cast<MoonName>(unknown)), QString());
         for (const int unknown : {0, 5, 14, 15, 29})
-            EXPECT_EQ(CMoonHelper::stringForInformation(unknown), QString());
+            EXPECT_EQ(CMoonHelper::stringForInformation(static_cast<Information>(unknown)), QString());
         EXPECT_EQ(log.lines().first(), QStringLiteral("Unknown name or info: 0."));
         EXPECT_EQ(log.lines().last(), QStringLiteral("Unknown info: 29."));
         EXPECT_EQ(log.lines().size(), 8);
@@ -130,52 +132,66 @@ TEST_F(CMoonHelperTest, SystemOffsetCountsTwiceInTheRequestsDate) {
     };
     EXPECT_EQ(dayAsked(2), 14);
     EXPECT_EQ(dayAsked(5), 15);
-    setZone(kTimeZoneCustom, 5.5F);
-    tRiseSetCalcParamBlock block{};
-    CMoonHelper::BuildRiseSetBlock(0, block);
-    EXPECT_EQ(block.zoneHours, 5.5);
-    setZone(9);
-    CMoonHelper::BuildRiseSetBlock(0, block);
-    EXPECT_EQ(block.zoneHours, 0.0);
+    const InZone kolkata("Asia/Kolkata");
+    for (const auto& [type, hours] : {std::pair{2, 5.5}, std::pair{3, -3.75}, std::pair{9, 0.0}}) {
+        setZone(type, -3.75F);
+        tRiseSetCalcParamBlock block{};
+        CMoonHelper::BuildRiseSetBlock(0, block);
+        EXPECT_EQ(block.zoneHours, hours) << type;
+    }
 }
 
 TEST_F(CMoonHelperTest, RiseAndSetLines) {
     setZone(kTimeZoneGMT);
     setPlace(51.5074F, -0.1278F);
     CRiseSet calculator;
-    const auto line = [&calculator](int index, const QDateTime& date) {
-        return CMoonHelper::FormatDataAsString(&calculator, index, seconds(date));
+    const auto line = [&calculator](Information information, const QDateTime& date) {
+        return CMoonHelper::FormatDataAsString(&calculator, information, seconds(date));
     };
-    EXPECT_EQ(line(17, gmt(2024, 12, 21, 12)), QStringLiteral("Sun: 8:04 AM/3:54 PM"));
-    EXPECT_EQ(line(6, gmt(2024, 12, 21, 12)), QStringLiteral("Date out of range"));
+    EXPECT_EQ(line(Information::Sun, gmt(2024, 12, 21, 12)), QStringLiteral("Sun: 8:04 AM/3:54 PM"));
+    EXPECT_EQ(line(Information::DateOutOfRange, gmt(2024, 12, 21, 12)), QStringLiteral("Date out of range"));
     {
         const WithEnvironment german("LC_ALL", "de_DE.UTF-8");
-        EXPECT_EQ(line(17, gmt(2024, 12, 21, 12)), QStringLiteral("Sun: 08:04/15:54"));
+        EXPECT_EQ(line(Information::Sun, gmt(2024, 12, 21, 12)), QStringLiteral("Sun: 08:04/15:54"));
     }
-    EXPECT_TRUE(CMoonHelper::FormatDataAsString(nullptr, 17, 0).isNull());
+    EXPECT_TRUE(CMoonHelper::FormatDataAsString(nullptr, Information::Sun, 0).isNull());
 
     setPlace(69.65F, 18.95F);
-    EXPECT_EQ(line(17, gmt(2024, 6, 21, 12)), QStringLiteral("Sun: always visible"));
-    EXPECT_EQ(line(18, gmt(2024, 6, 21, 12)), QStringLiteral("Nautical Twilight: always bright"));
-    EXPECT_EQ(line(19, gmt(2024, 6, 21, 12)), QStringLiteral("Moon: always invisible"));
+    EXPECT_EQ(line(Information::Sun, gmt(2024, 6, 21, 12)), QStringLiteral("Sun: always visible"));
+    EXPECT_EQ(line(Information::NauticalTwilight, gmt(2024, 6, 21, 12)),
+              QStringLiteral("Nautical Twilight: always bright"));
+    EXPECT_EQ(line(Information::Moon, gmt(2024, 6, 21, 12)), QStringLiteral("Moon: always invisible"));
     setPlace(89.0F, 10.0F);
-    EXPECT_EQ(line(17, gmt(2020, 1, 15, 12)), QStringLiteral("Sun: always invisible"));
-    EXPECT_EQ(line(18, gmt(2020, 1, 15, 12)), QStringLiteral("Nautical Twilight: always dark"));
+    EXPECT_EQ(line(Information::Sun, gmt(2020, 1, 15, 12)), QStringLiteral("Sun: always invisible"));
+    EXPECT_EQ(line(Information::NauticalTwilight, gmt(2020, 1, 15, 12)),
+              QStringLiteral("Nautical Twilight: always dark"));
+    EXPECT_EQ(line(Information::Moon, gmt(2020, 1, 15, 12)), QStringLiteral("Moon: always visible"));
 
     setPlace(52.5F, 13.4F);
     QStringList moonLines;
     for (int day = 1; day <= 31; ++day)
-        moonLines.append(line(19, gmt(2026, 1, day, 12)));
+        moonLines.append(line(Information::Moon, gmt(2026, 1, day, 12)));
     EXPECT_EQ(moonLines.filter(QStringLiteral("Moon: no rise/")).size(), 1);
     EXPECT_EQ(moonLines.filter(QStringLiteral("/no set")).size(), 1);
 }
 
 TEST_F(CMoonHelperTest, TimesOfDayAtTheCalendarsOddPlaces) {
-    EXPECT_EQ(CMoonHelper::DateStringFromComponents(2026, 1, 1, 24, 0), QStringLiteral("12:00 AM"));
-    const InZone newYork("America/New_York");
-    EXPECT_EQ(CMoonHelper::DateStringFromComponents(2026, 3, 8, 2, 30), QStringLiteral("3:30 AM"));
-    EXPECT_EQ(CMoonHelper::DateStringFromComponents(2026, 3, 8, 1, 59), QStringLiteral("1:59 AM"));
-    EXPECT_EQ(CMoonHelper::DateStringFromComponents(2026, 11, 1, 1, 30), QStringLiteral("1:30 AM"));
-    const InZone chatham("Pacific/Chatham");
-    EXPECT_EQ(CMoonHelper::DateStringFromComponents(2026, 7, 1, 13, 5), QStringLiteral("1:05 PM"));
+    struct Case {
+        const char* zone;
+        int month;
+        int day;
+        int hour;
+        int minute;
+        const char* text;
+    };
+    for (const Case& each :
+         {Case{"UTC", 1, 1, 24, 0, "12:00 AM"}, Case{"America/New_York", 3, 8, 2, 30, "3:30 AM"},
+          Case{"America/New_York", 3, 8, 1, 59, "1:59 AM"}, Case{"America/New_York", 11, 1, 1, 30, "1:30 AM"},
+          Case{"Europe/Berlin", 3, 29, 2, 30, "3:30 AM"}, Case{"Pacific/Chatham", 7, 1, 13, 5, "1:05 PM"}}) {
+        const InZone here(each.zone);
+        EXPECT_EQ(CMoonHelper::DateStringFromComponents(2026, each.month, each.day, each.hour, each.minute)
+                      .toStdString(),
+                  each.text)
+            << each.zone;
+    }
 }

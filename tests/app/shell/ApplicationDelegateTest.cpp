@@ -9,8 +9,8 @@
 TEST(ApplicationDelegateTest, APersonsFirstStartReadsTheDefaults) {
     const InZone newYork("America/New_York");
     Preferences* defaults = Preferences::standard();
-    defaults->setBool(true, SUAllowsAutomaticUpdatesKey);
-    defaults->setBool(true, SUAutomaticallyUpdateKey);
+    defaults->set(SUAllowsAutomaticUpdatesKey, true);
+    defaults->set(SUAutomaticallyUpdateKey, true);
     const ApplicationDelegate delegate;
 
     EXPECT_EQ(defaults->integerForKey(QStringLiteral("LVTimeZoneType")), 2);
@@ -22,13 +22,8 @@ TEST(ApplicationDelegateTest, APersonsFirstStartReadsTheDefaults) {
     for (const char* section : {"Calculation", "Information", "RiseSet", "Settings", "Moon"})
         EXPECT_TRUE(defaults->boolForKey(QStringLiteral("LV%1Disclosure").arg(QLatin1String(section))));
     EXPECT_TRUE(defaults->stringForKey(QStringLiteral("LVNotApplicationsFolderWarning")).isEmpty());
-    EXPECT_TRUE(defaults->boolForKey(SUEnableAutomaticChecksKey));
-    EXPECT_EQ(defaults->integerForKey(SUScheduledCheckIntervalKey), 604800);
-    EXPECT_FALSE(defaults->boolForKey(SUAllowsAutomaticUpdatesKey)) << "whatever was there";
-    EXPECT_FALSE(defaults->boolForKey(SUAutomaticallyUpdateKey));
-
-    defaults->setFloat(0.25F, QStringLiteral("LVBrightness"));
-    EXPECT_EQ(defaults->floatForKey(QStringLiteral("LVBrightness")), 0.25F);
-    defaults->removeObjectForKey(QStringLiteral("LVBrightness"));
-    EXPECT_EQ(defaults->floatForKey(QStringLiteral("LVBrightness")), 0.5F);
+    EXPECT_TRUE(defaults->boolForKey(QStringLiteral("SUEnableAutomaticChecks")));
+    EXPECT_EQ(defaults->integerForKey(QStringLiteral("SUScheduledCheckInterval")), 604800);
+    EXPECT_FALSE(defaults->value(SUAllowsAutomaticUpdatesKey)) << "whatever was there";
+    EXPECT_FALSE(defaults->value(SUAutomaticallyUpdateKey));
 }

@@ -2,7 +2,6 @@
 #include "app/shell/ApplicationDelegate.h"
 
 #include "platform/bundle/Bundle.h"
-#include "platform/preferences/Preferences.h"
 #include "platform/updates/UpdateAlert.h"
 #include "shared/utilities/classes/ExtraStringSystemUtilities.h"
 #include "tests/FakeDesktop.h"
@@ -37,7 +36,6 @@ TEST(ApplicationDelegateUpdates, AsksItsOwnFeedThroughTheSystemsProxy) {
     const WithEnvironment environment("https_proxy", "http://" + proxy.host("plain").toUtf8());
 
     const CaughtLog log;
-    Preferences::standard()->registerDefaults({{SUScheduledCheckIntervalKey, 604800}});
     ApplicationDelegate delegate;
     delegate.initCheckForUpdateURL();
     delegate.forwardCheckForUpdate(nullptr);

@@ -85,9 +85,9 @@ QString control(const char* type, const char* name, const char* action, const ch
 class LayoutTest : public testing::Test {
 protected:
     LayoutTest() {
-        defaults()->registerDefaults({{QStringLiteral("NibFloat"), 1.5},
-                                      {QStringLiteral("NibBool"), true},
-                                      {QStringLiteral("NibType"), 2}});
+        defaults()->registerKey(PreferenceKey<float>{QLatin1String("NibFloat"), 1.5F});
+        defaults()->registerKey(PreferenceKey<bool>{QLatin1String("NibBool"), true});
+        defaults()->registerKey(PreferenceKey<int>{QLatin1String("NibType"), 2});
     }
     ~LayoutTest() override {
         for (const QString& key :
@@ -231,7 +231,7 @@ TEST_F(LayoutTest, ABoundControlFollowsAndStoresItsPreference) {
 }
 
 TEST_F(LayoutTest, ABoundTextFieldTakesNumbersWithinTheRangeOnly) {
-    defaults()->registerRange(QStringLiteral("NibFloat"), {-90.0F, 90.0F});
+    defaults()->registerKey(PreferenceKey<float>{QLatin1String("NibFloat"), 1.5F, {-90.0F, 90.0F}});
     ASSERT_TRUE(load(control("QLineEdit", "field", "pushed", "NibFloat"))) << error_.toStdString();
     auto* field = get<QLineEdit>("field");
     const auto type = [field](const char* text) {
@@ -273,7 +273,6 @@ TEST_F(LayoutTest, ABoundTextFieldTakesNumbersWithinTheRangeOnly) {
     defaults()->setFloat(5.4F, QStringLiteral("NibFloat"));
     EXPECT_EQ(field->text(), u"5,4");
     QLocale::setDefault(QLocale::system());
-    defaults()->registerRange(QStringLiteral("NibFloat"), {});
 }
 
 TEST_F(LayoutTest, RegisteredClassesAreMadeAndBoundByTheirDoubleValue) {

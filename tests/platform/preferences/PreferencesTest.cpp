@@ -21,8 +21,10 @@
 
 namespace {
 
-const QString kNumber = QStringLiteral("Number");
-const QString kText = QStringLiteral("Text");
+constexpr PreferenceKey<float> kNumber{QLatin1String("Number"), 2.5F, {-90.0F, 90.0F}};
+constexpr PreferenceKey<int> kCount{QLatin1String("Count"), 12};
+constexpr PreferenceKey<bool> kFlag{QLatin1String("Flag"), true};
+const PreferenceKey<QString> kText{QLatin1String("Text"), QStringLiteral("GMT +0")};
 
 class PreferencesTest : public testing::Test {
 protected:
@@ -41,12 +43,7 @@ protected:
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 
-    std::unique_ptr<Preferences> open() const {
-        auto defaults = std::make_unique<Preferences>(path());
-        defaults->registerDefaults(
-            {{kNumber, 2.5}, {kText, QStringLiteral("GMT +0")}, {QStringLiteral("Flag"), true}});
-        return defaults;
-    }
+    std::unique_ptr<Preferences> open() const { return std::make_unique<Preferences>(path()); }
 
     const QTemporaryDir folder_;
 };
@@ -57,64 +54,72 @@ TEST_F(PreferencesTest, WhatIsStoredIsReadBackByTheNextRun) {
     const QString moon = QStringLiteral("GMT \u2212 \u6708, \"a;b=c\" %41\n");
     {
         const auto defaults = open();
+        defaults->registerKey(kFlag);
         QStringList changes;
         QObject::connect(defaults.get(), &Preferences::valueChanged,
-                         [&](const QString& key) { changes.append(key); });
-        defaults->setFloat(5.4F, kNumber);
-        defaults->setFloat(5.4F, kNumber);
-        defaults->setObject(moon, kText);
-        defaults->setBool(true, QStringLiteral("Flag"));
-        defaults->setInteger(-3, QStringLiteral("Other"));
-        EXPECT_EQ(changes, (QStringList{kNumber, kText, QStringLiteral("Other")}))
+                         [&](const QString& name) { changes.append(name); });
+        defaults->set(kNumber, -74.006386F);
+        defaults->set(kNumber, -74.006386F);
+        defaults->set(kText, moon);
+        defaults->set(kFlag, true);
+        defaults->set(kCount, -3);
+        EXPECT_EQ(changes, (QStringList{kNumber.name, kText.name, kCount.name}))
             << "each that answers otherwise now";
         EXPECT_TRUE(defaults->synchronize());
     }
-    EXPECT_TRUE(read().contains("Number=5.4\n")) << read().toStdString();
+    EXPECT_TRUE(read().contains("Number=-74.006386\n")) << "the shortest text: " << read().toStdString();
     const auto defaults = open();
-    EXPECT_EQ(defaults->floatForKey(kNumber), 5.4F);
-    EXPECT_EQ(defaults->stringForKey(kText), moon);
-    EXPECT_TRUE(defaults->boolForKey(QStringLiteral("Flag")));
-    EXPECT_EQ(defaults->integerForKey(QStringLiteral("Other")), -3);
+    const PreferenceKey<float> anywhere{kNumber.name};
+    EXPECT_EQ(defaults->value(anywhere), -74.006386F);
+    EXPECT_EQ(defaults->value(kText), moon);
+    EXPECT_TRUE(defaults->value(kFlag));
+    EXPECT_EQ(defaults->value(kCount), -3);
 }
 
-TEST_F(PreferencesTest, RegisteredValuesAnswerAndAreNeverWritten) {
+TEST_F(PreferencesTest, DefaultsAnswerAndAreNeverWritten) {
     {
         const auto defaults = open();
-        EXPECT_EQ(defaults->floatForKey(kNumber), 2.5F);
-        EXPECT_EQ(defaults->floatForKey(QStringLiteral("Unknown")), 0.0F);
-        EXPECT_TRUE(defaults->stringForKey(QStringLiteral("Unknown")).isEmpty());
-        defaults->setObject(QStringLiteral("own"), kText);
-        defaults->setFloat(2.5F, kNumber); // the user's choice, though it is the default
+        EXPECT_EQ(defaults->value(kNumber), 2.5F);
+        EXPECT_EQ(defaults->floatForKey(kNumber.name), 0.0F) << "no name that is registered";
+        EXPECT_TRUE(defaults->stringForKey(kText.name).isEmpty());
+        defaults->registerKey(kText);
+        defaults->registerKey(kNumber, 52.5F);
+        EXPECT_EQ(defaults->value(kNumber), 52.5F);
+        EXPECT_EQ(defaults->floatForKey(kNumber.name), 52.5F);
+        EXPECT_EQ(defaults->rangeForKey(kNumber.name).largest, 90.0F);
+        defaults->set(kText, QStringLiteral("own"));
+        defaults->set(kNumber, 52.5F); // the user's choice, though it is the default
         defaults->synchronize();
-        EXPECT_TRUE(read().contains("Number=2.5\n"));
+        EXPECT_TRUE(read().contains("Number=52.5\n"));
         QStringList changes;
         QObject::connect(defaults.get(), &Preferences::valueChanged,
-                         [&](const QString& key) { changes.append(key); });
-        defaults->removeObjectForKey(kText);
-        defaults->removeObjectForKey(kNumber);
-        EXPECT_EQ(changes, QStringList{kText});
-        EXPECT_EQ(defaults->stringForKey(kText), u"GMT +0");
+                         [&](const QString& name) { changes.append(name); });
+        defaults->remove(kText);
+        defaults->remove(kNumber);
+        EXPECT_EQ(changes, QStringList{kText.name});
+        EXPECT_EQ(defaults->value(kText), u"GMT +0");
     }
     EXPECT_FALSE(read().contains("Number") || read().contains("Text") || read().contains("Flag"));
 }
 
 TEST_F(PreferencesTest, AValueOfAnotherKindOrRangeIsLoggedOnceAndTheDefaultServes) {
     for (const char* wrong : {"north", "nan", "1e99", "\"1, 2\"", "", "90.5", "-91"}) {
-        write(QByteArray("[General]\nNumber=") + wrong + "\nFlag=maybe\nWhole=1.5\n");
+        write(QByteArray("[General]\nNumber=") + wrong + "\nFlag=maybe\nCount=1.5\n");
         const CaughtLog log;
         const auto defaults = open();
-        defaults->registerRange(kNumber, {-90.0F, 90.0F});
+        defaults->registerKey(kNumber);
         for (int i = 0; i < 2; ++i) {
-            EXPECT_EQ(defaults->floatForKey(kNumber), 2.5F) << wrong;
-            EXPECT_TRUE(defaults->boolForKey(QStringLiteral("Flag")));
-            EXPECT_EQ(defaults->integerForKey(QStringLiteral("Whole")), 0);
+            EXPECT_EQ(defaults->value(kNumber), 2.5F) << wrong;
+            EXPECT_EQ(defaults->floatForKey(kNumber.name), 2.5F) << wrong;
+            EXPECT_TRUE(defaults->value(kFlag));
+            EXPECT_EQ(defaults->value(kCount), 12);
         }
         EXPECT_EQ(log.lines().size(), 3) << wrong;
-        EXPECT_TRUE(log.lines().value(0).contains(kNumber));
+        EXPECT_TRUE(log.lines().value(0).contains(kNumber.name));
     }
     write("[General]\nFlag=NO\nNumber=7\n");
-    EXPECT_FALSE(open()->boolForKey(QStringLiteral("Flag")));
-    EXPECT_EQ(open()->integerForKey(kNumber), 7);
+    EXPECT_FALSE(open()->value(kFlag));
+    EXPECT_EQ(open()->value(kNumber), 7.0F);
 }
 
 TEST_F(PreferencesTest, ADamagedFileIsKeptAsideEveryTime) {
@@ -125,10 +130,10 @@ TEST_F(PreferencesTest, ADamagedFileIsKeptAsideEveryTime) {
         const CaughtLog log;
         const auto defaults = open();
         EXPECT_EQ(log.lines().size(), 1);
-        EXPECT_EQ(defaults->floatForKey(kNumber), 2.5F);
-        defaults->setFloat(9.0F, kNumber);
+        EXPECT_EQ(defaults->value(kNumber), 2.5F);
+        defaults->set(kNumber, 9.0F);
         EXPECT_TRUE(defaults->synchronize());
-        EXPECT_EQ(open()->floatForKey(kNumber), 9.0F);
+        EXPECT_EQ(open()->value(kNumber), 9.0F);
     }
     EXPECT_EQ(read(".damaged"), first) << "the second does not take its place";
     EXPECT_EQ(read(".damaged-2"), second);
@@ -148,22 +153,22 @@ TEST_F(PreferencesTest, NobodyElseReadsThem) {
     };
     {
         Preferences defaults(file);
-        defaults.setInteger(1, kNumber);
+        defaults.set(kCount, 1);
         QCoreApplication::processEvents();
         expectPrivate("made by the event loop");
         chmod(qPrintable(folder), 0777);
         QFile::remove(file);
-        defaults.setInteger(2, kNumber);
+        defaults.set(kCount, 2);
         defaults.synchronize();
         expectPrivate("made anew");
         chmod(qPrintable(file), 0666);
-        defaults.setInteger(3, kNumber);
+        defaults.set(kCount, 3);
         defaults.synchronize();
         expectPrivate("written over a wider one");
     }
     chmod(qPrintable(folder), 0755);
     chmod(qPrintable(file), 0644);
-    EXPECT_EQ(Preferences(file).integerForKey(kNumber), 3);
+    EXPECT_EQ(Preferences(file).value(kCount), 3);
     expectPrivate("as an earlier version left them");
     umask(before);
 }
@@ -179,15 +184,15 @@ TEST_F(PreferencesTest, WhatIsNoFileIsKeptAsideAndNotWaitedFor) {
         const CaughtLog log;
         {
             const auto defaults = open();
-            EXPECT_EQ(defaults->floatForKey(kNumber), 2.5F);
-            defaults->setInteger(4, kNumber);
+            EXPECT_EQ(defaults->value(kNumber), 2.5F);
+            defaults->set(kCount, 4);
             EXPECT_TRUE(defaults->synchronize());
             EXPECT_TRUE(QFile::remove(path()));
             put(); // while the program runs
-            defaults->setInteger(5, kNumber);
+            defaults->set(kCount, 5);
             EXPECT_TRUE(defaults->synchronize());
         }
-        EXPECT_EQ(open()->integerForKey(kNumber), 5);
+        EXPECT_EQ(open()->value(kCount), 5);
         EXPECT_EQ(log.lines().size(), 2) << qPrintable(log.lines().join(u'\n'));
         QFile::remove(path());
     }
@@ -196,24 +201,24 @@ TEST_F(PreferencesTest, WhatIsNoFileIsKeptAsideAndNotWaitedFor) {
 TEST_F(PreferencesTest, AFolderThatRefusesIsLogged) {
     write("");
     Preferences defaults(path("/inside/trial.conf"));
-    defaults.setInteger(1, kNumber);
+    defaults.set(kCount, 1);
     const CaughtLog log;
     EXPECT_FALSE(defaults.synchronize());
     EXPECT_TRUE(log.lines().value(0).contains(u"can't be written"));
-    EXPECT_EQ(defaults.integerForKey(kNumber), 1) << "it serves for this run";
+    EXPECT_EQ(defaults.value(kCount), 1) << "it serves for this run";
 }
 
 TEST_F(PreferencesTest, AKillAtAnyMomentLeavesAWholeFile) {
     const auto child = [this](int round) {
         Preferences defaults(path());
         for (int number = round * 1000;; ++number) {
-            defaults.setInteger(number, kNumber);
-            defaults.setObject(QStringLiteral("text %1").arg(number), kText);
+            defaults.set(kCount, number);
+            defaults.set(kText, QStringLiteral("text %1").arg(number));
             defaults.synchronize();
         }
     };
     static const QRegularExpression whole(
-        QStringLiteral("^\\[General\\]\nNumber=(\\d+)\nText=text (\\d+)\n$"));
+        QStringLiteral("^\\[General\\]\nCount=(\\d+)\nText=text (\\d+)\n$"));
     QSet<QString> seen;
     QRandomGenerator random(20240101);
     for (int round = 0; round < 200; ++round) {

@@ -82,9 +82,10 @@ public:
 class UpdateCheckerTest : public testing::Test {
 protected:
     UpdateCheckerTest() {
-        for (const QString& key : {SULastCheckTimeKey, SUSkippedVersionKey, SUScheduledCheckIntervalKey})
-            defaults()->removeObjectForKey(key);
-        defaults()->setBool(false, SUEnableAutomaticChecksKey);
+        defaults()->remove(SULastCheckTimeKey);
+        defaults()->remove(SUSkippedVersionKey);
+        defaults()->remove(SUScheduledCheckIntervalKey);
+        defaults()->set(SUEnableAutomaticChecksKey, false);
     }
 
     ~UpdateCheckerTest() override {
@@ -95,7 +96,7 @@ protected:
 
     /// An updater that looks by itself as soon as it may.
     std::unique_ptr<UpdateChecker> automatic(const UpdateCheckerTiming& timing = kAtOnce) {
-        defaults()->setBool(true, SUEnableAutomaticChecksKey);
+        defaults()->set(SUEnableAutomaticChecksKey, true);
         auto updater = std::make_unique<UpdateChecker>(timing);
         updater->setDelegate(&delegate_);
         updater->setFeedURL(server_.url(QStringLiteral("feed")));
@@ -113,7 +114,7 @@ protected:
     /// Whether one check by itself comes to its end without a word to the user.
     void expectSilence() {
         const qsizetype before = server_.requests().size();
-        defaults()->removeObjectForKey(SULastCheckTimeKey);
+        defaults()->remove(SULastCheckTimeKey);
         const auto updater = automatic();
         EXPECT_TRUE(waitFor([&] { return updater->timeUntilNextCheck() > std::chrono::minutes(30); }));
         EXPECT_EQ(server_.requests().size(), before + 1);
@@ -175,7 +176,7 @@ TEST_F(UpdateCheckerTest, TellsOnlyTheAskerOfAFailure) {
 
     UpdateChecker updater(kAtOnce);
     for (const char* address : {"", "http://localhost/feed", "https:///feed"}) {
-        defaults()->setBool(true, SUEnableAutomaticChecksKey);
+        defaults()->set(SUEnableAutomaticChecksKey, true);
         updater.setFeedURL(QUrl(QLatin1String(address)));
         letPass(20);
         EXPECT_TRUE(alerts().isEmpty()) << address;
@@ -187,7 +188,7 @@ TEST_F(UpdateCheckerTest, TellsOnlyTheAskerOfAFailure) {
 
 TEST_F(UpdateCheckerTest, SkipsOrRemindsAsTold) {
     const auto offered = [&](const char* button) {
-        defaults()->removeObjectForKey(SULastCheckTimeKey);
+        defaults()->remove(SULastCheckTimeKey);
         const auto updater = automatic();
         UpdateAlert* offer = alert();
         if (auto* pressed = offer ? offer->findChild<QPushButton*>(QLatin1String(button)) : nullptr)
@@ -197,7 +198,7 @@ TEST_F(UpdateCheckerTest, SkipsOrRemindsAsTold) {
     serve(feedWith(runningBuild() + ".1", "9.1"));
     EXPECT_TRUE(offered("remindLater"));
     EXPECT_TRUE(offered("skip"));
-    EXPECT_EQ(defaults()->stringForKey(SUSkippedVersionKey), QString::fromUtf8(runningBuild() + ".1"));
+    EXPECT_EQ(defaults()->value(SUSkippedVersionKey), QString::fromUtf8(runningBuild() + ".1"));
     expectSilence();
     {
         const auto updater = asked();
@@ -245,11 +246,11 @@ TEST_F(UpdateCheckerTest, ChecksByItselfOncePerInterval) {
     };
     const auto lastCheck = [](int secondsAgo) {
         const QDateTime when = QDateTime::currentDateTimeUtc().addSecs(-secondsAgo);
-        defaults()->setObject(when.toString(Qt::ISODate), SULastCheckTimeKey);
+        defaults()->set(SULastCheckTimeKey, when.toString(Qt::ISODate));
     };
     UpdateCheckerTiming timing = kAtOnce;
     for (const auto& each : cases) {
-        defaults()->setInteger(each.interval, SUScheduledCheckIntervalKey);
+        defaults()->set(SUScheduledCheckIntervalKey, each.interval);
         lastCheck(each.last);
         timing.firstCheck = each.first;
         const auto wait = automatic(timing)->timeUntilNextCheck();
@@ -266,9 +267,9 @@ TEST_F(UpdateCheckerTest, ChecksByItselfOncePerInterval) {
     lastCheck(0);
     const auto updater = automatic(timing);
     EXPECT_GT(updater->timeUntilNextCheck(), std::chrono::minutes(30));
-    defaults()->setBool(false, SUEnableAutomaticChecksKey);
+    defaults()->set(SUEnableAutomaticChecksKey, false);
     EXPECT_FALSE(updater->timeUntilNextCheck());
-    defaults()->setBool(true, SUEnableAutomaticChecksKey);
+    defaults()->set(SUEnableAutomaticChecksKey, true);
     lastCheck(8 * 86400);
     EXPECT_TRUE(waitFor([&] { return delegate_.questions == 1; }));
     EXPECT_TRUE(waitFor([&] { return updater->timeUntilNextCheck() > std::chrono::minutes(30); }))

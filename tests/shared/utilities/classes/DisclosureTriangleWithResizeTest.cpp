@@ -16,7 +16,7 @@
 
 namespace {
 
-const QString kKey = QStringLiteral("TriangleOpen");
+constexpr PreferenceKey<bool> kKey{QLatin1String("TriangleOpen"), true};
 
 /// Answers how long the desktop's animations last.
 class Style : public QProxyStyle {
@@ -40,7 +40,7 @@ protected:
     };
 
     DisclosureTriangleWithResizeTest() {
-        defaults()->registerDefaults({{kKey, true}});
+        defaults()->registerKey(kKey);
         for (int i = 0; i < 3; ++i)
             sections_.append(section(i == 1));
         int y = 0;
@@ -52,7 +52,7 @@ protected:
         content_.show();
         QApplication::processEvents();
     }
-    ~DisclosureTriangleWithResizeTest() override { defaults()->removeObjectForKey(kKey); }
+    ~DisclosureTriangleWithResizeTest() override { defaults()->remove(kKey); }
 
     static Preferences* defaults() { return Preferences::standard(); }
 
@@ -62,7 +62,7 @@ protected:
         auto* triangle = new DisclosureTriangleWithResize;
         triangle->setStyle(&style_);
         if (bound)
-            triangle->setProperty("binding", kKey);
+            triangle->setProperty("binding", QString(kKey.name));
         auto* field = new QLineEdit;
         auto* layout = new QVBoxLayout(view);
         layout->addWidget(triangle);
@@ -117,7 +117,7 @@ TEST_F(DisclosureTriangleWithResizeTest, FoldsItsBoxAndCarriesTheOthersAlong) {
 
 TEST_F(DisclosureTriangleWithResizeTest, AnimatesItsFoldingWhereTheDesktopDoes) {
     style_.duration = 60;
-    defaults()->setBool(false, kKey);
+    defaults()->set(kKey, false);
     awake();
     const auto& [box, triangle, field] = sections_[0];
     const auto* bound = sections_[1].triangle;
@@ -131,7 +131,7 @@ TEST_F(DisclosureTriangleWithResizeTest, AnimatesItsFoldingWhereTheDesktopDoes) 
     EXPECT_GT(triangle->currentHeight(), triangle->smallHeight());
     EXPECT_TRUE(field->isVisible());
     // Another section, and the same one again, before it is done.
-    defaults()->setBool(true, kKey);
+    defaults()->set(kKey, true);
     triangle->click();
     triangle->click();
     ASSERT_TRUE(
@@ -156,17 +156,17 @@ TEST_F(DisclosureTriangleWithResizeTest, NeighboursAreAboveOrBelowInOrder) {
 }
 
 TEST_F(DisclosureTriangleWithResizeTest, ABoundTriangleFollowsItsPreferenceAlone) {
-    defaults()->setBool(false, kKey);
+    defaults()->set(kKey, false);
     awake();
     const auto* triangle = sections_[1].triangle;
     EXPECT_FALSE(triangle->isChecked());
     EXPECT_EQ(triangle->currentHeight(), triangle->smallHeight());
     sections_[1].triangle->click(); // nothing here stores it
     EXPECT_EQ(triangle->currentHeight(), triangle->smallHeight());
-    defaults()->setBool(true, kKey);
+    defaults()->set(kKey, true);
     EXPECT_TRUE(triangle->isChecked());
     EXPECT_EQ(triangle->currentHeight(), triangle->largeHeight());
-    defaults()->setBool(false, kKey);
+    defaults()->set(kKey, false);
     EXPECT_EQ(triangle->currentHeight(), triangle->smallHeight());
 }
 
