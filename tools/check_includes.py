@@ -64,8 +64,9 @@ def main():
                 other = target_of(found[1])
                 if other not in allowed and (own, other) not in ALSO:
                     wrong.append(f"{path}:{number}: {own} may not use {found[1]}")
-    if graphical := reachable(links, "lumivane_engine") & WIDGETS:
-        wrong.append(f"the engine links {', '.join(sorted(graphical))}")
+    for target in ("lumivane_engine", "lumivane_model"):
+        if graphical := reachable(links, target) & WIDGETS:
+            wrong.append(f"{target} links {', '.join(sorted(graphical))}")
     print("\n".join(wrong), file=sys.stderr)
     return 1 if wrong else 0
 

@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "app/ui/LumivaneStatusItem.h"
 
-#include "app/engine/CMoon.h"
-#include "app/engine/CMoonHelper.h"
+#include "app/model/PanelModel.h"
 #include "app/ui/LumivaneWindow.h"
 #include "app/ui/LumivaneWindowController.h"
 #include "platform/bundle/Bundle.h"
 #include "platform/files/RegularFile.h"
 #include "platform/locale/Clock.h"
-#include "platform/locale/NumberFormatter.h"
 #include "platform/log/Log.h"
 #include "platform/tray/TrayIcon.h"
 #include "platform/windows/Screen.h"
@@ -16,7 +14,6 @@
 #include "shared/utilities/classes/ExtraApplicationUtilities.h"
 #include "shared/utilities/classes/ExtraWindowUtilities.h"
 #include "shared/utilities/classes/NSImageUtilities.h"
-#include "shared/utilities/classes/values/ExtraMutableStringUtilities.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -114,8 +111,9 @@ void LumivaneStatusItem::awakeFromNib() {
 
 void LumivaneStatusItem::showNow() {
     const Clock::Hold oneMoment;
-    setImage(LumivaneWindowController::moonImageFor(LumivaneWindowController::presentGMTSeconds()));
-    updateToolTip();
+    const PanelModel present;
+    setImage(LumivaneWindowController::moonImageFor(present.moment()));
+    statusItem_->setToolTip(present.toolTip());
 }
 
 void LumivaneStatusItem::moonClockTimer() {
@@ -134,23 +132,6 @@ void LumivaneStatusItem::setImage(const QImage& image) {
     for (const int size : std::set{side, 22, 24, 32, 2 * side, 44, 48, kLargestIcon})
         images.append(NSImageUtilities::imageOfSize(small, QSize(size, size)));
     statusItem_->setImages(images);
-}
-
-void LumivaneStatusItem::updateToolTip() {
-    using ExtraMutableStringUtilities::replaceAll;
-    bool outOfRange = false;
-    const std::uint32_t present = LumivaneWindowController::presentGMTSeconds(&outOfRange);
-    if (outOfRange) {
-        statusItem_->setToolTip(CMoonHelper::stringForInformation(6));
-        return;
-    }
-    QString phase = CMoonHelper::stringForInformation(1);
-    replaceAll(phase, QStringLiteral("^1"),
-               CMoonHelper::stringForMoonName(gMoon.GetDescriptorIndex(present)));
-    QString lit = CMoonHelper::stringForInformation(2);
-    replaceAll(lit, QStringLiteral("^1"),
-               NumberFormatter::string(static_cast<float>(gMoon.IlluminationDisplay(present)), 3));
-    statusItem_->setToolTip(phase + QLatin1Char('\n') + lit);
 }
 
 void LumivaneStatusItem::makeAsHiddenMenu() {

@@ -79,7 +79,6 @@ private:
     void dropController();
     void keepUnderIcon(LumivaneWindow* window);
     void placeUnderIcon();
-    void updateToolTip();
 
     Shell& shell_;
     std::unique_ptr<TrayIcon> statusItem_;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/model/PanelModel.h"
+
 #include <QImage>
 #include <QObject>
 
@@ -26,9 +28,9 @@ class QToolButton;
 class QWidget;
 class Shell;
 
-/// Runs the information panel, which shows the Moon for one chosen moment, the displayed date. The moment
-/// exists only in the date picker and the lunation slider; it is GMT seconds everywhere else and always
-/// inside the lunation table.
+/// Runs the information panel, which shows the Moon for one chosen moment, the displayed date: it carries
+/// what the controls say to the `PanelModel` and what the model says to the controls. Moments are in GMT
+/// seconds.
 class LumivaneWindowController : public QObject {
     Q_OBJECT
 
@@ -47,9 +49,6 @@ public:
     /// for a place south of the equator. Empty when the resource is missing.
     static QImage moonImageFor(std::uint32_t gmtSeconds);
 
-    /// The present in GMT seconds, held inside the lunation table; `outOfRange` tells whether it had to be.
-    static std::uint32_t presentGMTSeconds(bool* outOfRange = nullptr);
-
     void setStatusItem(LumivaneStatusItem* statusItem);
     LumivaneWindow* window() const { return window_.get(); }
     QMenu* gearMenu() const { return gearMenu_; }
@@ -61,7 +60,7 @@ public:
 
     /// The displayed date. What is set comes back to the second for every zone type; a moment outside the
     /// table is held at its nearest end.
-    std::uint32_t datePickerGMTSeconds() const;
+    std::uint32_t datePickerGMTSeconds() const { return model_.moment(); }
     void setDatePickerGMTSeconds(std::int64_t gmtSeconds);
 
     /// Moves the panel to a moment, held inside the table.
@@ -123,15 +122,14 @@ private:
     void selectTimeZoneEntry(int type);
     void updateForTray();
     void showStoredPlace();
-    void updateDateRange();
-    void updateQuarterTimes(std::uint32_t t);
-    void updateRiseSetLines(std::uint32_t t);
+    void showModel();
+    void showPickerDate();
 
     Shell& shell_;
     QString originalSystemTimeZoneMenuTitle_;
     LumivaneStatusItem* statusItem_ = nullptr;
     std::unique_ptr<LumivaneWindow> window_;
-    bool presentIsOutOfRange_ = false;
+    PanelModel model_;
 
     // Outlets
     QMenu* gearMenu_ = nullptr;

@@ -5,33 +5,20 @@
 #include "app/ui/LumivaneWindowController.h"
 #include "platform/bundle/Bundle.h"
 #include "platform/files/RegularFile.h"
-#include "platform/layouts/DatePicker.h"
 #include "platform/layouts/Mnemonics.h"
 #include "platform/log/Log.h"
 #include "platform/richtext/RTFReader.h"
 #include "shared/utilities/classes/ExtraMutableAttributedStringUtilities.h"
 #include "shared/utilities/classes/ExtraStringSystemUtilities.h"
 #include "shared/utilities/classes/SimpleTextWindow.h"
-#include "shared/utilities/classes/values/ExtraDateUtilities.h"
-#include "shared/utilities/classes/values/ExtraMutableStringUtilities.h"
 
-#include <QComboBox>
 #include <QCoreApplication>
-#include <QLabel>
-#include <QLineEdit>
 #include <QPointer>
 #include <QTextDocument>
 
 namespace {
 
 constexpr qint64 kLargestCredits = 1 << 20;
-
-/// A localised label format with its first "%@" filled.
-QString filled(const char* format, const QString& value) {
-    QString text = Bundle::main().localizedString(format);
-    const qsizetype slot = text.indexOf(u"%@");
-    return slot < 0 ? text : text.replace(slot, 2, value);
-}
 
 /// What the credits say in words; names and titles stay as they are.
 constexpr const char* kCreditsTexts[]{
@@ -74,29 +61,7 @@ std::unique_ptr<QTextDocument> plainCredits() {
 void LumivaneWindowController::copyMoonToClipboard(QObject*) {
     if (!window_->isVisible())
         showNow(nullptr); // asked for from the icon's menu, where nothing but the present is seen
-    const QDateTime date = datePicker_->dateValue();
-    QString text;
-    const auto append = [&text](const QString& line) { ExtraMutableStringUtilities::appendLine(text, line); };
-    append(ExtraDateUtilities::dateStringWithFormat(date, 2));
-    append(ExtraDateUtilities::timeStringWithSeconds(date, true));
-    append(timeZonePopup_->currentText());
-    append(QStringLiteral("\n"));
-    for (const QLabel* field : {lunation_, phaseName_, illumination_, daysSinceNewMoon_, nextFullMoonName_})
-        append(field->text());
-    append(QStringLiteral("\n"));
-    append(filled(QT_TRANSLATE_NOOP("Lumivane", "Sun Rise/set %@"), sunRiseSet_->text()));
-    append(filled(QT_TRANSLATE_NOOP("Lumivane", "Natical Rise/set %@"), nauticalTwilight_->text()));
-    append(filled(QT_TRANSLATE_NOOP("Lumivane", "Moon Rise/set %@"), moonRiseSet_->text()));
-    append(QStringLiteral("\n"));
-    append(filled(QT_TRANSLATE_NOOP("Lumivane", "New %@"), timeNew_->text()));
-    append(filled(QT_TRANSLATE_NOOP("Lumivane", "Q1 %@"), timeFirstQuarter_->text()));
-    append(filled(QT_TRANSLATE_NOOP("Lumivane", "Full %@"), timeFull_->text()));
-    append(filled(QT_TRANSLATE_NOOP("Lumivane", "Q3 %@"), timeLastQuarter_->text()));
-    append(QStringLiteral("\n"));
-    QString place = filled(QT_TRANSLATE_NOOP("Lumivane", "Longitude/Latitude %@/%@"), longitude_->text());
-    append(place.replace(place.indexOf(u"%@"), 2, latitude_->text()));
-
-    ExtraStringUtilities::copyToClipboard(text);
+    ExtraStringUtilities::copyToClipboard(model_.clipboardText());
     if (!isWindoid())
         statusItem_->makeAsHiddenMenu();
 }

@@ -65,7 +65,7 @@ void LumivaneWindowController::prepareTimeZonePopup() {
 void LumivaneWindowController::defaultsChanged(const QString& key) {
     if (key == kCustomTitle)
         timeZonePopup_->setItemText(timeZonePopup_->findData(static_cast<int>(kTimeZoneCustom)),
-                                    NumberFormatter::localized(defaults()->stringForKey(kCustomTitle)));
+                                    PanelModel::customZoneTitle());
 }
 
 void LumivaneWindowController::selectTimeZoneEntry(int type) {
@@ -81,9 +81,8 @@ void LumivaneWindowController::timeZoneChanged(QObject* sender) {
     }
     const Clock::Hold oneMoment;
     // The picker keeps what it shows, unless that is now a moment outside the table.
-    setDatePickerGMTSeconds(datePickerGMTSeconds());
-    setLunationSliderGMTSeconds(datePickerGMTSeconds());
-    updateStaticMoonInfo();
+    model_.followZone();
+    showModel();
 }
 
 void LumivaneWindowController::timeZoneOther(QObject*) {
