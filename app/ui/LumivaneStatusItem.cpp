@@ -4,6 +4,7 @@
 #include "app/model/PanelModel.h"
 #include "app/ui/LumivaneWindow.h"
 #include "app/ui/LumivaneWindowController.h"
+#include "app/ui/PanelCommands.h"
 #include "platform/bundle/Bundle.h"
 #include "platform/files/RegularFile.h"
 #include "platform/locale/Clock.h"
@@ -86,7 +87,7 @@ bool raiseAlert() {
 }
 } // namespace
 
-LumivaneStatusItem::LumivaneStatusItem(Shell& shell) : shell_(shell) {
+LumivaneStatusItem::LumivaneStatusItem(Shell& shell) : commands_(new PanelCommands(shell, this)) {
 }
 
 LumivaneStatusItem::~LumivaneStatusItem() = default;
@@ -94,15 +95,17 @@ LumivaneStatusItem::~LumivaneStatusItem() = default;
 void LumivaneStatusItem::awakeFromNib() {
     statusItem_ = std::make_unique<TrayIcon>(QStringLiteral("lumivane"), QStringLiteral("Lumivane"));
     menu_ = std::make_unique<QMenu>();
+    menu_->addAction(Bundle::main().localizedString(QT_TRANSLATE_NOOP("Lumivane", "&Show Lumivane")), this,
+                     &LumivaneStatusItem::showPanel);
+    menu_->addSeparator();
+    menu_->addActions(commands_->actions());
+    connect(menu_.get(), &QMenu::aboutToShow, this, [this] {
+        for (QAction* command : commands_->actions())
+            commands_->validateMenuItem(command);
+    });
     statusItem_->setMenu(menu_.get());
     connect(statusItem_.get(), &TrayIcon::clicked, this, [this] { statusItemClicked(statusItem_.get()); });
     connect(statusItem_.get(), &TrayIcon::shownChanged, this, &LumivaneStatusItem::trayChanged);
-    // The panel waits until someone asks for it or for the menu, which has its commands: the icon comes
-    // first.
-    connect(menu_.get(), &QMenu::aboutToShow, this, [this] {
-        if (lumivaneWindow_ || !raiseAlert())
-            Q_EMIT controller().gearMenu()->aboutToShow();
-    });
     showNow();
     clock_.setTimerType(Qt::VeryCoarseTimer);
     connect(&clock_, &QTimer::timeout, this, &LumivaneStatusItem::moonClockTimer);
@@ -137,14 +140,6 @@ void LumivaneStatusItem::setImage(const QImage& image) {
 void LumivaneStatusItem::makeAsHiddenMenu() {
     showNow();
     dropController();
-    // When the old panel is gone, so that the next finds its memory free.
-    QMetaObject::invokeMethod(
-        this,
-        [this] {
-            if (!raiseAlert())
-                controller();
-        },
-        Qt::QueuedConnection);
     QTimer::singleShot(kSettling, this, &ExtraApplicationUtilities::returnFreedMemory);
 }
 
@@ -159,6 +154,7 @@ void LumivaneStatusItem::dropController() {
     if (!lumivaneWindow_)
         return;
     ExtraWindowUtilities::fadeHideSynchronous(lumivaneWindow_->window());
+    commands_->setPanel(nullptr);
     // It may be one of its own controls that asks for the change.
     lumivaneWindow_.release()->deleteLater();
 }
@@ -166,16 +162,11 @@ void LumivaneStatusItem::dropController() {
 void LumivaneStatusItem::loadController(std::uint32_t styleMask) {
     if (QApplication::windowIcon().isNull())
         QApplication::setWindowIcon(windowIcon());
-    lumivaneWindow_ = LumivaneWindowController::lumivaneWindowController(shell_, styleMask);
+    lumivaneWindow_ = LumivaneWindowController::lumivaneWindowController(*commands_, styleMask);
+    commands_->setPanel(lumivaneWindow_.get());
     lumivaneWindow_->setStatusItem(this);
     if (!lumivaneWindow_->isWindoid())
         keepUnderIcon(lumivaneWindow_->window());
-
-    menu_->clear();
-    menu_->addAction(Bundle::main().localizedString(QT_TRANSLATE_NOOP("Lumivane", "&Show Lumivane")), this,
-                     &LumivaneStatusItem::showPanel);
-    menu_->addSeparator();
-    menu_->addActions(lumivaneWindow_->gearMenu()->actions());
 }
 
 LumivaneWindowController& LumivaneStatusItem::controller() {

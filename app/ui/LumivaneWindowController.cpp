@@ -4,6 +4,7 @@
 #include "app/ui/ControlIcon.h"
 #include "app/ui/LumivaneStatusItem.h"
 #include "app/ui/LumivaneWindow.h"
+#include "app/ui/PanelCommands.h"
 #include "platform/bundle/Bundle.h"
 #include "platform/layouts/DatePicker.h"
 #include "platform/layouts/Layout.h"
@@ -71,9 +72,9 @@ void registerClasses() {
 } // namespace
 
 std::unique_ptr<LumivaneWindowController>
-LumivaneWindowController::lumivaneWindowController(Shell& shell, std::uint32_t styleMask) {
+LumivaneWindowController::lumivaneWindowController(PanelCommands& commands, std::uint32_t styleMask) {
     try {
-        std::unique_ptr<LumivaneWindowController> controller(new LumivaneWindowController(shell));
+        std::unique_ptr<LumivaneWindowController> controller(new LumivaneWindowController(commands));
         controller->loadWindow(styleMask);
         controller->window_->hide();
         return controller;
@@ -179,7 +180,8 @@ void LumivaneWindowController::awakeFromNib() {
 
 void LumivaneWindowController::makeMenus() {
     gearMenu_ = new QMenu(window_.get());
-    gearMenu_->addActions(window_->actions());
+    gearMenu_->addActions(commands_.actions());
+    window_->addActions(commands_.actions()); // for their keys
     auto* placeMenu = new QMenu(latitudeAndLongitudePopup_);
     placeMenu->addActions(latitudeAndLongitudePopup_->actions());
     latitudeAndLongitudePopup_->setMenu(placeMenu);
@@ -194,8 +196,6 @@ void LumivaneWindowController::makeMenus() {
         const int x = gearButton_->isRightToLeft() ? gearButton_->width() - gearMenu_->sizeHint().width() : 0;
         gearMenu_->popup(gearButton_->mapToGlobal(QPoint(x, gearButton_->height())));
     });
-    for (QAction* command : window_->actions())
-        command->setShortcutContext(Qt::WindowShortcut);
 }
 
 void LumivaneWindowController::giveKeys() {

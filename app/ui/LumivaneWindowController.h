@@ -13,6 +13,7 @@ class AskNumber;
 class DisclosureTriangleWithResize;
 class LumivaneStatusItem;
 class LumivaneWindow;
+class PanelCommands;
 class MouseDownButton;
 class DatePicker;
 class Slider;
@@ -26,7 +27,6 @@ class QPushButton;
 class QScrollArea;
 class QToolButton;
 class QWidget;
-class Shell;
 
 /// Runs the information panel, which shows the Moon for one chosen moment, the displayed date: it carries
 /// what the controls say to the `PanelModel` and what the model says to the controls. Moments are in GMT
@@ -35,10 +35,10 @@ class LumivaneWindowController : public QObject {
     Q_OBJECT
 
 public:
-    /// A new controller with its panel loaded and not visible, in the window style `styleMask`; `shell`
-    /// outlives it. When the layout can't be loaded, which is taken as a sign that the program was moved
-    /// while it runs, the user is told and the program ends with status 1.
-    static std::unique_ptr<LumivaneWindowController> lumivaneWindowController(Shell& shell,
+    /// A new controller with its panel loaded and not visible, in the window style `styleMask`; `commands`,
+    /// which its gear menu shows, outlive it. When the layout can't be loaded, which is taken as a sign that
+    /// the program was moved while it runs, the user is told and the program ends with status 1.
+    static std::unique_ptr<LumivaneWindowController> lumivaneWindowController(PanelCommands& commands,
                                                                               std::uint32_t styleMask);
     ~LumivaneWindowController() override;
 
@@ -52,7 +52,11 @@ public:
     void setStatusItem(LumivaneStatusItem* statusItem);
     LumivaneWindow* window() const { return window_.get(); }
     QMenu* gearMenu() const { return gearMenu_; }
+    const PanelModel& model() const { return model_; }
     bool isWindoid() const;
+
+    /// Hides a drop-down; a utility window stays.
+    void putDropDownAway();
 
     void updateStaticMoonInfo();
     void updateMoonImage();
@@ -108,7 +112,7 @@ public Q_SLOTS:
     void terminate(QObject* sender);
 
 private:
-    explicit LumivaneWindowController(Shell& shell) : shell_(shell) {}
+    explicit LumivaneWindowController(PanelCommands& commands) : commands_(commands) {}
 
     void loadWindow(std::uint32_t styleMask);
     void connectOutlets();
@@ -125,7 +129,7 @@ private:
     void showModel();
     void showPickerDate();
 
-    Shell& shell_;
+    PanelCommands& commands_;
     QString originalSystemTimeZoneMenuTitle_;
     LumivaneStatusItem* statusItem_ = nullptr;
     std::unique_ptr<LumivaneWindow> window_;

@@ -4,7 +4,7 @@
 #include "app/ui/LumivaneStatusItem.h"
 #include "app/ui/LumivaneWindow.h"
 #include "app/ui/LumivaneWindowController.h"
-#include "app/ui/Shell.h"
+#include "app/ui/PanelCommands.h"
 #include "platform/layouts/Slider.h"
 #include "platform/locale/Clock.h"
 #include "platform/locale/TimeZone.h"
@@ -97,12 +97,9 @@ void LumivaneWindowController::updateQuarterButtons() {
 }
 
 bool LumivaneWindowController::validateMenuItem(QAction* item) {
-    const QString action = item->property("action").toString();
-    if (action == u"runAtLogin") {
-        item->setChecked(shell_.alreadySetToStartup(std::nullopt));
-    } else if (action == u"latitudeAndLongitudeFromSystemSettings") {
-        item->setText(QStringLiteral("%1 (%2)").arg(originalSystemTimeZoneMenuTitle_,
-                                                    TimeZone::name(TimeZone::systemTimeZone())));
-    }
+    if (item != placeFromSystemSettings_)
+        return commands_.validateMenuItem(item);
+    item->setText(QStringLiteral("%1 (%2)").arg(originalSystemTimeZoneMenuTitle_,
+                                                TimeZone::name(TimeZone::systemTimeZone())));
     return true;
 }

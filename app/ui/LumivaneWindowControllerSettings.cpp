@@ -4,20 +4,17 @@
 #include "app/ui/LumivaneStatusItem.h"
 #include "app/ui/LumivaneWindow.h"
 #include "app/ui/LumivaneWindowController.h"
-#include "app/ui/Shell.h"
+#include "app/ui/PanelCommands.h"
 #include "platform/bundle/Bundle.h"
 #include "platform/layouts/Slider.h"
 #include "platform/locale/Clock.h"
 #include "platform/locale/NumberFormatter.h"
 #include "platform/preferences/Preferences.h"
 #include "shared/utilities/classes/AskNumber.h"
-#include "shared/utilities/classes/InternetConfig.h"
 #include "shared/utilities/classes/values/ExtraNumberUtilities.h"
 
-#include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
-#include <QPointer>
 
 #include <array>
 #include <utility>
@@ -38,11 +35,6 @@ float lastBrightness = 0.0F;
 
 Preferences* defaults() {
     return Preferences::standard();
-}
-
-QString webPage(const char* path) {
-    return QStringLiteral("https://%1%2")
-        .arg(Bundle::main().infoString(QStringLiteral("LVWebHost")), QLatin1String(path));
 }
 
 /// "GMT +5.5" for a custom offset, as the preferences keep it.
@@ -122,7 +114,7 @@ void LumivaneWindowController::latitudeAndLongitudeFromSystemSettings(QObject*) 
 }
 
 void LumivaneWindowController::latitudeAndLongitudeFromWeb(QObject*) {
-    InternetConfig::launchURL(webPage("/products/lumivane/globalposition.htm"));
+    PanelCommands::openPage("/products/lumivane/globalposition.htm");
 }
 
 void LumivaneWindowController::latitudeOrLongitudeChange(QObject*) {
@@ -157,22 +149,31 @@ void LumivaneWindowController::hideButton(QObject*) {
     statusItem_->windowWillClose();
 }
 
-void LumivaneWindowController::runAtLogin(QObject*) {
-    shell_.toggleSetToStartup(std::nullopt);
-}
-
-void LumivaneWindowController::checkForUpdate(QObject* sender) {
-    shell_.forwardCheckForUpdate(sender);
-}
-
-void LumivaneWindowController::lumivaneHomePage(QObject*) {
-    // An alert about the browser may stand for long; a click on the icon puts this panel away meanwhile.
-    const QPointer<LumivaneWindowController> self(this);
-    InternetConfig::launchURL(webPage("/products/lumivane/mac/index.htm"));
-    if (self && !isWindoid())
+void LumivaneWindowController::putDropDownAway() {
+    if (!isWindoid())
         statusItem_->makeAsHiddenMenu();
 }
 
-void LumivaneWindowController::terminate(QObject*) {
-    QApplication::quit();
+void LumivaneWindowController::runAtLogin(QObject* sender) {
+    commands_.runAtLogin(sender);
+}
+
+void LumivaneWindowController::checkForUpdate(QObject* sender) {
+    commands_.checkForUpdate(sender);
+}
+
+void LumivaneWindowController::lumivaneHomePage(QObject* sender) {
+    commands_.lumivaneHomePage(sender);
+}
+
+void LumivaneWindowController::copyMoonToClipboard(QObject* sender) {
+    commands_.copyMoonToClipboard(sender);
+}
+
+void LumivaneWindowController::showAbout(QObject* sender) {
+    commands_.showAbout(sender);
+}
+
+void LumivaneWindowController::terminate(QObject* sender) {
+    commands_.terminate(sender);
 }
