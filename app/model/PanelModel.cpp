@@ -47,6 +47,29 @@ QString information(int index, const QString& value) {
     return text;
 }
 
+QString illuminationAt(std::uint32_t t) {
+    return information(2, NumberFormatter::string(static_cast<float>(gMoon.IlluminationDisplay(t)), 3));
+}
+
+QString ageAt(std::uint32_t t) {
+    QString text = CMoonHelper::stringForInformation(3);
+    // Ten seconds on, a moment just short of the new moon reads as the new lunation's first.
+    CMoonHelper::SubstituteDaysHoursMinutes(text, static_cast<std::int32_t>(gMoon.MoonAgeInSeconds(t + 10)));
+    return text;
+}
+
+std::array<QString, 4> quartersAt(std::uint32_t t) {
+    const tLunation* lunation = gMoon.FindLunationForGMTSeconds(t);
+    std::array<QString, 4> texts;
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        const QDateTime date =
+            ExtraDateUtilities::dateWithCarbonSecondsGMT(CMoon::GMTToZone(lunation->*kPhaseInstants[i]));
+        texts[i] = information(11, ExtraDateUtilities::dateStringWithFormat(date, 0));
+        replaceAll(texts[i], QStringLiteral("^2"), ExtraDateUtilities::timeStringWithSeconds(date, false));
+    }
+    return texts;
+}
+
 /// A localised label format with its first "%@" filled.
 QString filled(const char* format, const QString& value) {
     QString text = Bundle::main().localizedString(format);
@@ -152,49 +175,23 @@ bool PanelModel::isTurned() {
     return Preferences::standard()->floatForKey(QStringLiteral("LVLatitude")) < 0.0F;
 }
 
-QString PanelModel::phase() const {
-    return presentIsOutOfRange_
-               ? CMoonHelper::stringForInformation(6)
-               : information(1, CMoonHelper::stringForMoonName(gMoon.GetDescriptorIndex(moment())));
+QString PanelModel::phaseAt(std::uint32_t t) const {
+    return presentIsOutOfRange_ ? CMoonHelper::stringForInformation(6)
+                                : information(1, CMoonHelper::stringForMoonName(gMoon.GetDescriptorIndex(t)));
 }
 
-QString PanelModel::illumination() const {
-    return information(2,
-                       NumberFormatter::string(static_cast<float>(gMoon.IlluminationDisplay(moment())), 3));
-}
-
-QString PanelModel::age() const {
-    QString text = CMoonHelper::stringForInformation(3);
-    // Ten seconds on, a moment just short of the new moon reads as the new lunation's first.
-    CMoonHelper::SubstituteDaysHoursMinutes(text,
-                                            static_cast<std::int32_t>(gMoon.MoonAgeInSeconds(moment() + 10)));
-    return text;
-}
-
-QString PanelModel::lunation() const {
-    return information(4, ExtraStringUtilities::stringWithInteger(gMoon.GetLunation(moment())));
-}
-
-QString PanelModel::nextFullMoon() const {
-    return information(12, CMoonHelper::stringForMoonName(gMoon.GetAlmanacIndex(moment())));
-}
-
-std::array<QString, 4> PanelModel::quarters() const {
-    const tLunation* lunation = gMoon.FindLunationForGMTSeconds(moment());
-    std::array<QString, 4> texts;
-    for (std::size_t i = 0; i < texts.size(); ++i) {
-        const QDateTime date =
-            ExtraDateUtilities::dateWithCarbonSecondsGMT(CMoon::GMTToZone(lunation->*kPhaseInstants[i]));
-        texts[i] = information(11, ExtraDateUtilities::dateStringWithFormat(date, 0));
-        replaceAll(texts[i], QStringLiteral("^2"), ExtraDateUtilities::timeStringWithSeconds(date, false));
-    }
-    return texts;
-}
-
-std::array<QString, 3> PanelModel::risesAndSets() const {
+PanelModel::Lines PanelModel::lines() const {
+    const Clock::Hold oneMoment;
+    const std::uint32_t t = moment();
     CRiseSet calculator;
-    const std::uint32_t zoneSeconds = CMoon::GMTToZone(moment());
-    return {CMoonHelper::FormatDataAsString(&calculator, 17, zoneSeconds),
+    const std::uint32_t zoneSeconds = CMoon::GMTToZone(t);
+    return {phaseAt(t),
+            illuminationAt(t),
+            ageAt(t),
+            information(4, ExtraStringUtilities::stringWithInteger(gMoon.GetLunation(t))),
+            information(12, CMoonHelper::stringForMoonName(gMoon.GetAlmanacIndex(t))),
+            quartersAt(t),
+            CMoonHelper::FormatDataAsString(&calculator, 17, zoneSeconds),
             CMoonHelper::FormatDataAsString(&calculator, 18, zoneSeconds),
             CMoonHelper::FormatDataAsString(&calculator, 19, zoneSeconds)};
 }
@@ -217,25 +214,25 @@ QString PanelModel::customZoneTitle() {
 
 QString PanelModel::clipboardText() const {
     const Clock::Hold oneMoment;
+    const Lines shown = lines();
     QString text;
     const auto append = [&text](const QString& line) { ExtraMutableStringUtilities::appendLine(text, line); };
     append(ExtraDateUtilities::dateStringWithFormat(pickerDate_, 2));
     append(ExtraDateUtilities::timeStringWithSeconds(pickerDate_, true));
     append(zoneTitle());
     append(QStringLiteral("\n"));
-    for (const QString& line : {lunation(), phase(), illumination(), age(), nextFullMoon()})
+    for (const QString& line :
+         {shown.lunation, shown.phase, shown.illumination, shown.age, shown.nextFullMoon})
         append(line);
     append(QStringLiteral("\n"));
-    const auto [sun, twilight, moon] = risesAndSets();
-    append(filled(QT_TRANSLATE_NOOP("Lumivane", "Sun Rise/set %@"), sun));
-    append(filled(QT_TRANSLATE_NOOP("Lumivane", "Natical Rise/set %@"), twilight));
-    append(filled(QT_TRANSLATE_NOOP("Lumivane", "Moon Rise/set %@"), moon));
+    append(filled(QT_TRANSLATE_NOOP("Lumivane", "Sun Rise/set %@"), shown.sun));
+    append(filled(QT_TRANSLATE_NOOP("Lumivane", "Natical Rise/set %@"), shown.nauticalTwilight));
+    append(filled(QT_TRANSLATE_NOOP("Lumivane", "Moon Rise/set %@"), shown.moon));
     append(QStringLiteral("\n"));
-    const auto [newMoon, firstQuarter, fullMoon, lastQuarter] = quarters();
-    append(filled(QT_TRANSLATE_NOOP("Lumivane", "New %@"), newMoon));
-    append(filled(QT_TRANSLATE_NOOP("Lumivane", "Q1 %@"), firstQuarter));
-    append(filled(QT_TRANSLATE_NOOP("Lumivane", "Full %@"), fullMoon));
-    append(filled(QT_TRANSLATE_NOOP("Lumivane", "Q3 %@"), lastQuarter));
+    append(filled(QT_TRANSLATE_NOOP("Lumivane", "New %@"), shown.quarters[0]));
+    append(filled(QT_TRANSLATE_NOOP("Lumivane", "Q1 %@"), shown.quarters[1]));
+    append(filled(QT_TRANSLATE_NOOP("Lumivane", "Full %@"), shown.quarters[2]));
+    append(filled(QT_TRANSLATE_NOOP("Lumivane", "Q3 %@"), shown.quarters[3]));
     append(QStringLiteral("\n"));
     QString place = filled(QT_TRANSLATE_NOOP("Lumivane", "Longitude/Latitude %@/%@"),
                            coordinate(QStringLiteral("LVLongitude")));
@@ -244,5 +241,6 @@ QString PanelModel::clipboardText() const {
 }
 
 QString PanelModel::toolTip() const {
-    return presentIsOutOfRange_ ? phase() : phase() + u'\n' + illumination();
+    const std::uint32_t t = moment();
+    return presentIsOutOfRange_ ? phaseAt(t) : phaseAt(t) + u'\n' + illuminationAt(t);
 }

@@ -67,17 +67,19 @@ public:
 
     // Texts, in the user's language
 
-    QString phase() const;
-    QString illumination() const;
-    QString age() const;
-    QString lunation() const;
-    QString nextFullMoon() const;
+    struct Lines {
+        QString phase;
+        QString illumination;
+        QString age;
+        QString lunation;
+        QString nextFullMoon;
+        std::array<QString, 4> quarters; ///< new moon, first quarter, full moon, last quarter
+        QString sun;
+        QString nauticalTwilight;
+        QString moon;
+    };
 
-    /// The lunation's new moon, first quarter, full moon and last quarter.
-    std::array<QString, 4> quarters() const;
-
-    /// Rise and set of the Sun, nautical twilight, and rise and set of the Moon.
-    std::array<QString, 3> risesAndSets() const;
+    Lines lines() const;
 
     /// The moment as it is said beside the slider.
     QString spokenDate() const;
@@ -94,6 +96,8 @@ public:
     QString toolTip() const;
 
 private:
+    QString phaseAt(std::uint32_t t) const;
+
     QDateTime pickerDate_;
     bool presentIsOutOfRange_ = false;
 };

@@ -55,21 +55,20 @@ QImage LumivaneWindowController::moonImageFor(std::uint32_t gmtSeconds) {
 void LumivaneWindowController::updateStaticMoonInfo() {
     const Clock::Hold oneMoment;
     updateMoonImage();
-    setStringValueHilight(phaseName_, model_.phase());
-    moonImageView_->setAccessibleName(phaseName_->text());
-    setStringValueHilight(illumination_, model_.illumination());
-    setStringValueHilight(daysSinceNewMoon_, model_.age());
-    setStringValueHilight(lunation_, model_.lunation());
-    setStringValueHilight(nextFullMoonName_, model_.nextFullMoon());
-    const auto [newMoon, firstQuarter, fullMoon, lastQuarter] = model_.quarters();
-    setStringValueHilight(timeNew_, newMoon);
-    setStringValueHilight(timeFirstQuarter_, firstQuarter);
-    setStringValueHilight(timeFull_, fullMoon);
-    setStringValueHilight(timeLastQuarter_, lastQuarter);
-    const auto [sun, twilight, moon] = model_.risesAndSets();
-    setStringValueHilight(sunRiseSet_, sun);
-    setStringValueHilight(nauticalTwilight_, twilight);
-    setStringValueHilight(moonRiseSet_, moon);
+    const PanelModel::Lines lines = model_.lines();
+    setStringValueHilight(phaseName_, lines.phase);
+    moonImageView_->setAccessibleName(lines.phase);
+    setStringValueHilight(illumination_, lines.illumination);
+    setStringValueHilight(daysSinceNewMoon_, lines.age);
+    setStringValueHilight(lunation_, lines.lunation);
+    setStringValueHilight(nextFullMoonName_, lines.nextFullMoon);
+    setStringValueHilight(timeNew_, lines.quarters[0]);
+    setStringValueHilight(timeFirstQuarter_, lines.quarters[1]);
+    setStringValueHilight(timeFull_, lines.quarters[2]);
+    setStringValueHilight(timeLastQuarter_, lines.quarters[3]);
+    setStringValueHilight(sunRiseSet_, lines.sun);
+    setStringValueHilight(nauticalTwilight_, lines.nauticalTwilight);
+    setStringValueHilight(moonRiseSet_, lines.moon);
     // A screen reader says this as the slider moves.
     lunationSlider_->setAccessibleDescription(model_.spokenDate());
 }
