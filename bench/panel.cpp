@@ -4,6 +4,7 @@
 #include "app/ui/LumivaneStatusItem.h"
 #include "app/ui/LumivaneWindow.h"
 #include "app/ui/LumivaneWindowController.h"
+#include "app/ui/PanelCommands.h"
 #include "platform/layouts/Slider.h"
 
 #include <QApplication>
@@ -21,9 +22,10 @@ ApplicationDelegate& shell() {
 /// The slider from end to end: lines, picture and icon each time, and their painting.
 void Refresh(benchmark::State& state) {
     LumivaneStatusItem item(shell());
+    PanelCommands commands(shell());
     item.awakeFromNib();
     const auto controller =
-        LumivaneWindowController::lumivaneWindowController(shell(), LumivaneWindow::kBorderlessMask);
+        LumivaneWindowController::lumivaneWindowController(commands, LumivaneWindow::kBorderlessMask);
     controller->setStatusItem(&item);
     controller->window()->show();
     auto* slider = controller->window()->findChild<Slider*>(QStringLiteral("lunationSlider_"));
@@ -37,9 +39,10 @@ void Refresh(benchmark::State& state) {
 BENCHMARK(Refresh)->Unit(benchmark::kMillisecond);
 
 void MakePanel(benchmark::State& state) {
+    PanelCommands commands(shell());
     for (auto _ : state)
         benchmark::DoNotOptimize(
-            LumivaneWindowController::lumivaneWindowController(shell(), LumivaneWindow::kBorderlessMask));
+            LumivaneWindowController::lumivaneWindowController(commands, LumivaneWindow::kBorderlessMask));
 }
 BENCHMARK(MakePanel)->Unit(benchmark::kMillisecond);
 

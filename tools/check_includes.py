@@ -9,7 +9,7 @@ import re
 import sys
 
 WIDGETS = {"Qt6::Gui", "Qt6::Widgets", "Qt6::UiTools"}
-WITHOUT_WIDGETS = ("lumivane_engine", "make_lunations", "lumivane_engine_tests")
+WITHOUT_WIDGETS = ("lumivane_engine", "make_lunations", "lumivane_engine_tests", "lumivane_model")
 TARGETS = [  # a folder's target; the first that fits
     (r"platform/updates/network/", "lumivane_network"),
     (r"platform/(\w+)/", r"lumivane_\1"),

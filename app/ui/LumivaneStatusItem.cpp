@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "app/ui/LumivaneStatusItem.h"
 
-#include "app/engine/CMoon.h"
-#include "app/engine/CMoonHelper.h"
+#include "app/model/PanelModel.h"
 #include "app/ui/LumivaneWindow.h"
 #include "app/ui/LumivaneWindowController.h"
+#include "app/ui/PanelCommands.h"
 #include "platform/bundle/Bundle.h"
 #include "platform/files/RegularFile.h"
 #include "platform/locale/Clock.h"
-#include "platform/locale/NumberFormatter.h"
 #include "platform/log/Log.h"
 #include "platform/tray/TrayIcon.h"
 #include "platform/windows/Screen.h"
@@ -16,7 +15,6 @@
 #include "shared/utilities/classes/ExtraApplicationUtilities.h"
 #include "shared/utilities/classes/ExtraWindowUtilities.h"
 #include "shared/utilities/classes/NSImageUtilities.h"
-#include "shared/utilities/classes/values/ExtraMutableStringUtilities.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -89,7 +87,7 @@ bool raiseAlert() {
 }
 } // namespace
 
-LumivaneStatusItem::LumivaneStatusItem(Shell& shell) : shell_(shell) {
+LumivaneStatusItem::LumivaneStatusItem(Shell& shell) : commands_(new PanelCommands(shell, this)) {
 }
 
 LumivaneStatusItem::~LumivaneStatusItem() = default;
@@ -97,15 +95,17 @@ LumivaneStatusItem::~LumivaneStatusItem() = default;
 void LumivaneStatusItem::awakeFromNib() {
     statusItem_ = std::make_unique<TrayIcon>(QStringLiteral("lumivane"), QStringLiteral("Lumivane"));
     menu_ = std::make_unique<QMenu>();
+    menu_->addAction(Bundle::main().localizedString(QT_TRANSLATE_NOOP("Lumivane", "&Show Lumivane")), this,
+                     &LumivaneStatusItem::showPanel);
+    menu_->addSeparator();
+    menu_->addActions(commands_->actions());
+    connect(menu_.get(), &QMenu::aboutToShow, this, [this] {
+        for (QAction* command : commands_->actions())
+            commands_->validateMenuItem(command);
+    });
     statusItem_->setMenu(menu_.get());
     connect(statusItem_.get(), &TrayIcon::clicked, this, [this] { statusItemClicked(statusItem_.get()); });
     connect(statusItem_.get(), &TrayIcon::shownChanged, this, &LumivaneStatusItem::trayChanged);
-    // The panel waits until someone asks for it or for the menu, which has its commands: the icon comes
-    // first.
-    connect(menu_.get(), &QMenu::aboutToShow, this, [this] {
-        if (lumivaneWindow_ || !raiseAlert())
-            Q_EMIT controller().gearMenu()->aboutToShow();
-    });
     showNow();
     clock_.setTimerType(Qt::VeryCoarseTimer);
     connect(&clock_, &QTimer::timeout, this, &LumivaneStatusItem::moonClockTimer);
@@ -114,8 +114,9 @@ void LumivaneStatusItem::awakeFromNib() {
 
 void LumivaneStatusItem::showNow() {
     const Clock::Hold oneMoment;
-    setImage(LumivaneWindowController::moonImageFor(LumivaneWindowController::presentGMTSeconds()));
-    updateToolTip();
+    const PanelModel present;
+    setImage(LumivaneWindowController::moonImageFor(present.moment()));
+    statusItem_->setToolTip(present.toolTip());
 }
 
 void LumivaneStatusItem::moonClockTimer() {
@@ -136,34 +137,9 @@ void LumivaneStatusItem::setImage(const QImage& image) {
     statusItem_->setImages(images);
 }
 
-void LumivaneStatusItem::updateToolTip() {
-    using ExtraMutableStringUtilities::replaceAll;
-    bool outOfRange = false;
-    const std::uint32_t present = LumivaneWindowController::presentGMTSeconds(&outOfRange);
-    if (outOfRange) {
-        statusItem_->setToolTip(CMoonHelper::stringForInformation(Information::DateOutOfRange));
-        return;
-    }
-    QString phase = CMoonHelper::stringForInformation(Information::MoonIs);
-    replaceAll(phase, QStringLiteral("^1"),
-               CMoonHelper::stringForMoonName(gMoon.GetDescriptorIndex(present)));
-    QString lit = CMoonHelper::stringForInformation(Information::Illumination);
-    replaceAll(lit, QStringLiteral("^1"),
-               NumberFormatter::string(static_cast<float>(gMoon.IlluminationDisplay(present)), 3));
-    statusItem_->setToolTip(phase + QLatin1Char('\n') + lit);
-}
-
 void LumivaneStatusItem::makeAsHiddenMenu() {
     showNow();
     dropController();
-    // When the old panel is gone, so that the next finds its memory free.
-    QMetaObject::invokeMethod(
-        this,
-        [this] {
-            if (!raiseAlert())
-                controller();
-        },
-        Qt::QueuedConnection);
     QTimer::singleShot(kSettling, this, &ExtraApplicationUtilities::returnFreedMemory);
 }
 
@@ -178,6 +154,7 @@ void LumivaneStatusItem::dropController() {
     if (!lumivaneWindow_)
         return;
     ExtraWindowUtilities::fadeHideSynchronous(lumivaneWindow_->window());
+    commands_->setPanel(nullptr);
     // It may be one of its own controls that asks for the change.
     lumivaneWindow_.release()->deleteLater();
 }
@@ -185,16 +162,11 @@ void LumivaneStatusItem::dropController() {
 void LumivaneStatusItem::loadController(std::uint32_t styleMask) {
     if (QApplication::windowIcon().isNull())
         QApplication::setWindowIcon(windowIcon());
-    lumivaneWindow_ = LumivaneWindowController::lumivaneWindowController(shell_, styleMask);
+    lumivaneWindow_ = LumivaneWindowController::lumivaneWindowController(*commands_, styleMask);
+    commands_->setPanel(lumivaneWindow_.get());
     lumivaneWindow_->setStatusItem(this);
     if (!lumivaneWindow_->isWindoid())
         keepUnderIcon(lumivaneWindow_->window());
-
-    menu_->clear();
-    menu_->addAction(Bundle::main().localizedString(QT_TRANSLATE_NOOP("Lumivane", "&Show Lumivane")), this,
-                     &LumivaneStatusItem::showPanel);
-    menu_->addSeparator();
-    menu_->addActions(lumivaneWindow_->gearMenu()->actions());
 }
 
 LumivaneWindowController& LumivaneStatusItem::controller() {

@@ -11,6 +11,7 @@
 
 class LumivaneWindow;
 class LumivaneWindowController;
+class PanelCommands;
 class TrayIcon;
 class QMenu;
 class Shell;
@@ -37,7 +38,7 @@ public:
     /// Puts a picture into the icon, in all the sizes that trays ask for; the program's own for an empty one.
     void setImage(const QImage& image);
 
-    /// Hides the panel and prepares a fresh one for hidden-menu mode.
+    /// Hides the panel; the next click makes a fresh one in hidden-menu mode.
     void makeAsHiddenMenu();
 
     /// Hides the panel, prepares a fresh one for windoid mode and shows it.
@@ -79,9 +80,8 @@ private:
     void dropController();
     void keepUnderIcon(LumivaneWindow* window);
     void placeUnderIcon();
-    void updateToolTip();
 
-    Shell& shell_;
+    PanelCommands* commands_;
     std::unique_ptr<TrayIcon> statusItem_;
     std::unique_ptr<QMenu> menu_;
     std::unique_ptr<LumivaneWindowController> lumivaneWindow_;

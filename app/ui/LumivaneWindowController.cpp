@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "app/ui/LumivaneWindowController.h"
 
-#include "app/engine/CMoon.h"
-#include "app/engine/CMoonHelper.h"
 #include "app/ui/ControlIcon.h"
 #include "app/ui/LumivaneStatusItem.h"
 #include "app/ui/LumivaneWindow.h"
+#include "app/ui/PanelCommands.h"
 #include "platform/bundle/Bundle.h"
 #include "platform/layouts/DatePicker.h"
 #include "platform/layouts/Layout.h"
@@ -21,7 +20,6 @@
 #include "shared/utilities/classes/MouseDownButton.h"
 #include "shared/utilities/classes/setStringValueHilight.h"
 #include "shared/utilities/classes/values/Exception.h"
-#include "shared/utilities/classes/values/ExtraDateUtilities.h"
 
 #include <QComboBox>
 #include <QCoreApplication>
@@ -34,7 +32,6 @@
 #include <QScrollArea>
 #include <QShortcut>
 
-#include <algorithm>
 #include <cstdlib>
 
 namespace {
@@ -42,28 +39,6 @@ namespace {
 // The lunation's ends lie outside the slider: its own value is the negated fraction of the lunation.
 constexpr float kLargestFraction = 0.975F;
 constexpr float kSmallestFraction = 0.025F;
-
-constexpr std::int64_t kSecondsPerHour = 3600;
-
-std::uint32_t firstMoment() {
-    return gMoon.FindLunationAtIndex(0)->newMoon;
-}
-
-std::uint32_t lastMoment() {
-    return gMoon.FindLunationAtIndex(kLunationCount - 1)->nextNewMoon - 1;
-}
-
-std::uint32_t insideTable(std::int64_t gmtSeconds) {
-    return static_cast<std::uint32_t>(
-        std::clamp<std::int64_t>(gmtSeconds, std::int64_t{firstMoment()}, std::int64_t{lastMoment()}));
-}
-
-/// The picker's instant for a moment in GMT seconds.
-QDateTime pickerDate(std::uint32_t gmtSeconds) {
-    const auto wallClock = gmtSeconds + static_cast<std::uint32_t>(CMoonHelper::GetGMTOffset());
-    return ExtraDateUtilities::dateWithCarbonSecondsGMT(
-        LumivaneWindowController::applyDatePickerOffset(wallClock, -1));
-}
 
 template <typename T>
 void registerClass(const char* name) {
@@ -97,9 +72,9 @@ void registerClasses() {
 } // namespace
 
 std::unique_ptr<LumivaneWindowController>
-LumivaneWindowController::lumivaneWindowController(Shell& shell, std::uint32_t styleMask) {
+LumivaneWindowController::lumivaneWindowController(PanelCommands& commands, std::uint32_t styleMask) {
     try {
-        std::unique_ptr<LumivaneWindowController> controller(new LumivaneWindowController(shell));
+        std::unique_ptr<LumivaneWindowController> controller(new LumivaneWindowController(commands));
         controller->loadWindow(styleMask);
         controller->window_->hide();
         return controller;
@@ -189,12 +164,9 @@ void LumivaneWindowController::awakeFromNib() {
     connect(Preferences::standard(), &Preferences::valueChanged, this,
             &LumivaneWindowController::defaultsChanged);
 
-    setDatePickerGMTSeconds(presentGMTSeconds());
+    showPickerDate();
     ExtraWindowUtilities::setAlphaValue(window_.get(), 0.0F);
-    dtsSetting_->setText(Bundle::main().localizedString(
-        CMoonHelper::DaylightSavingsIsOn()
-            ? QT_TRANSLATE_NOOP("Lumivane", "(DST is on for this session.)")
-            : QT_TRANSLATE_NOOP("Lumivane", "(DST is off for this session.)")));
+    dtsSetting_->setText(PanelModel::daylightSavingNote());
     ExtraSliderUtilities::setReverseMaxValue(lunationSlider_, static_cast<double>(kLargestFraction));
     ExtraSliderUtilities::setReverseMinValue(lunationSlider_, static_cast<double>(kSmallestFraction));
     setLunationSliderGMTSeconds(datePickerGMTSeconds());
@@ -208,7 +180,8 @@ void LumivaneWindowController::awakeFromNib() {
 
 void LumivaneWindowController::makeMenus() {
     gearMenu_ = new QMenu(window_.get());
-    gearMenu_->addActions(window_->actions());
+    gearMenu_->addActions(commands_.actions());
+    window_->addActions(commands_.actions()); // for their keys
     auto* placeMenu = new QMenu(latitudeAndLongitudePopup_);
     placeMenu->addActions(latitudeAndLongitudePopup_->actions());
     latitudeAndLongitudePopup_->setMenu(placeMenu);
@@ -223,8 +196,6 @@ void LumivaneWindowController::makeMenus() {
         const int x = gearButton_->isRightToLeft() ? gearButton_->width() - gearMenu_->sizeHint().width() : 0;
         gearMenu_->popup(gearButton_->mapToGlobal(QPoint(x, gearButton_->height())));
     });
-    for (QAction* command : window_->actions())
-        command->setShortcutContext(Qt::WindowShortcut);
 }
 
 void LumivaneWindowController::giveKeys() {
@@ -310,102 +281,74 @@ void LumivaneWindowController::updateForTray() {
     hideButton_->setAccessibleName(hide);
 }
 
-std::uint32_t LumivaneWindowController::presentGMTSeconds(bool* outOfRange) {
-    const std::int64_t present = Clock::now().toSecsSinceEpoch() - ExtraDateUtilities::kReferenceInstant;
-    const std::uint32_t held = insideTable(present);
-    if (outOfRange)
-        *outOfRange = held != present;
-    return held;
-}
-
 std::uint32_t LumivaneWindowController::applyDatePickerOffset(std::uint32_t seconds, int withMultiplier) {
-    // How far the chosen zone lies behind the system's; in the system's own zone there is nothing to shift.
-    const int offset = CMoonHelper::prefZoneType() == kTimeZoneSystem
-                           ? 0
-                           : CMoonHelper::GetGMTOffset() - CMoonHelper::prefZoneOffset();
-    return seconds + static_cast<std::uint32_t>(offset) * static_cast<std::uint32_t>(withMultiplier);
+    return PanelModel::applyPickerOffset(seconds, withMultiplier);
 }
 
 void LumivaneWindowController::setDatePickerGMTSeconds(std::int64_t gmtSeconds) {
-    updateDateRange();
-    datePicker_->setDateValue(pickerDate(insideTable(gmtSeconds)));
+    model_.moveTo(gmtSeconds);
+    showPickerDate();
 }
 
-std::uint32_t LumivaneWindowController::datePickerGMTSeconds() const {
-    const std::uint32_t wallClock = ExtraDateUtilities::carbonSecondsGMT(datePicker_->dateValue());
-    return insideTable(applyDatePickerOffset(wallClock, +1) -
-                       static_cast<std::uint32_t>(CMoonHelper::GetGMTOffset()));
-}
-
-void LumivaneWindowController::updateDateRange() {
-    const QDateTime first = pickerDate(firstMoment());
-    const QDateTime last = pickerDate(lastMoment());
-    if (first < last)
-        datePicker_->setDateRange(first, last);
-    else // an offset of weeks, which wraps the count within the table
-        datePicker_->setDateRange(ExtraDateUtilities::dateWithCarbonSeconds1(0).addDays(-1),
-                                  ExtraDateUtilities::dateWithCarbonSeconds1(~0U).addDays(1));
+void LumivaneWindowController::showPickerDate() {
+    const auto [first, last] = PanelModel::pickerRange();
+    datePicker_->setDateRange(first, last);
+    datePicker_->setDateValue(model_.pickerDate());
 }
 
 void LumivaneWindowController::setLunationSliderGMTSeconds(std::uint32_t gmtSeconds) {
-    const std::uint32_t held = insideTable(gmtSeconds);
-    const tLunation* lunation = gMoon.FindLunationForGMTSeconds(held);
-    const double fraction = static_cast<double>(held - lunation->newMoon) / lunation->length;
-    ExtraSliderUtilities::setReverseDoubleValue(lunationSlider_, fraction);
+    ExtraSliderUtilities::setReverseDoubleValue(lunationSlider_, PanelModel::fractionOf(gmtSeconds));
 }
 
 std::uint32_t LumivaneWindowController::lunationSliderGMTSeconds() const {
-    const tLunation* lunation = gMoon.FindLunationForGMTSeconds(datePickerGMTSeconds());
-    return static_cast<std::uint32_t>(
-        lunation->length * ExtraSliderUtilities::reverseDoubleValue(lunationSlider_) + lunation->newMoon);
+    return model_.momentAtFraction(ExtraSliderUtilities::reverseDoubleValue(lunationSlider_));
+}
+
+void LumivaneWindowController::showModel() {
+    showPickerDate();
+    setLunationSliderGMTSeconds(model_.moment());
+    updateStaticMoonInfo();
 }
 
 void LumivaneWindowController::moveTo(std::int64_t gmtSeconds) {
-    const std::uint32_t moment = insideTable(gmtSeconds);
-    presentIsOutOfRange_ = false;
-    setDatePickerGMTSeconds(moment);
-    setLunationSliderGMTSeconds(moment);
-    updateStaticMoonInfo();
+    const Clock::Hold oneMoment;
+    model_.moveTo(gmtSeconds);
+    showModel();
 }
 
 void LumivaneWindowController::showNow(QObject*) {
     const Clock::Hold oneMoment;
-    bool outOfRange = false;
-    const std::uint32_t present = presentGMTSeconds(&outOfRange);
-    presentIsOutOfRange_ = outOfRange;
-    setDatePickerGMTSeconds(present);
-    setLunationSliderGMTSeconds(present);
-    updateStaticMoonInfo();
+    model_.moveToPresent();
+    showModel();
 }
 
 void LumivaneWindowController::clockChanged(QObject*) {
     const Clock::Hold oneMoment;
-    presentIsOutOfRange_ = false;
-    setLunationSliderGMTSeconds(datePickerGMTSeconds());
+    model_.setPickerDate(datePicker_->dateValue());
+    setLunationSliderGMTSeconds(model_.moment());
     updateStaticMoonInfo();
 }
 
 void LumivaneWindowController::lunationSliderChanged(QObject*) {
     const Clock::Hold oneMoment;
-    presentIsOutOfRange_ = false;
     setDatePickerGMTSeconds(lunationSliderGMTSeconds());
     updateStaticMoonInfo();
 }
 
 void LumivaneWindowController::addTagToDatePicker(QObject* sender) {
     const Clock::Hold oneMoment;
-    moveTo(std::int64_t{datePickerGMTSeconds()} + Layout::tag(sender) * kSecondsPerHour);
+    model_.moveByHours(Layout::tag(sender));
+    showModel();
 }
 
 void LumivaneWindowController::addTagToLunation(QObject* sender) {
     const Clock::Hold oneMoment;
-    const int index = gMoon.GetLunation(datePickerGMTSeconds()) + Layout::tag(sender);
-    moveTo(gMoon.FindLunationAtIndex(std::clamp(index, 0, kLunationCount - 1))->fullMoon);
+    model_.moveByLunations(Layout::tag(sender));
+    showModel();
 }
 
 void LumivaneWindowController::phaseWithTag(QObject* sender) {
     const Clock::Hold oneMoment;
-    const auto tag = static_cast<std::size_t>(Layout::tag(sender));
-    const tLunation* lunation = gMoon.FindLunationForGMTSeconds(datePickerGMTSeconds());
-    moveTo(lunation->*kPhaseInstants[tag < kPhaseInstants.size() ? tag : 0]);
+    model_.moveToPhase(Layout::tag(sender));
+    showModel();
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/model/PanelModel.h"
+
 #include <QImage>
 #include <QObject>
 
@@ -11,6 +13,7 @@ class AskNumber;
 class DisclosureTriangleWithResize;
 class LumivaneStatusItem;
 class LumivaneWindow;
+class PanelCommands;
 class MouseDownButton;
 class DatePicker;
 class Slider;
@@ -24,19 +27,18 @@ class QPushButton;
 class QScrollArea;
 class QToolButton;
 class QWidget;
-class Shell;
 
-/// Runs the information panel, which shows the Moon for one chosen moment, the displayed date. The moment
-/// exists only in the date picker and the lunation slider; it is GMT seconds everywhere else and always
-/// inside the lunation table.
+/// Runs the information panel, which shows the Moon for one chosen moment, the displayed date: it carries
+/// what the controls say to the `PanelModel` and what the model says to the controls. Moments are in GMT
+/// seconds.
 class LumivaneWindowController : public QObject {
     Q_OBJECT
 
 public:
-    /// A new controller with its panel loaded and not visible, in the window style `styleMask`; `shell`
-    /// outlives it. When the layout can't be loaded, which is taken as a sign that the program was moved
-    /// while it runs, the user is told and the program ends with status 1.
-    static std::unique_ptr<LumivaneWindowController> lumivaneWindowController(Shell& shell,
+    /// A new controller with its panel loaded and not visible, in the window style `styleMask`; `commands`,
+    /// which its gear menu shows, outlive it. When the layout can't be loaded, which is taken as a sign that
+    /// the program was moved while it runs, the user is told and the program ends with status 1.
+    static std::unique_ptr<LumivaneWindowController> lumivaneWindowController(PanelCommands& commands,
                                                                               std::uint32_t styleMask);
     ~LumivaneWindowController() override;
 
@@ -47,13 +49,14 @@ public:
     /// for a place south of the equator. Empty when the resource is missing.
     static QImage moonImageFor(std::uint32_t gmtSeconds);
 
-    /// The present in GMT seconds, held inside the lunation table; `outOfRange` tells whether it had to be.
-    static std::uint32_t presentGMTSeconds(bool* outOfRange = nullptr);
-
     void setStatusItem(LumivaneStatusItem* statusItem);
     LumivaneWindow* window() const { return window_.get(); }
     QMenu* gearMenu() const { return gearMenu_; }
+    const PanelModel& model() const { return model_; }
     bool isWindoid() const;
+
+    /// Hides a drop-down; a utility window stays.
+    void putDropDownAway();
 
     void updateStaticMoonInfo();
     void updateMoonImage();
@@ -61,7 +64,7 @@ public:
 
     /// The displayed date. What is set comes back to the second for every zone type; a moment outside the
     /// table is held at its nearest end.
-    std::uint32_t datePickerGMTSeconds() const;
+    std::uint32_t datePickerGMTSeconds() const { return model_.moment(); }
     void setDatePickerGMTSeconds(std::int64_t gmtSeconds);
 
     /// Moves the panel to a moment, held inside the table.
@@ -109,7 +112,7 @@ public Q_SLOTS:
     void terminate(QObject* sender);
 
 private:
-    explicit LumivaneWindowController(Shell& shell) : shell_(shell) {}
+    explicit LumivaneWindowController(PanelCommands& commands) : commands_(commands) {}
 
     void loadWindow(std::uint32_t styleMask);
     void connectOutlets();
@@ -123,15 +126,14 @@ private:
     void selectTimeZoneEntry(int type);
     void updateForTray();
     void showStoredPlace();
-    void updateDateRange();
-    void updateQuarterTimes(std::uint32_t t);
-    void updateRiseSetLines(std::uint32_t t);
+    void showModel();
+    void showPickerDate();
 
-    Shell& shell_;
+    PanelCommands& commands_;
     QString originalSystemTimeZoneMenuTitle_;
     LumivaneStatusItem* statusItem_ = nullptr;
     std::unique_ptr<LumivaneWindow> window_;
-    bool presentIsOutOfRange_ = false;
+    PanelModel model_;
 
     // Outlets
     QMenu* gearMenu_ = nullptr;

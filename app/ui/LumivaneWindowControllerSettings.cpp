@@ -1,34 +1,26 @@
 // SPDX-License-Identifier: MIT
 // The panel's settings and commands.
 #include "app/engine/CMoonHelper.h"
+#include "app/engine/PreferenceKeys.h"
 #include "app/ui/LumivaneStatusItem.h"
 #include "app/ui/LumivaneWindow.h"
 #include "app/ui/LumivaneWindowController.h"
-#include "app/ui/Shell.h"
+#include "app/ui/PanelCommands.h"
 #include "platform/bundle/Bundle.h"
 #include "platform/layouts/Slider.h"
 #include "platform/locale/Clock.h"
 #include "platform/locale/NumberFormatter.h"
 #include "platform/preferences/Preferences.h"
 #include "shared/utilities/classes/AskNumber.h"
-#include "shared/utilities/classes/InternetConfig.h"
 #include "shared/utilities/classes/values/ExtraNumberUtilities.h"
 
-#include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
-#include <QPointer>
 
 #include <array>
 #include <utility>
 
 namespace {
-
-const QString kTimeZoneType = QStringLiteral("LVTimeZoneType");
-const QString kLatitude = QStringLiteral("LVLatitude");
-const QString kLongitude = QStringLiteral("LVLongitude");
-const QString kCustomOffset = QStringLiteral("LVTimeZoneCustomGMTOffset");
-const QString kCustomTitle = QStringLiteral("LVTimeZoneGMTOffsetTitle");
 
 /// The popup's entries in the layout's order; the last one, which opens the dialog, has no type.
 constexpr std::array kTimeZoneEntries{kTimeZoneGMT, kTimeZoneSystem, kTimeZoneCustom};
@@ -38,11 +30,6 @@ float lastBrightness = 0.0F;
 
 Preferences* defaults() {
     return Preferences::standard();
-}
-
-QString webPage(const char* path) {
-    return QStringLiteral("https://%1%2")
-        .arg(Bundle::main().infoString(QStringLiteral("LVWebHost")), QLatin1String(path));
 }
 
 /// "GMT +5.5" for a custom offset, as the preferences keep it.
@@ -57,21 +44,21 @@ QString offsetTitle(float hours) {
 void LumivaneWindowController::prepareTimeZonePopup() {
     for (std::size_t i = 0; i < kTimeZoneEntries.size(); ++i)
         timeZonePopup_->setItemData(static_cast<int>(i), static_cast<int>(kTimeZoneEntries[i]));
-    defaultsChanged(kCustomTitle);
+    defaultsChanged(PreferenceKeys::customOffsetTitle.name);
     // No offset that somebody types, however long, makes the panel wider.
     timeZonePopup_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
 }
 
 void LumivaneWindowController::defaultsChanged(const QString& key) {
-    if (key == kCustomTitle)
+    if (key == PreferenceKeys::customOffsetTitle.name)
         timeZonePopup_->setItemText(timeZonePopup_->findData(static_cast<int>(kTimeZoneCustom)),
-                                    NumberFormatter::localized(defaults()->stringForKey(kCustomTitle)));
+                                    PanelModel::customZoneTitle());
 }
 
 void LumivaneWindowController::selectTimeZoneEntry(int type) {
     if (const int entry = timeZonePopup_->findData(type); entry >= 0)
         timeZonePopup_->setCurrentIndex(entry);
-    defaults()->setInteger(type, kTimeZoneType);
+    defaults()->set(PreferenceKeys::timeZoneType, type);
 }
 
 void LumivaneWindowController::timeZoneChanged(QObject* sender) {
@@ -81,9 +68,8 @@ void LumivaneWindowController::timeZoneChanged(QObject* sender) {
     }
     const Clock::Hold oneMoment;
     // The picker keeps what it shows, unless that is now a moment outside the table.
-    setDatePickerGMTSeconds(datePickerGMTSeconds());
-    setLunationSliderGMTSeconds(datePickerGMTSeconds());
-    updateStaticMoonInfo();
+    model_.followZone();
+    showModel();
 }
 
 void LumivaneWindowController::timeZoneOther(QObject*) {
@@ -92,7 +78,7 @@ void LumivaneWindowController::timeZoneOther(QObject*) {
         bundle.localizedString(QT_TRANSLATE_NOOP("Lumivane", "GMT Time Zone Offset:")),
         NumberFormatter::localized(
             bundle.localizedString(QT_TRANSLATE_NOOP("Lumivane", "For Example: -5, +1.5, 12, 0"))),
-        NumberFormatter::string(defaults()->floatForKey(kCustomOffset)), window_.get(),
+        NumberFormatter::string(defaults()->value(PreferenceKeys::customOffset)), window_.get(),
         [this](const QString& text, AskNumber* asked) { askTimeZoneDidEnd(text, asked); });
     const int type = CMoonHelper::prefZoneType();
     if (dialog)
@@ -109,21 +95,22 @@ void LumivaneWindowController::askTimeZoneDidEnd(const QString& text, AskNumber*
         return;
     }
     const float hours = NumberFormatter::leadingNumber(text);
-    defaults()->setFloat(hours, kCustomOffset);
-    defaults()->setObject(offsetTitle(hours), kCustomTitle);
+    defaults()->set(PreferenceKeys::customOffset, hours);
+    defaults()->set(PreferenceKeys::customOffsetTitle, offsetTitle(hours));
     selectTimeZoneEntry(kTimeZoneCustom);
     timeZoneChanged(nullptr);
 }
 
 void LumivaneWindowController::latitudeAndLongitudeFromSystemSettings(QObject*) {
-    defaults()->setFloat(static_cast<float>(ExtraNumberUtilities::numberWithLatitude()), kLatitude);
-    defaults()->setFloat(static_cast<float>(ExtraNumberUtilities::numberWithLongitude()), kLongitude);
+    defaults()->set(PreferenceKeys::latitude, static_cast<float>(ExtraNumberUtilities::numberWithLatitude()));
+    defaults()->set(PreferenceKeys::longitude,
+                    static_cast<float>(ExtraNumberUtilities::numberWithLongitude()));
     showStoredPlace();
     updateStaticMoonInfo();
 }
 
 void LumivaneWindowController::latitudeAndLongitudeFromWeb(QObject*) {
-    InternetConfig::launchURL(webPage("/products/lumivane/globalposition.htm"));
+    PanelCommands::openPage("/products/lumivane/globalposition.htm");
 }
 
 void LumivaneWindowController::latitudeOrLongitudeChange(QObject*) {
@@ -131,9 +118,10 @@ void LumivaneWindowController::latitudeOrLongitudeChange(QObject*) {
 }
 
 void LumivaneWindowController::showStoredPlace() {
-    for (const auto& [field, key] : {std::pair{latitude_, kLatitude}, std::pair{longitude_, kLongitude}}) {
+    for (const auto& [field, key] :
+         {std::pair{latitude_, PreferenceKeys::latitude}, std::pair{longitude_, PreferenceKeys::longitude}}) {
         // Also in the place of what is being typed.
-        field->setText(NumberFormatter::string(defaults()->floatForKey(key)));
+        field->setText(NumberFormatter::string(defaults()->value(key)));
         field->setCursorPosition(0);
     }
 }
@@ -158,22 +146,31 @@ void LumivaneWindowController::hideButton(QObject*) {
     statusItem_->windowWillClose();
 }
 
-void LumivaneWindowController::runAtLogin(QObject*) {
-    shell_.toggleSetToStartup(std::nullopt);
-}
-
-void LumivaneWindowController::checkForUpdate(QObject* sender) {
-    shell_.forwardCheckForUpdate(sender);
-}
-
-void LumivaneWindowController::lumivaneHomePage(QObject*) {
-    // An alert about the browser may stand for long; a click on the icon puts this panel away meanwhile.
-    const QPointer<LumivaneWindowController> self(this);
-    InternetConfig::launchURL(webPage("/products/lumivane/mac/index.htm"));
-    if (self && !isWindoid())
+void LumivaneWindowController::putDropDownAway() {
+    if (!isWindoid())
         statusItem_->makeAsHiddenMenu();
 }
 
-void LumivaneWindowController::terminate(QObject*) {
-    QApplication::quit();
+void LumivaneWindowController::runAtLogin(QObject* sender) {
+    commands_.runAtLogin(sender);
+}
+
+void LumivaneWindowController::checkForUpdate(QObject* sender) {
+    commands_.checkForUpdate(sender);
+}
+
+void LumivaneWindowController::lumivaneHomePage(QObject* sender) {
+    commands_.lumivaneHomePage(sender);
+}
+
+void LumivaneWindowController::copyMoonToClipboard(QObject* sender) {
+    commands_.copyMoonToClipboard(sender);
+}
+
+void LumivaneWindowController::showAbout(QObject* sender) {
+    commands_.showAbout(sender);
+}
+
+void LumivaneWindowController::terminate(QObject* sender) {
+    commands_.terminate(sender);
 }

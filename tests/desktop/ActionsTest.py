@@ -37,28 +37,6 @@ Q3 1/7/10, 5:40 AM
 
 Longitude/Latitude -74.006386/40.71417"""
 
-CLIPBOARD_AT_ANOTHER_OFFSET = """\
-December 16, 2009
-5:33:18 PM
-GMT +5.5
-
-Lunation 1076
-Moon is new
-0.000% illumination
-0d 0h 0m since new moon
-Next full moon is a Cold Moon
-
-Sun Rise/set Sun: 5:44 PM/3:00 AM
-Natical Rise/set Nautical Twilight: 4:38 PM/4:05 AM
-Moon Rise/set Moon: 6:01 PM/2:10 AM
-
-New 12/16/09, 5:33 PM
-Q1 12/24/09, 11:07 PM
-Full 1/1/10, 12:43 AM
-Q3 1/7/10, 4:10 PM
-
-Longitude/Latitude -74.006386/40.71417"""
-
 
 class ActionsTest(unittest.TestCase):
     @classmethod
@@ -280,15 +258,8 @@ class ActionsTest(unittest.TestCase):
         # A windoid stays open.
         desktop.open_panel()
         desktop.open_utility_window()
-        self.ask_offset()
-        desktop.type("5.5")
-        desktop.key("Return")
-        wait_for("the zone", lambda: self.popup().get_name() == "GMT +5.5")
-        desktop.click_control("New moon")
-        self.wait_moment(datetime.datetime(2009, 12, 16, 17, 33, 18))
         desktop.choose("Copy Information to Clipboard")
-        text = wait_for("the other text", lambda: desktop.clipboard() != CLIPBOARD and desktop.clipboard())
-        self.assertEqual(text, CLIPBOARD_AT_ANOTHER_OFFSET)
+        wait_for("the other moment", lambda: desktop.clipboard().startswith("December 20, 2009"))
         self.assertIsNotNone(desktop.window())
 
     def test_windoid_and_back(self):
@@ -360,7 +331,8 @@ class ActionsTest(unittest.TestCase):
         self.enter("latitude", "51", "Escape")
         self.hidden()
         desktop.open_panel()
-        self.assertEqual(desktop.text(self.field("latitude")), "-33,9", "Escape takes it back")
+        self.assertEqual([desktop.text(self.field(name)) for name in ("latitude", "longitude")], ["-33,9", "18,5"],
+                         "Escape takes it back")
 
         desktop.open_popup(lambda: desktop.click_control("Set Latitude and Longitude"))
         desktop.key("Down", "Return")

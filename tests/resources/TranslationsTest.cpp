@@ -3,6 +3,7 @@
 #include "app/shell/ApplicationDelegate.h"
 #include "app/ui/LumivaneWindow.h"
 #include "app/ui/LumivaneWindowController.h"
+#include "app/ui/PanelCommands.h"
 #include "platform/bundle/Bundle.h"
 #include "platform/richtext/RTFReader.h"
 #include "platform/updates/UpdateAlert.h"
@@ -163,8 +164,9 @@ TEST_F(TranslationsTest, EveryControlHasALetterOfItsOwnInEveryLanguage) {
     for (const char* language : {"en", "de", "es", "fr", "it", "ja", "pt-BR", "ru", "zh-CN", "ar"}) {
         SCOPED_TRACE(language);
         use(language);
-        const auto panel =
-            LumivaneWindowController::lumivaneWindowController(delegate, LumivaneWindow::kBorderlessMask);
+        PanelCommands panelCommands(delegate);
+        const auto panel = LumivaneWindowController::lumivaneWindowController(
+            panelCommands, LumivaneWindow::kBorderlessMask);
         expectLetters(controls(panel->window()), 12, "panel");
         const QStringList show{Bundle::main().localizedString("&Show Lumivane")};
         expectLetters(commands(panel->gearMenu()) + show, 7, "menu");

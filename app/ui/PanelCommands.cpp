@@ -1,0 +1,178 @@
+// SPDX-License-Identifier: MIT
+#include "app/ui/PanelCommands.h"
+
+#include "app/model/PanelModel.h"
+#include "app/ui/LumivaneWindow.h"
+#include "app/ui/LumivaneWindowController.h"
+#include "app/ui/Shell.h"
+#include "platform/bundle/Bundle.h"
+#include "platform/files/RegularFile.h"
+#include "platform/layouts/Mnemonics.h"
+#include "platform/log/Log.h"
+#include "platform/richtext/RTFReader.h"
+#include "shared/utilities/classes/ExtraMutableAttributedStringUtilities.h"
+#include "shared/utilities/classes/ExtraStringSystemUtilities.h"
+#include "shared/utilities/classes/InternetConfig.h"
+#include "shared/utilities/classes/SimpleTextWindow.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QKeySequence>
+#include <QPointer>
+#include <QTextDocument>
+
+namespace {
+
+constexpr qint64 kLargestCredits = 1 << 20;
+constexpr const char* kRunAtLogin = "runAtLoginAction_";
+constexpr const char* kAbout = QT_TRANSLATE_NOOP("Lumivane", "&About Lumivane");
+
+/// What the credits say in words; names and titles stay as they are.
+constexpr const char* kCreditsTexts[]{
+    QT_TRANSLATE_NOOP("Lumivane", "Version [VERSION] ([BUILD])"),
+    QT_TRANSLATE_NOOP("Lumivane",
+                      "The Moon in your tray: its phase, its age, and when it rises and sets where you are."),
+    QT_TRANSLATE_NOOP("Lumivane", "Phases of the Moon"),
+    QT_TRANSLATE_NOOP("Lumivane", "Rising and setting"),
+    QT_TRANSLATE_NOOP("Lumivane", "Oliver Montenbruck and Thomas Pfleger,"),
+    QT_TRANSLATE_NOOP("Lumivane", "Map of the Moon"),
+    QT_TRANSLATE_NOOP("Lumivane", "NASA and the USGS Astrogeology programme,"),
+    QT_TRANSLATE_NOOP("Lumivane", "in the public domain"),
+    QT_TRANSLATE_NOOP("Lumivane", "Lumivane on the web"),
+    QT_TRANSLATE_NOOP("Lumivane", "MIT licence, © The Lumivane developers"),
+};
+
+/// The credits while they are shown. They may outlive the panel that they were asked from.
+QPointer<SimpleTextWindow> shownCredits;
+
+/// The credits resource; null when it is missing or unreadable.
+std::unique_ptr<QTextDocument> credits() {
+    QString error;
+    const auto rtf = RegularFile::read(Bundle::main().resourcePath() + QStringLiteral("/Credits.rtf"),
+                                       kLargestCredits, &error);
+    std::unique_ptr<QTextDocument> text = rtf ? documentFromRTF(*rtf, &error) : nullptr;
+    if (!text)
+        logLine(QStringLiteral("The credits can't be shown: %1.").arg(error));
+    return text;
+}
+
+/// What stands for the credits when there are none.
+std::unique_ptr<QTextDocument> plainCredits() {
+    auto text = std::make_unique<QTextDocument>();
+    text->setPlainText(QStringLiteral("Lumivane [VERSION] ([BUILD])"));
+    return text;
+}
+
+} // namespace
+
+PanelCommands::PanelCommands(Shell& shell, QObject* parent) : QObject(parent), shell_(shell) {
+    const struct {
+        const char* name;
+        const char* text; ///< none for a separator
+        QKeySequence key;
+        void (PanelCommands::*choose)(QObject* sender);
+    } commands[]{
+        {"copyAction_", QT_TRANSLATE_NOOP("Lumivane", "&Copy Information to Clipboard"), Qt::CTRL | Qt::Key_C,
+         &PanelCommands::copyMoonToClipboard},
+        {},
+        {kRunAtLogin, QT_TRANSLATE_NOOP("Lumivane", "&Open at Login"), {}, &PanelCommands::runAtLogin},
+        {"checkForUpdateAction_",
+         QT_TRANSLATE_NOOP("Lumivane", "Check for &Update..."),
+         {},
+         &PanelCommands::checkForUpdate},
+        {},
+        {"homePageAction_",
+         QT_TRANSLATE_NOOP("Lumivane", "Lumivane &Home Page"),
+         {},
+         &PanelCommands::lumivaneHomePage},
+        {"aboutAction_", kAbout, {}, &PanelCommands::showAbout},
+        {},
+        {"quitAction_", QT_TRANSLATE_NOOP("Lumivane", "&Quit Lumivane"), Qt::CTRL | Qt::Key_Q,
+         &PanelCommands::terminate},
+    };
+    for (const auto& command : commands) {
+        auto* action = new QAction(this);
+        actions_.append(action);
+        action->setSeparator(!command.text);
+        if (!command.text)
+            continue;
+        action->setObjectName(QLatin1String(command.name));
+        action->setText(Bundle::main().localizedString(command.text));
+        action->setShortcut(command.key);
+        action->setShortcutVisibleInContextMenu(true);
+        action->setCheckable(command.name == kRunAtLogin);
+        connect(action, &QAction::triggered, this,
+                [this, action, choose = command.choose] { (this->*choose)(action); });
+    }
+}
+
+void PanelCommands::setPanel(LumivaneWindowController* panel) {
+    panel_ = panel;
+}
+
+LumivaneWindowController* PanelCommands::visiblePanel() const {
+    return panel_ && panel_->window()->isVisible() ? panel_.get() : nullptr;
+}
+
+bool PanelCommands::validateMenuItem(QAction* item) {
+    if (item->objectName() == QLatin1String(kRunAtLogin))
+        item->setChecked(shell_.alreadySetToStartup(std::nullopt));
+    return true;
+}
+
+void PanelCommands::openPage(const char* path) {
+    InternetConfig::launchURL(
+        QStringLiteral("https://%1%2")
+            .arg(Bundle::main().infoString(QStringLiteral("LVWebHost")), QLatin1String(path)));
+}
+
+void PanelCommands::copyMoonToClipboard(QObject*) {
+    LumivaneWindowController* const panel = visiblePanel();
+    ExtraStringUtilities::copyToClipboard((panel ? panel->model() : PanelModel()).clipboardText());
+    if (panel)
+        panel->putDropDownAway();
+}
+
+void PanelCommands::runAtLogin(QObject*) {
+    shell_.toggleSetToStartup(std::nullopt);
+}
+
+void PanelCommands::checkForUpdate(QObject* sender) {
+    shell_.forwardCheckForUpdate(sender);
+}
+
+void PanelCommands::lumivaneHomePage(QObject*) {
+    // An alert about the browser may stand for long; a click on the icon puts this panel away meanwhile.
+    const QPointer<LumivaneWindowController> panel(visiblePanel());
+    openPage("/products/lumivane/mac/index.htm");
+    if (panel && panel == panel_)
+        panel->putDropDownAway();
+}
+
+void PanelCommands::terminate(QObject*) {
+    QApplication::quit();
+}
+
+void PanelCommands::showAbout(QObject*) {
+    if (shownCredits && shownCredits->window() && shownCredits->window()->isVisible()) {
+        shownCredits->bringToFront();
+        return;
+    }
+    using ExtraMutableAttributedStringUtilities::replaceAllAttributedStrings;
+    const Bundle& bundle = Bundle::main();
+    std::unique_ptr<QTextDocument> text = credits();
+    if (!text)
+        text = plainCredits();
+    for (const char* words : kCreditsTexts)
+        replaceAllAttributedStrings(*text, QString::fromUtf8(words), bundle.localizedString(words));
+    replaceAllAttributedStrings(*text, QStringLiteral("[VERSION]"),
+                                bundle.infoString(QStringLiteral("CFBundleShortVersionString")));
+    replaceAllAttributedStrings(*text, QStringLiteral("[BUILD]"),
+                                bundle.infoString(QStringLiteral("CFBundleVersion")));
+    LumivaneWindow* const window = visiblePanel() ? visiblePanel()->window() : nullptr;
+    shownCredits = window && !window->isMinimized()
+                       ? SimpleTextWindow::simpleTextWindowFromAttributedString(*text, window)
+                       : SimpleTextWindow::freeTextWindowFromAttributedString(*text);
+    if (shownCredits)
+        shownCredits->window()->setWindowTitle(withoutMnemonic(bundle.localizedString(kAbout)));
+}
