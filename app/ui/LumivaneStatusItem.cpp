@@ -140,6 +140,15 @@ void LumivaneStatusItem::setImage(const QImage& image) {
 void LumivaneStatusItem::makeAsHiddenMenu() {
     showNow();
     dropController();
+    // A click that had to make it first would be seen to wait. When the old panel is gone, so that this one
+    // finds its memory free.
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            if (!raiseAlert())
+                controller();
+        },
+        Qt::QueuedConnection);
     QTimer::singleShot(kSettling, this, &ExtraApplicationUtilities::returnFreedMemory);
 }
 

@@ -38,7 +38,7 @@ public:
     /// Puts a picture into the icon, in all the sizes that trays ask for; the program's own for an empty one.
     void setImage(const QImage& image);
 
-    /// Hides the panel; the next click makes a fresh one in hidden-menu mode.
+    /// Hides the panel and prepares a fresh one for hidden-menu mode.
     void makeAsHiddenMenu();
 
     /// Hides the panel, prepares a fresh one for windoid mode and shows it.

@@ -83,6 +83,9 @@ LumivaneWindowController::lumivaneWindowController(PanelCommands& commands, std:
     }
 }
 
+LumivaneWindowController::LumivaneWindowController(PanelCommands& commands) : commands_(commands) {
+}
+
 LumivaneWindowController::~LumivaneWindowController() = default;
 
 void LumivaneWindowController::loadWindow(std::uint32_t styleMask) {

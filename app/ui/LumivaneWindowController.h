@@ -112,7 +112,7 @@ public Q_SLOTS:
     void terminate(QObject* sender);
 
 private:
-    explicit LumivaneWindowController(PanelCommands& commands) : commands_(commands) {}
+    explicit LumivaneWindowController(PanelCommands& commands);
 
     void loadWindow(std::uint32_t styleMask);
     void connectOutlets();

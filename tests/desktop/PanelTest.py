@@ -11,7 +11,7 @@ import tempfile
 import time
 import unittest
 
-from desktop import Desktop, wait_for
+from desktop import FAKETIME, Desktop, wait_for
 
 PROGRAM = os.path.abspath(sys.argv.pop(1))
 RESOURCES = pathlib.Path(PROGRAM).parent.parent / "share/lumivane"
@@ -64,6 +64,17 @@ class PanelTest(unittest.TestCase):
         self.desktop.open_panel()
         self.desktop.key("Escape")
         wait_for("the panel to hide", lambda: not self.desktop.window())
+
+    def test_the_icon_follows_the_clock(self):
+        # 300 seconds of the program's take two and a half.
+        self.desktop.start(PROGRAM, environment={"LD_PRELOAD": FAKETIME, "FAKETIME": "@2009-12-20 12:00:00 x120"})
+        name, _, path = self.desktop.items()[0].partition("/")
+
+        def tip():
+            return self.desktop.property(name, "/" + path, "org.kde.StatusNotifierItem", "ToolTip")
+        first = tip()
+        self.assertIn("Moon is a waxing crescent", str(first))
+        wait_for("another share of light", lambda: tip() != first)
 
     def test_southern_hemisphere_turns_the_picture(self):
         self.show("2024-05-15 12:00:00", "Europe/London")
@@ -127,9 +138,7 @@ class PanelTest(unittest.TestCase):
         self.show(None, environment={"LUMIVANE_RESOURCES": str(moved)})
         (moved / "LumivaneWindow.ui").unlink()
         alerts = ["xdotool", "search", "--onlyvisible", "--pid", str(self.desktop.program.pid)]
-        self.desktop.click_icon()
-        wait_for("the panel to hide", lambda: not self.desktop.window())
-        self.desktop.click_icon()  # makes the next
+        self.desktop.click_icon()  # puts this panel away and makes the next
         wait_for("the alert", self.desktop.dialog)
         before = subprocess.run(alerts, capture_output=True).stdout
         self.desktop.click_icon()
