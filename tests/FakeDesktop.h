@@ -2,13 +2,11 @@
 #pragma once
 
 #include "platform/browser/DefaultApplications.h"
+#include "tests/Interaction.h"
 
-#include <QCoreApplication>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
-#include <QThread>
 
 #include <gtest/gtest.h>
 
@@ -47,7 +45,7 @@ public:
         const QDir folder(programs() + QStringLiteral("/starts"));
         const QString prefix = QLatin1String(name) + QLatin1Char('.');
         const auto files = [&] { return folder.entryList({prefix + QLatin1Char('*')}); };
-        await([&] { return !files().isEmpty(); });
+        waitFor([&] { return !files().isEmpty(); });
         QStringList all;
         for (const QString& file : files()) {
             all.append(linesOf(folder.filePath(file)).join(QLatin1Char(' ')));
@@ -60,18 +58,6 @@ public:
     /// The session, the output and the environment of the start that `starts` found last.
     QStringList surroundings() const {
         return linesOf(programs() + QStringLiteral("/starts/%1.env").arg(lastPid_));
-    }
-
-    template <typename Condition>
-    static bool await(Condition condition) {
-        QElapsedTimer timer;
-        timer.start();
-        while (!condition()) {
-            if (timer.elapsed() > 10000)
-                return false;
-            QThread::msleep(10);
-        }
-        return true;
     }
 
     static void write(const QString& path, const QString& text) {
@@ -105,7 +91,7 @@ private:
                   .arg(longIdentifier()));
         // Where an earlier test has made GIO look already, it takes a moment to see what is new.
         EXPECT_TRUE(
-            await([] { return DefaultApplications::forScheme(QStringLiteral("mailto")).has_value(); }));
+            waitFor([] { return DefaultApplications::forScheme(QStringLiteral("mailto")).has_value(); }));
     }
 
     void writeEntry(const QString& identifier, const QString& name, const QString& script) const {

@@ -3,11 +3,9 @@
 """Everything that the panel can do, through its real controls."""
 
 import datetime
-import operator
 import os
 import subprocess
 import sys
-import tempfile
 import time
 import unittest
 
@@ -45,10 +43,6 @@ class ActionsTest(unittest.TestCase):
         cls.addClassCleanup(cls.desktop.close)
         cls.desktop.install_browser()
 
-    def setUp(self):
-        self.folder = tempfile.TemporaryDirectory()
-        self.addCleanup(self.folder.cleanup)
-
     def tearDown(self):
         self.assertIn(self.desktop.stop(), (0, -15, None))
 
@@ -77,9 +71,6 @@ class ActionsTest(unittest.TestCase):
         self.choose_zone(3)
         return wait_for("the dialog", self.desktop.dialog)
 
-    def answer_field(self, dialog):
-        return next(node for node in self.desktop.walk(dialog) if node.get_role_name() == "text")
-
     def preference(self, key, value):
         wait_for("%s=%s, not %s" % (key, value, self.desktop.preferences().get(key)),
                  lambda: self.desktop.preferences().get(key) == value)
@@ -97,66 +88,42 @@ class ActionsTest(unittest.TestCase):
     def hidden(self):
         wait_for("the panel to hide", lambda: not self.desktop.window())
 
-    def redness(self, start):
-        """How much more red than blue the line that starts so is."""
-        line = next(node for node in self.desktop.walk(self.desktop.window())
-                    if node.get_role_name() == "label" and node.get_name().startswith(start))
-        box = self.desktop.extents(line)
-        place = "%dx%d+%d+%d" % (box.width, box.height, box.x, box.y)
-        return float(subprocess.run(
-            "import -window root -crop %s +repage png:- | convert - -format '%%[fx:mean.r-mean.b]' info:" % place,
-            shell=True, check=True, capture_output=True, text=True).stdout)
-
     def test_moving_the_moment(self):
         self.show()
         desktop = self.desktop
-        hour, day = datetime.timedelta(hours=1), datetime.timedelta(days=1)
-        new, first, full, last = (
-            datetime.datetime(2009, 12, 16, 7, 3, 18), datetime.datetime(2009, 12, 24, 12, 37, 6),
-            datetime.datetime(2009, 12, 31, 14, 13, 52), datetime.datetime(2010, 1, 7, 5, 40, 44))
-
-        # The steps, each there and back.
         start = self.moment()
-        for control, step in (("On one hour", hour), ("Back one hour", -hour), ("Back one day", -day),
-                              ("On one day", day)):
+        for control, hours in (("On one hour", 1), ("Back one hour", -1), ("Back one day", -24), ("On one day", 24)):
             desktop.click_control(control)
-            start += step
+            start += datetime.timedelta(hours=hours)
             self.wait_moment(start)
-        self.assertEqual(start.date(), datetime.date(2009, 12, 20))
 
-        # The quarters of the displayed lunation.
-        for control, quarter in (("First quarter", first), ("Full moon", full), ("Last quarter", last),
-                                 ("New moon", new)):
+        new = datetime.datetime(2009, 12, 16, 7, 3, 18)
+        for control, quarter in (("First quarter", datetime.datetime(2009, 12, 24, 12, 37, 6)),
+                                 ("Full moon", datetime.datetime(2009, 12, 31, 14, 13, 52)),
+                                 ("Last quarter", datetime.datetime(2010, 1, 7, 5, 40, 44)), ("New moon", new)):
             desktop.click_control(control)
             self.wait_moment(quarter)
-        self.assertIn("Moon is new", desktop.lines())
         desktop.click_control("Full moon of the next lunation")
         wait_for("the next lunation", lambda: "Lunation 1077" in desktop.lines())
-        self.assertIn("Moon is full", desktop.lines())
         desktop.click_control("Full moon of the previous lunation")
         wait_for("the lunation before", lambda: "Lunation 1076" in desktop.lines())
 
-        # The slider's ends are the lunation's, but for a fortieth.
-        desktop.focus(desktop.find("Position within the lunation"))
-        desktop.key("Home")
-        wait_for("the slider's start", lambda: desktop.line("0d 17h "))
-        desktop.key("End")
-        wait_for("the slider's end", lambda: desktop.line("29d 1h "))
-        desktop.key("Left")
-        wait_for("a step back", lambda: desktop.line("28d 21h "))
+        # The slider's ends are the lunation's, but for a fortieth; it tells the date.
         slider = desktop.find("Position within the lunation")
+        desktop.focus(slider)
+        for key, age in (("Home", "0d 17h "), ("End", "29d 1h "), ("Left", "28d 21h ")):
+            desktop.key(key)
+            wait_for(age, lambda: desktop.line(age))
         spoken = self.moment().strftime("%B %-d, %Y %-I:%M %p")
         wait_for("the date spoken", lambda: slider.get_description() == spoken)
         self.assertAlmostEqual(slider.get_value_iface().get_current_value(), 99.5)
 
-        # The picker, by its keys and by a month typed in.
+        # The picker, by its keys and by a month typed in; then the panel's own keys.
         desktop.click_control("New moon")
         self.wait_moment(new)
-        picker = desktop.find("Date and time")
-        desktop.click_at_start(picker)
+        desktop.click_at_start(desktop.find("Date and time"))
         desktop.key("Down")
         self.wait_moment(new.replace(month=11))
-        wait_for("the month before", lambda: "Lunation 1074" in desktop.lines())
         desktop.focus(desktop.find("Calculation"))
         desktop.key("Tab")
         desktop.type("3")
@@ -170,73 +137,27 @@ class ActionsTest(unittest.TestCase):
         desktop.key("ctrl+t")
         wait_for("the present", lambda: abs(self.moment() - datetime.datetime(2009, 12, 20, 12)).seconds < 90)
 
-    def test_a_changed_line_is_dark_red_until_an_update_leaves_it(self):
-        self.show()
-        self.assertLess(abs(self.redness("Next full moon")), 0.002)
-        self.desktop.click_control("Full moon of the next lunation")
-        wait_for("the next lunation", lambda: "Lunation 1077" in self.desktop.lines())
-        for line in ("Next full moon", "Lunation", "Moon is", "Sun:"):
-            self.assertGreater(self.redness(line), 0.01, line)
-        self.enter("latitude", "40.71418")  # a change of the place that no line shows
-        wait_for("the plain line", lambda: abs(self.redness("Next full moon")) < 0.002)
-        self.assertLess(abs(self.redness("Lunation")), 0.002)
-
-    def test_time_zones_and_custom_offsets(self):
+    def test_what_is_chosen_is_remembered(self):
         self.show()
         desktop = self.desktop
-        desktop.click_control("First quarter")
-        wait_for("the quarter", lambda: "Moon is at first quarter" in desktop.lines())
-        shown = self.moment()
-        self.assertIn("12/31/09, 2:13 PM", desktop.lines())
-        self.assertIn("(DST is off for this session.)", desktop.lines())
         self.choose_zone(0)
         wait_for("GMT", lambda: "12/31/09, 7:13 PM" in desktop.lines())
-        self.preference("LVTimeZoneType", "1")
-
-        # Escape brings the entry and the zone back; so does Cancel.
-        for cancel in (lambda dialog: desktop.key("Escape"), lambda dialog: desktop.click_control("Cancel", dialog)):
-            dialog = self.ask_offset()
-            desktop.type("9")
-            cancel(dialog)
-            wait_for("the dialog to close", lambda: not desktop.dialog())
-            wait_for("GMT", lambda: self.popup().get_name() == "GMT")
-            self.preference("LVTimeZoneType", "1")
-            self.assertIn("12/31/09, 7:13 PM", desktop.lines())
-            self.assertNotIn("LVTimeZoneCustomGMTOffset", desktop.preferences())
-
-        for typed, title, preset, full in (("+1.5", "GMT +1.5", "0", "12/31/09, 8:43 PM"),
-                                           ("-5", "GMT -5.0", "1.5", "12/31/09, 2:13 PM"),
-                                           ("abc", "GMT +0.0", "-5", "12/31/09, 7:13 PM"),
-                                           ("  7x", "GMT +7.0", "0", "1/1/10, 2:13 AM"),
-                                           ("-0", "GMT +0.0", "7", "12/31/09, 7:13 PM")):
-            dialog = self.ask_offset()
-            self.assertEqual(desktop.text(self.answer_field(dialog)), preset)
-            desktop.type(typed)
-            desktop.key("Return")
-            wait_for(title, lambda: self.popup().get_name() == title)
-            wait_for(full, lambda: full in desktop.lines())
-            self.assertEqual(self.moment(), shown, "the picker keeps what it shows")
-            self.preference("LVTimeZoneGMTOffsetTitle", title)
-            self.assertIsNone(desktop.dialog())
-
-        # Nothing is no answer, and neither is a sign.
         self.ask_offset()
-        desktop.key("BackSpace", "Return")
-        time.sleep(0.3)
-        self.assertIsNotNone(desktop.dialog())
-        desktop.type("+")
-        desktop.key("Return")
-        time.sleep(0.3)
-        self.assertIsNotNone(desktop.dialog())
+        desktop.type("9")
+        desktop.key("Escape")
+        wait_for("the dialog to close", lambda: not desktop.dialog())
+        wait_for("GMT", lambda: self.popup().get_name() == "GMT")
+        self.ask_offset()
         desktop.type("-3.75")
         desktop.key("Return")
         wait_for("the offset", lambda: self.popup().get_name() == "GMT -3.8")
         wait_for("an hour of quarters", lambda: "12/31/09, 3:28 PM" in desktop.lines())
-
-        # The next run opens with it.
+        desktop.click_control("Moon")
+        wait_for("folding", lambda: desktop.line("Moon is") is None)
         desktop.stop()
         self.show(fresh=False)
         self.assertEqual(self.popup().get_name(), "GMT -3.8")
+        self.assertIsNone(desktop.line("Moon is"))
 
     def test_clipboard(self):
         self.maxDiff = None
@@ -245,8 +166,7 @@ class ActionsTest(unittest.TestCase):
         desktop.click_control("New moon")
         wait_for("the new moon", lambda: "Moon is new" in desktop.lines())
         # What is selected in a field goes before the whole.
-        latitude = self.field("latitude")
-        desktop.focus(latitude)
+        desktop.focus(self.field("latitude"))
         desktop.key("ctrl+a", "ctrl+c")
         wait_for("the latitude alone", lambda: desktop.clipboard() == "40.71417")
         desktop.key("End", "ctrl+c")
@@ -254,13 +174,6 @@ class ActionsTest(unittest.TestCase):
         self.assertEqual(desktop.clipboard(), CLIPBOARD)
         self.assertEqual(desktop.clipboard("ClipboardTag%d" % desktop.program.pid), ".")
         self.assertEqual(desktop.clipboard("PasswordPboardType"), "PasswordPboardType")
-
-        # A windoid stays open.
-        desktop.open_panel()
-        desktop.open_utility_window()
-        desktop.choose("Copy Information to Clipboard")
-        wait_for("the other moment", lambda: desktop.clipboard().startswith("December 20, 2009"))
-        self.assertIsNotNone(desktop.window())
 
     def test_windoid_and_back(self):
         desktop = self.desktop
@@ -281,9 +194,6 @@ class ActionsTest(unittest.TestCase):
         desktop.click_control("Back to the tray icon")
         dropped_again()
         desktop.open_utility_window()
-        desktop.key("ctrl+w")
-        dropped_again()
-        desktop.open_utility_window()
         desktop.click_control("Full moon")
         full = datetime.datetime(2009, 12, 31, 14, 13, 52)
         self.wait_moment(full)
@@ -292,42 +202,21 @@ class ActionsTest(unittest.TestCase):
         desktop.click_icon()
         wait_for("the minimised window", desktop.window)
         self.assertEqual(self.moment(), full, "nobody has put it away")
-        desktop.click_icon()
+        desktop.key("ctrl+w")
         dropped_again()
         desktop.click_control("Hide")
         self.hidden()
         self.assertIsNone(desktop.program.poll())
 
-    def test_folding_is_remembered(self):
-        desktop = self.desktop
-        window = self.show()
-        whole = desktop.extents(window).height
-        for section in ("Rise and Set", "Moon"):
-            desktop.click_control(section)
-        wait_for("folding", lambda: desktop.line("Sun:") is None and desktop.line("Moon is") is None)
-        folded = desktop.extents(desktop.window()).height
-        self.assertLess(folded, whole - 200)
-        self.assertIn("Lunation 1076", desktop.lines())
-        desktop.stop()
-        window = self.show(fresh=False)
-        self.assertIsNone(desktop.line("Sun:"))
-        self.assertEqual(desktop.extents(window).height, folded)
-        desktop.key("alt+m", "alt+r")
-        wait_for("unfolding", lambda: desktop.line("Sun:") and desktop.extents(desktop.window()).height == whole)
-
     def test_the_place(self):
         desktop = self.desktop
         self.show(environment={"LC_ALL": "", "LANG": "en_US.UTF-8", "LC_NUMERIC": "de_DE.UTF-8"})
-        self.assertEqual(desktop.text(self.field("latitude")), "40,71417")
         sun = desktop.line("Sun:")
         self.enter("latitude", "-33.9")
         wait_for("the southern summer", lambda: desktop.line("Sun:") not in (None, sun))
         self.preference("LVLatitude", "-33.9")
         self.enter("longitude", "18,5", "Tab")
         self.preference("LVLongitude", "18.5")
-        for nonsense in ("north", "1.2.3", "180,5"):
-            self.enter("longitude", nonsense)
-            wait_for("the old number", lambda: desktop.text(self.field("longitude")) == "18,5")
         self.enter("latitude", "51", "Escape")
         self.hidden()
         desktop.open_panel()
@@ -338,7 +227,6 @@ class ActionsTest(unittest.TestCase):
         desktop.key("Down", "Return")
         wait_for("the zone's city", lambda: desktop.line("Sun:") == sun)
         self.assertEqual(desktop.text(self.field("latitude")), "40,71417", "as after the start")
-        self.assertTrue(desktop.text(self.field("longitude")).startswith("-74,006"))
         desktop.open_popup(lambda: desktop.click_control("Set Latitude and Longitude"))
         desktop.key("Down", "Down", "Return")
         self.assertRegex(desktop.opened(), r"^https://[^/]+/products/lumivane/globalposition\.htm$")
@@ -347,32 +235,20 @@ class ActionsTest(unittest.TestCase):
     def test_brightness(self):
         desktop = self.desktop
         self.show("2024-05-15 12:00:00")
-        pictures = {}
 
-        def mean(name):
-            desktop.picture(self.folder.name + "/moon.png")
-            box = desktop.extents(desktop.find("Full moon"))
-            subprocess.run(["import", "-window", "root", "-crop",
-                            "%dx%d+%d+%d" % (box.width, box.height, box.x, box.y), self.folder.name + "/quarter.png"],
-                           check=True)
-            pictures[name] = [float(subprocess.run(
-                ["convert", self.folder.name + "/" + file, "-format", "%[fx:mean]", "info:"],
-                check=True, capture_output=True, text=True).stdout) for file in ("moon.png", "quarter.png")]
-            return pictures[name]
-
-        before = mean("middle")
+        def mean():
+            desktop.picture(desktop.home + "/moon.png")
+            return float(subprocess.run(["convert", desktop.home + "/moon.png", "-format", "%[fx:mean]", "info:"],
+                                        check=True, capture_output=True, text=True).stdout)
+        middle = mean()
         desktop.focus(desktop.find("Brightness of the pictures"))
-        for key, value in (("Home", "1"), ("End", "0")):
-            desktop.key(key)
-            self.preference("LVBrightness", value)
-            # What is stored may not have been painted yet.
-            before = wait_for("other pictures", lambda: all(map(operator.ne, mean(key), before)) and pictures[key])
-        desktop.key("Left")
-        self.preference("LVBrightness", "0.005")
-        # The higher the level that becomes grey, the darker the picture, and the quarters' pictures with it.
-        for which in (0, 1):
-            self.assertGreater(pictures["End"][which], pictures["middle"][which] + 0.02)
-            self.assertGreater(pictures["middle"][which], pictures["Home"][which] + 0.02)
+        # The higher the level that becomes grey, the darker the picture.
+        desktop.key("Home")
+        self.preference("LVBrightness", "1")
+        wait_for("a darker picture", lambda: mean() < middle - 0.02)
+        desktop.key("End")
+        self.preference("LVBrightness", "0")
+        wait_for("a brighter picture", lambda: mean() > middle + 0.02)
 
     def test_commands(self):
         desktop = self.desktop
@@ -381,15 +257,6 @@ class ActionsTest(unittest.TestCase):
         desktop.choose("Lumivane Home Page")
         self.assertRegex(desktop.opened(), home)
         self.hidden()
-
-        entries = os.path.join(desktop.home, "config/autostart")
-        self.assertTrue(os.listdir(entries), "the first start made one")
-        for exists in (False, True):
-            desktop.open_panel()
-            desktop.choose("Open at Login")
-            wait_for("the login item", lambda: bool(os.listdir(entries)) == exists)
-            desktop.key("Escape")
-            self.hidden()
 
         desktop.open_panel()
         desktop.choose("About Lumivane")
@@ -406,7 +273,7 @@ class ActionsTest(unittest.TestCase):
         self.assertRegex(desktop.opened(), home)
         self.assertIsNotNone(desktop.window(), "a windoid stays")
         desktop.choose("Check for Update...")
-        wait_for("an answer about updates", desktop.dialog)
+        wait_for("an answer about updates", lambda: desktop.shown_text("Update Error!"))
         desktop.key("Escape")
         wait_for("it to close", lambda: not desktop.dialog())
         desktop.key("F10", "q")

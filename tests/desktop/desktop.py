@@ -202,10 +202,6 @@ class Desktop:
         return self.property("org.kde.StatusNotifierWatcher", "/StatusNotifierWatcher",
                              "org.kde.StatusNotifierWatcher", "RegisteredStatusNotifierItems")
 
-    def owner_pid(self, name):
-        return self.call("org.freedesktop.DBus", "/", "org.freedesktop.DBus", "GetConnectionUnixProcessID",
-                         GLib.Variant("(s)", (name,))).unpack()[0]
-
     # The program
 
     def start(self, program, moment=None, zone="UTC", environment=None, fresh=True, tray=True):

@@ -1,27 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QCoreApplication>
+#include "tests/Interaction.h"
+
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
-#include <QDeadlineTimer>
 #include <QProcess>
-#include <QTimer>
-
-/// Lets events happen until `happened` says so; false when it has not within five seconds.
-template <typename Predicate>
-bool waitFor(Predicate happened) {
-    const QDeadlineTimer deadline(5000);
-    QTimer tick;
-    tick.start(20);
-    while (!happened()) {
-        if (deadline.hasExpired())
-            return false;
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    }
-    return true;
-}
 
 /// A message bus of a test's own, with as many connections as it wants.
 class PrivateBus {

@@ -2,9 +2,9 @@
 #include "platform/autostart/Autostart.h"
 
 #include "platform/desktop_entry/DesktopEntry.h"
+#include "tests/Interaction.h"
 #include "tests/platform/autostart/TestAutostart.h"
 
-#include <QElapsedTimer>
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QRandomGenerator>
@@ -59,14 +59,6 @@ QByteArray application(const QByteArray& exec, const QByteArray& more = {}) {
     return "[Desktop Entry]\nType=Application\nName=Some\nExec=" + exec + '\n' + more;
 }
 
-bool waitForContent(const QString& path) {
-    QElapsedTimer timer;
-    timer.start();
-    while (QFileInfo(path).size() == 0 && timer.elapsed() < 5000)
-        usleep(5000);
-    return QFileInfo(path).size() > 0;
-}
-
 /// Names that a shell, a desktop entry, a keyfile or a terminal would take for something else.
 const QString kHostileNames[] = {
     QStringLiteral("plain"),
@@ -96,7 +88,7 @@ TEST_F(AutostartTest, WhatIsAddedIsListedAndLaunchedByGLib) {
         const QString entry = entryPath(Autostart::items().constLast().file);
         ASSERT_EQ(QProcess::execute(QStringLiteral("gio"), {QStringLiteral("launch"), entry}), 0)
             << read(entry).constData();
-        ASSERT_TRUE(waitForContent(result)) << read(entry).constData();
+        ASSERT_TRUE(waitFor([&] { return QFileInfo(result).size() > 0; })) << read(entry).constData();
         EXPECT_EQ(QString::fromUtf8(read(result)), program + QStringLiteral("|0")) << read(entry).constData();
     }
 }

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include <QCoreApplication>
+#include "tests/Interaction.h"
+
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
-#include <QElapsedTimer>
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QTemporaryDir>
@@ -88,14 +88,8 @@ int countOfRunning(const std::vector<Program>& programs) {
 
 /// Whether that many are left in the end, and stay.
 bool areLeft(const std::vector<Program>& programs, int count) {
-    QElapsedTimer timer;
-    timer.start();
-    while (countOfRunning(programs) > count && timer.elapsed() < kPatience)
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
-    QElapsedTimer longer;
-    longer.start();
-    while (longer.elapsed() < 300)
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+    waitFor([&] { return countOfRunning(programs) <= count; }, kPatience);
+    letPass(300);
     return countOfRunning(programs) == count;
 }
 
@@ -192,8 +186,6 @@ TEST_F(RunningCopiesTest, AnswersTheDesktopAndOnlyANewerCopy) {
 
 TEST_F(RunningCopiesTest, WithoutABusACopyRunsAlone) {
     std::vector<Program> copies;
-    QElapsedTimer timer;
-    timer.start();
     for (int i = 0; i < 2; ++i) {
         copies.push_back(start({QStringLiteral("warned")}, QStringLiteral("unix:path=/nowhere/at/all")));
         EXPECT_EQ(line(copies.back().get()), QStringLiteral("ready"));

@@ -3,6 +3,7 @@
 
 #include "platform/layouts/FieldNote.h"
 #include "platform/preferences/Preferences.h"
+#include "tests/Interaction.h"
 #include "tests/TestMain.h"
 
 #include <QAction>
@@ -59,13 +60,6 @@ public Q_SLOTS:
     }
     void withoutSender() {}
 };
-
-void press(QWidget* widget, int key, const QString& text = QString()) {
-    QKeyEvent down(QEvent::KeyPress, key, Qt::NoModifier, text);
-    QApplication::sendEvent(widget, &down);
-    QKeyEvent up(QEvent::KeyRelease, key, Qt::NoModifier, text);
-    QApplication::sendEvent(widget, &up);
-}
 
 QString control(const char* type, const char* name, const char* action, const char* binding = nullptr,
                 const char* more = "") {

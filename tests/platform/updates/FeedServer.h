@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "tests/Interaction.h"
 #include "tests/TestMain.h"
 
-#include <QCoreApplication>
-#include <QDeadlineTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
@@ -16,24 +15,6 @@
 #include <gtest/gtest.h>
 
 #include <stdexcept>
-
-/// Runs the event loop until `condition` holds; false when it does not within `milliseconds`.
-template <typename Condition>
-bool waitFor(Condition condition, int milliseconds = 5000) {
-    const QDeadlineTimer deadline(milliseconds);
-    while (!condition()) {
-        if (deadline.hasExpired())
-            return false;
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
-    return true;
-}
-
-/// Runs the event loop for as long as a thing that must not happen is given time to happen.
-inline void letPass(int milliseconds) {
-    waitFor([] { return false; }, milliseconds);
-}
 
 /// A feed with one item.
 inline QByteArray feedWith(const QByteArray& build, const QByteArray& version,

@@ -56,11 +56,6 @@ QString running(const char* format) {
         .replace(QStringLiteral("VERSION"), bundle.infoString(QStringLiteral("CFBundleShortVersionString")));
 }
 
-void press(QWidget* target, Qt::Key key) {
-    QKeyEvent down(QEvent::KeyPress, key, Qt::NoModifier);
-    QApplication::sendEvent(target, &down);
-}
-
 class Delegate : public UpdateCheckerDelegate {
 public:
     QList<FeedParameter> feedParametersForUpdater(UpdateChecker*, bool sendingSystemProfile) override {

@@ -6,9 +6,7 @@
 
 #include <QApplication>
 #include <QDBusVariant>
-#include <QEventLoop>
 #include <QPalette>
-#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -51,12 +49,6 @@ bool isDark() {
            QApplication::palette().color(QPalette::WindowText).lightness() > 200;
 }
 
-void letPass() {
-    QEventLoop loop;
-    QTimer::singleShot(50, &loop, &QEventLoop::quit);
-    loop.exec();
-}
-
 struct AppearanceTest : testing::Test {
     ~AppearanceTest() override { QApplication::setPalette(QPalette()); }
     PrivateBus bus;
@@ -86,13 +78,13 @@ TEST_F(AppearanceTest, FollowsThePortal) {
 
 TEST_F(AppearanceTest, WaitsForAPortalAndLeavesOtherColours) {
     Appearance::followDesktop(&owner, bus.connect());
-    letPass();
+    letPass(50);
     EXPECT_FALSE(isDark()) << "without a portal";
     QPalette ours(Qt::black);
     QApplication::setPalette(ours);
     FakePortal portal(bus.connect(), 1);
     ASSERT_TRUE(waitFor([&] { return !portal.asked.isEmpty(); }));
-    letPass();
+    letPass(50);
     EXPECT_EQ(QApplication::palette().color(QPalette::Window), ours.color(QPalette::Window));
 }
 

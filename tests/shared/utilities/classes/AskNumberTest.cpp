@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "shared/utilities/classes/AskNumber.h"
 
+#include "tests/Interaction.h"
 #include "tests/TestMain.h"
 
 #include <QApplication>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -34,11 +34,6 @@ protected:
     }
 
     static QLineEdit* field(const AskNumber* dialog) { return dialog->window()->findChild<QLineEdit*>(); }
-
-    static void press(QWidget* widget, int key) {
-        QKeyEvent down(QEvent::KeyPress, key, Qt::NoModifier);
-        QApplication::sendEvent(widget, &down);
-    }
 
     static void answer(const AskNumber* dialog, const char* text) {
         field(dialog)->setText(QLatin1String(text));

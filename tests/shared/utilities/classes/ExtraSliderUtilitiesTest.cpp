@@ -2,9 +2,7 @@
 #include "shared/utilities/classes/ExtraSliderUtilities.h"
 
 #include "platform/layouts/Slider.h"
-
-#include <QApplication>
-#include <QKeyEvent>
+#include "tests/Interaction.h"
 
 #include <gtest/gtest.h>
 
@@ -24,11 +22,6 @@ protected:
     ExtraSliderUtilitiesTest() {
         setReverseMaxValue(&slider, static_cast<double>(0.975F));
         setReverseMinValue(&slider, static_cast<double>(0.025F));
-    }
-
-    void press(int key) {
-        QKeyEvent down(QEvent::KeyPress, key, Qt::NoModifier);
-        QApplication::sendEvent(&slider, &down);
     }
 
     Slider slider;
@@ -64,12 +57,12 @@ TEST_F(ExtraSliderUtilitiesTest, TheUsersKeysRunFromEndToEnd) {
     setReverseDoubleValue(&slider, 0.5);
     double before = 0.5;
     for (int i = 0; i < 3; ++i) {
-        press(Qt::Key_Right);
+        press(&slider, Qt::Key_Right);
         EXPECT_GT(reverseDoubleValue(&slider), before) << "on the right it is later";
         before = reverseDoubleValue(&slider);
     }
-    press(Qt::Key_Home);
+    press(&slider, Qt::Key_Home);
     EXPECT_EQ(reverseDoubleValue(&slider), reverseMinValue(&slider));
-    press(Qt::Key_End);
+    press(&slider, Qt::Key_End);
     EXPECT_EQ(reverseDoubleValue(&slider), reverseMaxValue(&slider));
 }

@@ -4,7 +4,6 @@
 #include "tests/FakeDesktop.h"
 
 #include <QApplication>
-#include <QKeyEvent>
 #include <QPushButton>
 #include <QTextBrowser>
 #include <QTextDocument>
@@ -23,8 +22,7 @@ TEST(SimpleTextWindowTest, ShowsACopyOfTheTextAndClosesWithAnyKeyForIt) {
         ASSERT_NE(dialog, nullptr);
         auto* view = dialog->window()->findChild<QTextBrowser*>();
         EXPECT_EQ(view->document()->toHtml(), html);
-        QKeyEvent down(QEvent::KeyPress, key, Qt::NoModifier);
-        QApplication::sendEvent(dialog->window()->focusWidget(), &down);
+        press(dialog->window()->focusWidget(), key);
         EXPECT_FALSE(dialog->window()->isVisible());
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         EXPECT_EQ(dialog, nullptr);
@@ -38,10 +36,8 @@ TEST(SimpleTextWindowTest, ALinkOpensInTheDefaultBrowser) {
     auto* dialog = SimpleTextWindow::freeTextWindowFromAttributedString(text);
     EXPECT_FALSE(dialog->window()->isModal());
     auto* view = dialog->window()->findChild<QTextBrowser*>();
-    for (const int key : {int(Qt::Key_Tab), int(Qt::Key_Return)}) {
-        QKeyEvent down(QEvent::KeyPress, key, Qt::NoModifier);
-        QApplication::sendEvent(view, &down);
-    }
+    for (const int key : {int(Qt::Key_Tab), int(Qt::Key_Return)})
+        press(view, key);
     EXPECT_EQ(desktop.starts("browser"), "--page https://www.corvanta.example/a?b=c");
     EXPECT_EQ(view->toPlainText(), u"page") << "the link leads out of the window";
     dialog->okPushed(nullptr);
