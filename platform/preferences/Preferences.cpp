@@ -3,6 +3,7 @@
 
 #include "platform/files/ConfigFolder.h"
 #include "platform/files/RegularFile.h"
+#include "platform/locale/NumberFormatter.h"
 #include "platform/log/Log.h"
 
 #include <QDir>
@@ -10,8 +11,6 @@
 #include <QSettings>
 #include <QStringDecoder>
 
-#include <array>
-#include <charconv>
 #include <cmath>
 #include <optional>
 #include <utility>
@@ -201,10 +200,7 @@ void Preferences::setInteger(int value, const QString& key) {
 }
 
 void Preferences::setFloat(float value, const QString& key) {
-    // The shortest text that reads back as the same number: 5.4, not 5.400000095367432.
-    std::array<char, 32> text{};
-    const auto end = std::to_chars(text.data(), text.data() + text.size(), value).ptr;
-    store(key, QString::fromLatin1(text.data(), end - text.data()));
+    store(key, NumberFormatter::plainString(value)); // 5.4, not 5.400000095367432
 }
 
 void Preferences::setBool(bool value, const QString& key) {

@@ -26,9 +26,4 @@ TEST(ApplicationDelegateTest, APersonsFirstStartReadsTheDefaults) {
     EXPECT_EQ(defaults->integerForKey(SUScheduledCheckIntervalKey), 604800);
     EXPECT_FALSE(defaults->boolForKey(SUAllowsAutomaticUpdatesKey)) << "whatever was there";
     EXPECT_FALSE(defaults->boolForKey(SUAutomaticallyUpdateKey));
-
-    defaults->setFloat(0.25F, QStringLiteral("LVBrightness"));
-    EXPECT_EQ(defaults->floatForKey(QStringLiteral("LVBrightness")), 0.25F);
-    defaults->removeObjectForKey(QStringLiteral("LVBrightness"));
-    EXPECT_EQ(defaults->floatForKey(QStringLiteral("LVBrightness")), 0.5F);
 }
