@@ -1,12 +1,146 @@
 // SPDX-License-Identifier: MIT
 #include "platform/browser/DefaultApplications.h"
 
-#include "platform/browser/GioApplication.h"
+#include "platform/log/Log.h"
 
 #include <QFileInfo>
+#include <QGuiApplication>
+#include <QProcessEnvironment>
 #include <QStandardPaths>
+#include <QSysInfo>
+
+#include <chrono>
+#include <memory>
+
+#include <gio/gdesktopappinfo.h>
+#include <unistd.h>
 
 namespace {
+
+struct Unref {
+    void operator()(gpointer object) const { g_object_unref(object); }
+};
+using Application = std::unique_ptr<GDesktopAppInfo, Unref>;
+struct FreeText {
+    void operator()(char* text) const { g_free(text); }
+};
+struct FreeError {
+    void operator()(GError* error) const { g_error_free(error); }
+};
+using Context = std::unique_ptr<GAppLaunchContext, Unref>;
+
+Application asDesktopApplication(GAppInfo* info) {
+    if (info && !G_IS_DESKTOP_APP_INFO(info)) {
+        g_object_unref(info);
+        info = nullptr;
+    }
+    return Application(reinterpret_cast<GDesktopAppInfo*>(info));
+}
+
+/// A bare executable, put as the command line of a desktop entry: there a per cent sign starts a field.
+Application fromExecutable(const QString& path) {
+    const std::unique_ptr<char, FreeText> quoted(g_shell_quote(path.toLocal8Bit().constData()));
+    const QByteArray command = QByteArray(quoted.get()).replace('%', "%%");
+    const QByteArray name = QFileInfo(path).fileName().toUtf8();
+    return asDesktopApplication(g_app_info_create_from_commandline(command.constData(), name.constData(),
+                                                                   G_APP_INFO_CREATE_SUPPORTS_URIS, nullptr));
+}
+
+/// An AppImage puts folders of its own into search paths; they are gone with it, and hold its libraries, not
+/// those of the program that is started.
+void leaveOutPackaging(GAppLaunchContext* context) {
+    const QProcessEnvironment own = QProcessEnvironment::systemEnvironment();
+    const QString folder = own.value(QStringLiteral("APPDIR"));
+    if (folder.isEmpty())
+        return;
+    const QStringList names = own.keys();
+    for (const QString& name : names) {
+        const QString value = own.value(name);
+        if (!value.contains(folder))
+            continue;
+        QStringList parts = value.split(QLatin1Char(':'));
+        parts.removeIf([&](const QString& part) {
+            return part == folder || part.startsWith(folder + QLatin1Char('/'));
+        });
+        if (parts.join(QString()).isEmpty())
+            g_app_launch_context_unsetenv(context, name.toLocal8Bit().constData());
+        else
+            g_app_launch_context_setenv(context, name.toLocal8Bit().constData(),
+                                        parts.join(QLatin1Char(':')).toLocal8Bit().constData());
+    }
+    for (const char* name : {"APPDIR", "APPIMAGE", "ARGV0", "OWD"})
+        g_app_launch_context_unsetenv(context, name);
+}
+
+/// Under X11 the window manager lets a new window come to the front by the time in this identifier. A local
+/// server counts the milliseconds of the monotonic clock; Wayland's tokens need a protocol that Qt 6.4 keeps
+/// to itself.
+QByteArray startupIdentifier() {
+    if (QGuiApplication::platformName() != u"xcb" || !qgetenv("DISPLAY").startsWith(':'))
+        return {};
+    static int number = 0;
+    const auto now = std::chrono::duration_cast<std::chrono::milliseconds>(
+        std::chrono::steady_clock::now().time_since_epoch());
+    return QStringLiteral("%1-%2-%3-%4_TIME%5")
+        .arg(QCoreApplication::applicationName(), QString::number(getpid()), QSysInfo::machineHostName(),
+             QString::number(++number), QString::number(static_cast<std::uint32_t>(now.count())))
+        .toLocal8Bit();
+}
+
+Context launchContext(GDesktopAppInfo* application) {
+    Context context(g_app_launch_context_new());
+    for (const char* ours : {"DESKTOP_STARTUP_ID", "XDG_ACTIVATION_TOKEN", "GIO_LAUNCHED_DESKTOP_FILE",
+                             "GIO_LAUNCHED_DESKTOP_FILE_PID"})
+        g_app_launch_context_unsetenv(context.get(), ours);
+    leaveOutPackaging(context.get());
+    const QByteArray identifier = startupIdentifier();
+    if (!identifier.isEmpty() && g_desktop_app_info_get_boolean(application, "StartupNotify"))
+        g_app_launch_context_setenv(context.get(), "DESKTOP_STARTUP_ID", identifier.constData());
+    return context;
+}
+
+/// The application that a desktop entry or a bare executable stands for; nothing when the file is gone, is
+/// neither, or its program can't be found or run.
+Application applicationAt(const QString& path) {
+    const QFileInfo file(path);
+    if (path.isEmpty() || !file.isFile() || !file.isReadable())
+        return nullptr;
+    if (file.suffix() == u"desktop") {
+        Application entry(g_desktop_app_info_new_from_filename(path.toLocal8Bit().constData()));
+        return entry && !g_desktop_app_info_get_is_hidden(entry.get()) ? std::move(entry) : nullptr;
+    }
+    return file.isExecutable() ? fromExecutable(file.absoluteFilePath()) : nullptr;
+}
+
+Application defaultForType(const QString& type) {
+    return asDesktopApplication(g_app_info_get_default_for_type(type.toUtf8().constData(), FALSE));
+}
+
+Application defaultForFile(const QString& path) {
+    const std::unique_ptr<GFile, Unref> file(g_file_new_for_path(path.toLocal8Bit().constData()));
+    return asDesktopApplication(g_file_query_default_handler(file.get(), nullptr, nullptr));
+}
+
+/// Starts the application with one address and returns at once. What is started has a session of its own, no
+/// part in this program's files, output or packaging, and outlives it. False, with a log line, on failure.
+bool launch(GDesktopAppInfo* application, const QUrl& address) {
+    QByteArray text = address.toEncoded();
+    GList items{text.data(), nullptr, nullptr};
+    GError* failure = nullptr;
+    // Without a watched child GLib starts a grandchild: nothing is left behind here when it ends. A session
+    // of its own keeps it from the signals of this program's terminal, and output into a pipe that closes
+    // with this program would end it.
+    constexpr auto kFlags = static_cast<GSpawnFlags>(G_SPAWN_SEARCH_PATH | G_SPAWN_STDOUT_TO_DEV_NULL |
+                                                     G_SPAWN_STDERR_TO_DEV_NULL);
+    const bool started = g_desktop_app_info_launch_uris_as_manager(
+        application, &items, launchContext(application).get(), kFlags, [](gpointer) { setsid(); }, nullptr,
+        nullptr, nullptr, &failure);
+    const std::unique_ptr<GError, FreeError> error(failure);
+    if (!started)
+        logLine(QStringLiteral("%1 can't be opened: %2")
+                    .arg(QString::fromUtf8(text), QString::fromUtf8(error ? error->message : "")));
+    return started;
+}
 
 using DefaultApplications::Outcome;
 
@@ -59,7 +193,7 @@ QString identifierInLists(const QString& contentType) {
 std::optional<QString> DefaultApplications::forScheme(const QString& scheme) {
     const QStringList types = contentTypes(scheme);
     for (const QString& type : types) {
-        if (const auto application = GioApplication::forContentType(type))
+        if (const auto application = defaultForType(type))
             return QString::fromLocal8Bit(g_desktop_app_info_get_filename(application.get()));
     }
     for (const QString& type : types) {
@@ -72,7 +206,7 @@ std::optional<QString> DefaultApplications::forScheme(const QString& scheme) {
 }
 
 bool DefaultApplications::isExecutable(const QString& path) {
-    return GioApplication::atPath(path) != nullptr;
+    return applicationAt(path) != nullptr;
 }
 
 Outcome DefaultApplications::open(const QUrl& address, const QString& application) {
@@ -82,16 +216,16 @@ Outcome DefaultApplications::open(const QUrl& address, const QString& applicatio
     if ((address.isLocalFile() && !QFileInfo::exists(address.toLocalFile())) ||
         (!application.isEmpty() && !QFileInfo::exists(application)))
         return Outcome::FileNotFound;
-    GioApplication::Application opener;
+    Application opener;
     if (!application.isEmpty())
-        opener = GioApplication::atPath(application);
+        opener = applicationAt(application);
     else if (address.isLocalFile())
-        opener = GioApplication::forFile(address.toLocalFile());
+        opener = defaultForFile(address.toLocalFile());
     else
-        opener = GioApplication::forContentType(QStringLiteral("x-scheme-handler/") + address.scheme());
+        opener = defaultForType(QStringLiteral("x-scheme-handler/") + address.scheme());
     if (!opener)
         return application.isEmpty() ? Outcome::NoApplication : Outcome::NotExecutable;
-    return GioApplication::launch(opener.get(), address) ? Outcome::Opened : Outcome::StartFailed;
+    return launch(opener.get(), address) ? Outcome::Opened : Outcome::StartFailed;
 }
 
 Outcome DefaultApplications::openTheSystemsWay(const QString& address) {

@@ -52,6 +52,11 @@ QString executablePath() {
     return path;
 }
 
+QString besideExecutable(const char* path) {
+    const QDir folder(QFileInfo(executablePath()).absolutePath());
+    return QDir::cleanPath(folder.filePath(QStringLiteral("../") + QLatin1String(path)));
+}
+
 /// The AppImage that this program runs from, mounted at `APPDIR`. A program that was started by an AppImage
 /// inherits the variables without being part of it.
 QString appImagePath(const QString& executable) {
@@ -82,15 +87,12 @@ Bundle& Bundle::main() {
 }
 
 QString Bundle::resourcePath() const {
-    if (const QString named = qEnvironmentVariable("LUMIVANE_RESOURCES"); !named.isEmpty())
-        return named;
-    return QFileInfo(QFileInfo(executablePath()).absolutePath() + QStringLiteral("/../share/lumivane"))
-        .absoluteFilePath();
+    const QString named = qEnvironmentVariable("LUMIVANE_RESOURCES");
+    return named.isEmpty() ? besideExecutable("share/lumivane") : named;
 }
 
 QString Bundle::plugInsPath() const {
-    return QFileInfo(QFileInfo(executablePath()).absolutePath() + QStringLiteral("/../lib/lumivane/plugins"))
-        .absoluteFilePath();
+    return besideExecutable("lib/lumivane/plugins");
 }
 
 QString Bundle::bundlePath() const {

@@ -19,8 +19,8 @@ struct PlistFree {
 };
 using PlistPtr = std::unique_ptr<void, PlistFree>;
 
-/// The objects of a binary property list, as far as finding its texts needs them: the format ends
-/// with a trailer of 32 bytes, which leads to a table of the objects' offsets.
+/// The objects of a binary property list, as far as finding its texts needs them: the format ends with a
+/// trailer of 32 bytes, which leads to a table of the objects' offsets.
 class BinaryObjects {
 public:
     explicit BinaryObjects(const QByteArray& bytes) : bytes_(bytes) {}

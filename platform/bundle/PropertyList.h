@@ -3,8 +3,8 @@
 
 #include <QVariant>
 
-/// Property lists, read and written by libplist. Arrays become QVariantList, dictionaries
-/// QVariantMap, integers qulonglong, reals double, texts QString, data QByteArray.
+/// Property lists, read and written by libplist. Arrays become QVariantList, dictionaries QVariantMap,
+/// integers qulonglong, reals double, texts QString, data QByteArray.
 namespace PropertyList {
 
 /// The property list (XML or binary) that `bytes` are; an invalid variant, and the reason in `error`, when

@@ -31,31 +31,15 @@ QString takeMessage(GError* error) {
 }
 
 /// A value with the file's escapes. GKeyFile's own leave a blank at the end, which some readers strip.
-QString escaped(const QString& value) {
-    QString result;
-    for (qsizetype i = 0; i < value.size(); ++i) {
-        const bool isAtEnd = i == 0 || i == value.size() - 1;
-        switch (value[i].unicode()) {
-        case u'\\':
-            result += QLatin1String("\\\\");
-            break;
-        case u'\n':
-            result += QLatin1String("\\n");
-            break;
-        case u'\r':
-            result += QLatin1String("\\r");
-            break;
-        case u'\t':
-            result += QLatin1String("\\t");
-            break;
-        case u' ':
-            result += isAtEnd ? QLatin1String("\\s") : QLatin1String(" ");
-            break;
-        default:
-            result += value[i];
-        }
-    }
-    return result;
+QString escaped(QString value) {
+    for (const auto& [character, escape] : {std::pair{u'\\', "\\\\"}, std::pair{u'\n', "\\n"},
+                                            std::pair{u'\r', "\\r"}, std::pair{u'\t', "\\t"}})
+        value.replace(QChar(character), QLatin1String(escape));
+    if (value.endsWith(u' '))
+        value.replace(value.size() - 1, 1, QStringLiteral("\\s"));
+    if (value.startsWith(u' '))
+        value.replace(0, 1, QStringLiteral("\\s"));
+    return value;
 }
 
 /// Where the first argument of a command line ends, as a shell sees it.

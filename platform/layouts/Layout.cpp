@@ -5,13 +5,13 @@
 #include "platform/files/RegularFile.h"
 #include "platform/layouts/FieldNote.h"
 #include "platform/layouts/Mnemonics.h"
+#include "platform/layouts/Slider.h"
 #include "platform/layouts/WheelFocus.h"
 #include "platform/locale/NumberFormatter.h"
 #include "platform/preferences/Preferences.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemModel>
-#include <QAbstractSlider>
 #include <QAction>
 #include <QBuffer>
 #include <QComboBox>
@@ -20,12 +20,9 @@
 #include <QHash>
 #include <QLineEdit>
 #include <QMetaMethod>
-#include <QMetaProperty>
 #include <QPointer>
 #include <QUiLoader>
 
-#include <algorithm>
-#include <cmath>
 #include <optional>
 #include <utility>
 
@@ -35,7 +32,6 @@ constexpr qint64 kLargestLayout = 4 << 20;
 constexpr char kAction[] = "action";
 constexpr char kBinding[] = "binding";
 constexpr char kTag[] = "tag";
-constexpr char kDoubleValue[] = "doubleValue";
 
 QHash<QString, Layout::Factory>& factories() {
     static QHash<QString, Layout::Factory> registered;
@@ -98,12 +94,6 @@ QString refusal(const QString& text, const PreferenceRange& range) {
              NumberFormatter::string(range.largest));
 }
 
-std::optional<QMetaProperty> doubleValueProperty(const QObject* control) {
-    const QMetaObject* type = control->metaObject();
-    const QMetaProperty property = type->property(type->indexOfProperty(kDoubleValue));
-    return property.isValid() && property.hasNotifySignal() ? std::optional(property) : std::nullopt;
-}
-
 /// How a control's value and the preference that it is bound to become each other.
 struct Value {
     /// False when the preference does not take the value; the control then shows the old one.
@@ -141,13 +131,18 @@ void showNumber(QLineEdit* field, float number) {
     field->setCursorPosition(0); // a long number is read from its start
 }
 
+/// Whether a field loses the focus because its window is hidden, or even deleted: no place for a note.
+bool isGoing(const QWidget* field) {
+    return field->isVisible() && !field->window()->testAttribute(Qt::WA_Mapped);
+}
+
 Value numberValue(QLineEdit* field) {
     return {[field](Preferences& defaults, const QString& key) {
                 const QString reason = refusal(field->text(), defaults.rangeForKey(key));
                 if (reason.isEmpty())
                     defaults.setFloat(NumberFormatter::number(field->text()).value_or(0.0F), key);
                 showNumber(field, defaults.floatForKey(key));
-                if (!reason.isEmpty())
+                if (!reason.isEmpty() && !isGoing(field))
                     FieldNote::showAt(field, reason);
                 return reason.isEmpty();
             },
@@ -158,25 +153,13 @@ Value numberValue(QLineEdit* field) {
             }};
 }
 
-Value doubleValue(QObject* control, const QMetaProperty& property) {
-    return {[=](Preferences& defaults, const QString& key) {
-                defaults.setFloat(property.read(control).toFloat(), key);
-                return true;
-            },
-            [=](const Preferences& defaults, const QString& key) {
-                property.write(control, static_cast<double>(defaults.floatForKey(key)));
-            }};
-}
-
-Value sliderValue(QAbstractSlider* slider) {
+Value sliderValue(Slider* slider) {
     return {[slider](Preferences& defaults, const QString& key) {
-                defaults.setFloat(static_cast<float>(slider->value()), key);
+                defaults.setFloat(static_cast<float>(slider->doubleValue()), key);
                 return true;
             },
             [slider](const Preferences& defaults, const QString& key) {
-                const double value = defaults.floatForKey(key);
-                slider->setValue(static_cast<int>(
-                    std::lround(std::clamp<double>(value, slider->minimum(), slider->maximum()))));
+                slider->setDoubleValue(static_cast<double>(defaults.floatForKey(key)));
             }};
 }
 
@@ -189,9 +172,7 @@ std::optional<Value> valueOf(QObject* control) {
         return choiceValue(box);
     if (auto* field = qobject_cast<QLineEdit*>(control))
         return numberValue(field);
-    if (const auto property = doubleValueProperty(control))
-        return doubleValue(control, *property);
-    if (auto* slider = qobject_cast<QAbstractSlider*>(control))
+    if (auto* slider = qobject_cast<Slider*>(control))
         return sliderValue(slider);
     return std::nullopt;
 }
@@ -199,8 +180,6 @@ std::optional<Value> valueOf(QObject* control) {
 /// Carries a user's change of one control to its preference and its owner's slot, and a change of the
 /// preference to the control. Child of the control.
 class ControlTie : public QObject {
-    Q_OBJECT
-
 public:
     ControlTie(QObject* control, QObject* owner) : QObject(control), control_(control), owner_(owner) {}
 
@@ -236,11 +215,8 @@ public:
             watchComboBox(box);
         else if (const auto* field = qobject_cast<QLineEdit*>(control_))
             connect(field, &QLineEdit::editingFinished, this, &ControlTie::editingFinished);
-        else if (const auto property = doubleValueProperty(control_))
-            connect(control_, property->notifySignal(), this,
-                    metaObject()->method(metaObject()->indexOfSlot("changed()")));
-        else if (const auto* slider = qobject_cast<QAbstractSlider*>(control_))
-            connect(slider, &QAbstractSlider::valueChanged, this, &ControlTie::changed);
+        else if (const auto* slider = qobject_cast<Slider*>(control_))
+            connect(slider, &Slider::doubleValueChanged, this, &ControlTie::changed);
         else if (const auto* date = qobject_cast<QDateTimeEdit*>(control_))
             connect(date, &QDateTimeEdit::dateTimeChanged, this, &ControlTie::changed);
         else
@@ -248,15 +224,12 @@ public:
         return true;
     }
 
-private Q_SLOTS:
+private:
     void changed() {
-        if (filling_)
-            return;
-        if (!value_ || value_->store(*Preferences::standard(), key_))
+        if (!filling_ && (!value_ || value_->store(*Preferences::standard(), key_)))
             sendAction();
     }
 
-private:
     void watchComboBox(const QComboBox* box) {
         connect(box, &QComboBox::activated, this, &ControlTie::changed);
         // The items get their integers after the layout is loaded.
@@ -370,5 +343,3 @@ QObject* Layout::objectNamed(QWidget* root, const char* objectName, const QMetaO
                             : QStringLiteral("The outlet \"%1\" is missing.").arg(name));
     return nullptr;
 }
-
-#include "Layout.moc"

@@ -13,17 +13,14 @@
 /// In a layout an outlet is the object whose `objectName` is the field's name. Three dynamic properties tie a
 /// control to the program (strings with `notr="true"`, so that nobody translates them):
 /// - `action` (string): the owner's slot `name(QObject* sender)` that a change by the user is sent to, with
-/// the
-///   control as the sender: a button's click, a combo box's choice, a text field's finished edit when its
-///   text was edited, a menu action. A slider and a date field send each change of their value, one made in
-///   code too unless their signals are blocked.
+///   the control as the sender: a button's click, a combo box's choice, a text field's finished edit when its
+///   text was edited, a menu action, a move of a `Slider`. A date field sends each change of its value, one
+///   made in code too unless its signals are blocked.
 /// - `binding` (string): the preference that the control shows and stores, both ways; the value is stored
-/// before
-///   the action is sent. A checkable button or action: true or false. A combo box: the integer that is the
-///   chosen item's `Qt::UserRole`; items without one store nothing. A text field: a number within
-///   the preference's range, as `NumberFormatter` reads and writes it; for anything else the old number
-///   comes back, with a note that says why, and no action is sent. A slider: its value, or
-///   its property `doubleValue` where its class declares one with a change signal.
+///   before the action is sent. A checkable button or action: true or false. A combo box: the integer that is
+///   the chosen item's `Qt::UserRole`; items without one store nothing. A text field: a number within the
+///   preference's range, as `NumberFormatter` reads and writes it; for anything else the old number comes
+///   back, with a note that says why, and no action is sent. A `Slider`: its value.
 /// - `tag` (integer): for the slot to read with `tag`.
 /// Texts mark the letter to press with Alt by '&'; a button is spoken without it. The mouse wheel changes a
 /// control only while that has the focus.

@@ -11,7 +11,7 @@ class Slider : public QSlider {
     Q_PROPERTY(double minValue READ minValue WRITE setMinValue)
     Q_PROPERTY(double maxValue READ maxValue WRITE setMaxValue)
     Q_PROPERTY(bool reversed READ isReversed WRITE setReversed)
-    Q_PROPERTY(double doubleValue READ doubleValue WRITE setDoubleValue NOTIFY doubleValueChanged)
+    Q_PROPERTY(double doubleValue READ doubleValue WRITE setDoubleValue)
 
 public:
     explicit Slider(QWidget* parent = nullptr);

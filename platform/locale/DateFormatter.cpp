@@ -3,6 +3,7 @@
 
 #include "platform/log/Log.h"
 
+#include <array>
 #include <map>
 #include <memory>
 #include <tuple>
@@ -87,17 +88,10 @@ HourCycle desktopHourCycle() {
 }
 
 icu::DateFormat::EStyle icuStyle(DateFormatter::Style style) {
-    switch (style) {
-    case DateFormatter::Style::Short:
-        return icu::DateFormat::kShort;
-    case DateFormatter::Style::Medium:
-        return icu::DateFormat::kMedium;
-    case DateFormatter::Style::Long:
-        return icu::DateFormat::kLong;
-    case DateFormatter::Style::None:
-        break;
-    }
-    return icu::DateFormat::kNone;
+    using icu::DateFormat;
+    constexpr std::array styles{DateFormat::kNone, DateFormat::kShort, DateFormat::kMedium,
+                                DateFormat::kLong};
+    return styles.at(static_cast<std::size_t>(style));
 }
 
 /// Puts the desktop's hour cycle in place of the locale's.

@@ -87,6 +87,10 @@ QString NumberFormatter::plainString(float number, int decimals) {
     return plainText(static_cast<double>(number), std::chars_format::fixed, decimals);
 }
 
+QString NumberFormatter::plainString(float number) {
+    return plainText(number);
+}
+
 QString NumberFormatter::localized(const QString& text) {
     static const QRegularExpression number(QStringLiteral(R"([+-]?[0-9]+(?:\.[0-9]+)?)"));
     QString result;

@@ -15,8 +15,10 @@ QString string(float number);
 /// With that many decimals, rounded as "%.3f" rounds.
 QString string(float number, int decimals);
 
-/// The same in no locale: "-5.5".
+/// The same in no locale: "-5.5". Without decimals, the shortest text that reads back as the same number,
+/// with an exponent where that is shorter.
 QString plainString(float number, int decimals);
+QString plainString(float number);
 
 /// `text` with the numbers in it ("+5.5") in the locale's form. Where that has a comma as its decimal sign a
 /// list's commas become semicolons.

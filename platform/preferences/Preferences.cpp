@@ -3,6 +3,7 @@
 
 #include "platform/files/ConfigFolder.h"
 #include "platform/files/RegularFile.h"
+#include "platform/locale/NumberFormatter.h"
 #include "platform/log/Log.h"
 
 #include <QDir>
@@ -10,8 +11,6 @@
 #include <QSettings>
 #include <QStringDecoder>
 
-#include <array>
-#include <charconv>
 #include <optional>
 #include <utility>
 
@@ -114,9 +113,7 @@ QVariant stored(const T& value) {
 /// The shortest text that reads back as the same number: 5.4, not 5.400000095367432.
 template <>
 QVariant stored(const float& value) {
-    std::array<char, 32> text{};
-    const auto end = std::to_chars(text.data(), text.data() + text.size(), value).ptr;
-    return QString::fromLatin1(text.data(), end - text.data());
+    return NumberFormatter::plainString(value); // 5.4, not 5.400000095367432
 }
 
 } // namespace

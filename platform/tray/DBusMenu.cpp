@@ -2,7 +2,6 @@
 #include "platform/tray/DBusMenu.h"
 
 #include <QActionEvent>
-#include <QActionGroup>
 #include <QDBusMetaType>
 #include <QGuiApplication>
 
@@ -53,15 +52,11 @@ QVariantMap allProperties(const QAction& action) {
                            {QStringLiteral("enabled"), action.isEnabled()},
                            {QStringLiteral("visible"), action.isVisible()}};
     if (action.isCheckable()) {
-        const bool radio = action.actionGroup() && action.actionGroup()->isExclusive();
-        properties.insert(QStringLiteral("toggle-type"),
-                          radio ? QStringLiteral("radio") : QStringLiteral("checkmark"));
+        properties.insert(QStringLiteral("toggle-type"), QStringLiteral("checkmark"));
         properties.insert(QStringLiteral("toggle-state"), action.isChecked() ? 1 : 0);
     }
     if (!action.shortcut().isEmpty() && action.isShortcutVisibleInContextMenu())
         properties.insert(QStringLiteral("shortcut"), QVariant::fromValue(keysOf(action.shortcut())));
-    if (action.menu())
-        properties.insert(QStringLiteral("children-display"), QStringLiteral("submenu"));
     return properties;
 }
 
@@ -69,7 +64,7 @@ const QStringList& propertyNames() {
     static const QStringList names{QStringLiteral("type"),        QStringLiteral("label"),
                                    QStringLiteral("enabled"),     QStringLiteral("visible"),
                                    QStringLiteral("toggle-type"), QStringLiteral("toggle-state"),
-                                   QStringLiteral("shortcut"),    QStringLiteral("children-display")};
+                                   QStringLiteral("shortcut")};
     return names;
 }
 
@@ -100,48 +95,6 @@ const QDBusArgument& operator>>(const QDBusArgument& argument, DBusMenuLayout& l
     return argument;
 }
 
-QDBusArgument& operator<<(QDBusArgument& argument, const DBusMenuItem& item) {
-    argument.beginStructure();
-    argument << item.id << item.properties;
-    argument.endStructure();
-    return argument;
-}
-
-const QDBusArgument& operator>>(const QDBusArgument& argument, DBusMenuItem& item) {
-    argument.beginStructure();
-    argument >> item.id >> item.properties;
-    argument.endStructure();
-    return argument;
-}
-
-QDBusArgument& operator<<(QDBusArgument& argument, const DBusMenuItemKeys& keys) {
-    argument.beginStructure();
-    argument << keys.id << keys.names;
-    argument.endStructure();
-    return argument;
-}
-
-const QDBusArgument& operator>>(const QDBusArgument& argument, DBusMenuItemKeys& keys) {
-    argument.beginStructure();
-    argument >> keys.id >> keys.names;
-    argument.endStructure();
-    return argument;
-}
-
-QDBusArgument& operator<<(QDBusArgument& argument, const DBusMenuEvent& event) {
-    argument.beginStructure();
-    argument << event.id << event.name << event.data << event.timestamp;
-    argument.endStructure();
-    return argument;
-}
-
-const QDBusArgument& operator>>(const QDBusArgument& argument, DBusMenuEvent& event) {
-    argument.beginStructure();
-    argument >> event.id >> event.name >> event.data >> event.timestamp;
-    argument.endStructure();
-    return argument;
-}
-
 DBusMenu::DBusMenu(QObject* parent) : QObject(parent) {
     qDBusRegisterMetaType<DBusMenuLayout>();
     qDBusRegisterMetaType<DBusMenuItem>();
@@ -161,7 +114,9 @@ void DBusMenu::setMenu(QMenu* menu) {
     if (menu_)
         menu_->removeEventFilter(this);
     menu_ = menu;
-    changedMenus_.insert(0);
+    if (menu)
+        menu->installEventFilter(this);
+    layoutChanged_ = true;
     scheduleUpdate();
 }
 
@@ -215,7 +170,7 @@ bool DBusMenu::AboutToShow(int id) {
         refuse(id);
         return false;
     }
-    return prepare(id);
+    return id == 0 && prepareMenu();
 }
 
 QList<int> DBusMenu::AboutToShowGroup(const QList<int>& ids, QList<int>& idErrors) {
@@ -223,7 +178,7 @@ QList<int> DBusMenu::AboutToShowGroup(const QList<int>& ids, QList<int>& idError
     for (const int id : ids) {
         if (!isItem(id))
             idErrors.append(id);
-        else if (prepare(id))
+        else if (id == 0 && prepareMenu())
             changed.append(id);
     }
     return changed;
@@ -233,7 +188,7 @@ bool DBusMenu::eventFilter(QObject* watched, QEvent* event) {
     switch (event->type()) {
     case QEvent::ActionAdded:
     case QEvent::ActionRemoved:
-        changedMenus_.insert(idOf(static_cast<QMenu*>(watched)));
+        layoutChanged_ = true;
         scheduleUpdate();
         break;
     case QEvent::ActionChanged:
@@ -263,17 +218,6 @@ int DBusMenu::idOf(QAction* action) {
     return id;
 }
 
-int DBusMenu::idOf(QMenu* menu) {
-    return menu == menu_ ? 0 : idOf(menu->menuAction());
-}
-
-QMenu* DBusMenu::menuOf(int id) const {
-    if (id == 0)
-        return menu_;
-    QAction* const action = actions_.value(id);
-    return action ? action->menu() : nullptr;
-}
-
 /// Those properties of an item that `names` lists; all when it lists none.
 QVariantMap DBusMenu::propertiesOf(int id, const QStringList& names) const {
     QVariantMap properties =
@@ -284,20 +228,18 @@ QVariantMap DBusMenu::propertiesOf(int id, const QStringList& names) const {
     return properties;
 }
 
-/// An item with `depth` generations below it, all of them when it is negative.
+/// An item, with what the menu holds where it is the menu itself and `depth` is not 0.
 DBusMenuLayout DBusMenu::layoutOf(int id, int depth, const QStringList& names) {
     DBusMenuLayout layout{id, propertiesOf(id, names), {}};
-    QMenu* const menu = depth == 0 ? nullptr : menuOf(id);
-    if (!menu)
+    if (depth == 0 || id != 0 || !menu_)
         return layout;
-    menu->installEventFilter(this);
-    Q_EMIT menu->aboutToShow();
+    Q_EMIT menu_->aboutToShow();
     // This answer holds what the menu's owner changed just now; telling the host to ask again would go on
     // for ever.
-    changedMenus_.remove(id);
-    const QList<QAction*> actions = menu->actions();
+    layoutChanged_ = false;
+    const QList<QAction*> actions = menu_->actions();
     for (QAction* action : actions)
-        layout.children.append(layoutOf(idOf(action), depth - 1, names));
+        layout.children.append(layoutOf(idOf(action), 0, names));
     return layout;
 }
 
@@ -311,14 +253,12 @@ bool DBusMenu::handleEvent(int id, const QString& name) {
     return true;
 }
 
-/// Lets a menu's owner bring it up to date; whether that changed anything.
-bool DBusMenu::prepare(int id) {
-    QMenu* const menu = menuOf(id);
-    if (!menu)
+/// Lets the menu's owner bring it up to date; whether that changed anything.
+bool DBusMenu::prepareMenu() {
+    if (!menu_)
         return false;
-    menu->installEventFilter(this);
-    Q_EMIT menu->aboutToShow();
-    const bool changed = !changedItems_.isEmpty() || !changedMenus_.isEmpty();
+    Q_EMIT menu_->aboutToShow();
+    const bool changed = !changedItems_.isEmpty() || layoutChanged_;
     sendUpdates();
     return changed;
 }
@@ -347,6 +287,6 @@ void DBusMenu::sendUpdates() {
     }
     if (!updated.isEmpty())
         Q_EMIT ItemsPropertiesUpdated(updated, removed);
-    if (const QSet<int> menus = std::exchange(changedMenus_, {}); !menus.isEmpty())
-        Q_EMIT LayoutUpdated(++revision_, menus.size() == 1 ? *menus.begin() : 0);
+    if (std::exchange(layoutChanged_, false))
+        Q_EMIT LayoutUpdated(++revision_, 0);
 }

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QDBusArgument>
+#include "platform/tray/DBusStructure.h"
+
 #include <QDBusContext>
 #include <QDBusVariant>
 #include <QHash>
@@ -21,12 +22,16 @@ struct DBusMenuLayout {
 struct DBusMenuItem {
     int id = 0;
     QVariantMap properties;
+
+    static auto fields(auto& self) { return std::tie(self.id, self.properties); }
 };
 
 /// The names of an item's properties that are back at their defaults, `(ias)`.
 struct DBusMenuItemKeys {
     int id = 0;
     QStringList names;
+
+    static auto fields(auto& self) { return std::tie(self.id, self.names); }
 };
 
 /// Something that happened to an item in the host's picture of the menu, `(isvu)`.
@@ -35,21 +40,17 @@ struct DBusMenuEvent {
     QString name;
     QDBusVariant data;
     uint timestamp = 0;
+
+    static auto fields(auto& self) { return std::tie(self.id, self.name, self.data, self.timestamp); }
 };
 
 QDBusArgument& operator<<(QDBusArgument& argument, const DBusMenuLayout& layout);
 const QDBusArgument& operator>>(const QDBusArgument& argument, DBusMenuLayout& layout);
-QDBusArgument& operator<<(QDBusArgument& argument, const DBusMenuItem& item);
-const QDBusArgument& operator>>(const QDBusArgument& argument, DBusMenuItem& item);
-QDBusArgument& operator<<(QDBusArgument& argument, const DBusMenuItemKeys& keys);
-const QDBusArgument& operator>>(const QDBusArgument& argument, DBusMenuItemKeys& keys);
-QDBusArgument& operator<<(QDBusArgument& argument, const DBusMenuEvent& event);
-const QDBusArgument& operator>>(const QDBusArgument& argument, DBusMenuEvent& event);
 
-/// Shows a QMenu to other programs as `com.canonical.dbusmenu`: texts, separators, check marks, submenus.
-/// Item 0 is the menu itself. `QMenu::aboutToShow` is emitted before a menu's items are given away, so
-/// that texts and check marks set there are fresh; what changes later is sent after them.
-/// The object does nothing until it is registered on a bus with its scriptable contents.
+/// Shows a QMenu to other programs as `com.canonical.dbusmenu`: texts, shortcuts, separators, check marks.
+/// Item 0 is the menu itself. `QMenu::aboutToShow` is emitted before a menu's items are given away, so that
+/// texts and check marks set there are fresh; what changes later is sent after them. The object does nothing
+/// until it is registered on a bus with its scriptable contents.
 class DBusMenu : public QObject, protected QDBusContext {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "com.canonical.dbusmenu")
@@ -93,12 +94,10 @@ private:
     bool eventFilter(QObject* watched, QEvent* event) override;
     bool isItem(int id) const;
     int idOf(QAction* action);
-    int idOf(QMenu* menu);
-    QMenu* menuOf(int id) const;
     QVariantMap propertiesOf(int id, const QStringList& names) const;
     DBusMenuLayout layoutOf(int id, int depth, const QStringList& names);
     bool handleEvent(int id, const QString& name);
-    bool prepare(int id);
+    bool prepareMenu();
     void refuse(int id);
     void scheduleUpdate();
     void sendUpdates();
@@ -110,6 +109,6 @@ private:
     uint revision_ = 1;
     // What changed since the host was last told.
     QSet<int> changedItems_;
-    QSet<int> changedMenus_;
+    bool layoutChanged_ = false;
     bool updateScheduled_ = false;
 };

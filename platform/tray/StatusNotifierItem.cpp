@@ -92,34 +92,6 @@ bool tellsOfHost(const QDBusPendingReply<QDBusVariant>& answer) {
 
 } // namespace
 
-QDBusArgument& operator<<(QDBusArgument& argument, const DBusImage& image) {
-    argument.beginStructure();
-    argument << image.width << image.height << image.pixels;
-    argument.endStructure();
-    return argument;
-}
-
-const QDBusArgument& operator>>(const QDBusArgument& argument, DBusImage& image) {
-    argument.beginStructure();
-    argument >> image.width >> image.height >> image.pixels;
-    argument.endStructure();
-    return argument;
-}
-
-QDBusArgument& operator<<(QDBusArgument& argument, const DBusToolTip& toolTip) {
-    argument.beginStructure();
-    argument << toolTip.iconName << toolTip.images << toolTip.title << toolTip.text;
-    argument.endStructure();
-    return argument;
-}
-
-const QDBusArgument& operator>>(const QDBusArgument& argument, DBusToolTip& toolTip) {
-    argument.beginStructure();
-    argument >> toolTip.iconName >> toolTip.images >> toolTip.title >> toolTip.text;
-    argument.endStructure();
-    return argument;
-}
-
 StatusNotifierItem::StatusNotifierItem(const QString& identifier, const QString& title,
                                        const QDBusConnection& bus, QObject* parent)
     : QObject(parent), identifier_(identifier), title_(title), bus_(bus), toolTip_(title) {

@@ -3,7 +3,6 @@
 
 #include "platform/tray/DBusMenu.h"
 
-#include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusObjectPath>
 #include <QImage>
@@ -22,6 +21,8 @@ struct DBusImage {
     int width = 0;
     int height = 0;
     QByteArray pixels;
+
+    static auto fields(auto& self) { return std::tie(self.width, self.height, self.pixels); }
 };
 
 /// `(sa(iiay)ss)`: an icon's name or pictures, a heading and a text below it.
@@ -30,12 +31,9 @@ struct DBusToolTip {
     QList<DBusImage> images;
     QString title;
     QString text;
-};
 
-QDBusArgument& operator<<(QDBusArgument& argument, const DBusImage& image);
-const QDBusArgument& operator>>(const QDBusArgument& argument, DBusImage& image);
-QDBusArgument& operator<<(QDBusArgument& argument, const DBusToolTip& toolTip);
-const QDBusArgument& operator>>(const QDBusArgument& argument, DBusToolTip& toolTip);
+    static auto fields(auto& self) { return std::tie(self.iconName, self.images, self.title, self.text); }
+};
 
 /// A tray item that hosts (panels) show by way of the bus, `org.kde.StatusNotifierItem`. It registers with
 /// whatever watcher is there, now or later, as long as a host is there too, and leaves the bus when none is.

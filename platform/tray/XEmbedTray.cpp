@@ -24,19 +24,13 @@ XEmbedTray::XEmbedTray(QObject* parent) : QObject(parent) {
     connection_ = X11::connection();
     if (!connection_)
         return;
-    manager_ = atom("MANAGER");
-    selection_ = atom(selectionName());
+    manager_ = X11::atom(connection_, "MANAGER", true);
+    selection_ = X11::atom(connection_, selectionName().toStdString(), true);
     qGuiApp->installNativeEventFilter(this);
     findOwner();
 }
 
 XEmbedTray::~XEmbedTray() = default;
-
-xcb_atom_t XEmbedTray::atom(const QByteArray& name) const {
-    const auto cookie = xcb_intern_atom(connection_, false, name.size(), name.constData());
-    const auto answer = X11::owned(xcb_intern_atom_reply(connection_, cookie, nullptr));
-    return answer ? answer->atom : xcb_atom_t{XCB_ATOM_NONE};
-}
 
 void XEmbedTray::findOwner() {
     const auto cookie = xcb_get_selection_owner(connection_, selection_);

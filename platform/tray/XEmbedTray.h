@@ -23,7 +23,6 @@ Q_SIGNALS:
 
 private:
     bool nativeEventFilter(const QByteArray& eventType, void* message, qintptr* result) override;
-    xcb_atom_t atom(const QByteArray& name) const;
     void findOwner();
 
     xcb_connection_t* connection_ = nullptr;

@@ -6,6 +6,8 @@
 #include <QFileInfo>
 #include <QPluginLoader>
 
+#include <utility>
+
 namespace {
 
 /// The plug-in, which stays once it is loaded; null, and the reason in `error`, when it can't be.
@@ -28,26 +30,21 @@ QString userAgent() {
                                        bundle.infoString(QStringLiteral("CFBundleShortVersionString")));
 }
 
+std::unique_ptr<QObject> failLater(FetchFailure failure, const QString& reason, const Network::Outcome& to) {
+    auto pending = std::make_unique<QObject>();
+    QMetaObject::invokeMethod(
+        pending.get(), [=] { to.failed(failure, reason); }, Qt::QueuedConnection);
+    return pending;
+}
+
 } // namespace
 
-FeedFetcher::FeedFetcher(const FetchLimits& limits, const QString& plugIns, QObject* parent)
-    : QObject(parent), limits_(limits), plugIns_(plugIns) {
-}
-
-void FeedFetcher::fetch(const QUrl& url) {
+std::unique_ptr<QObject> fetchFeed(const QUrl& url, const FetchLimits& limits, const QString& plugIns,
+                                   Network::Outcome outcome) {
     if (!isSecure(url))
-        return failLater(FetchFailure::NoFeed, QStringLiteral("the address is not https"));
+        return failLater(FetchFailure::NoFeed, QStringLiteral("the address is not https"), outcome);
     QString error;
-    Network* const plugIn = network(plugIns_, &error);
-    if (!plugIn)
-        return failLater(FetchFailure::NoPlugIn, error);
-    underWay_ = plugIn->fetch(
-        url, userAgent(), limits_,
-        {.fetched = [this](const QByteArray& feed) { Q_EMIT fetched(feed); },
-         .failed = [this](FetchFailure failure, const QString& reason) { Q_EMIT failed(failure, reason); }});
-}
-
-void FeedFetcher::failLater(FetchFailure failure, const QString& reason) {
-    QMetaObject::invokeMethod(
-        this, [this, failure, reason] { Q_EMIT failed(failure, reason); }, Qt::QueuedConnection);
+    Network* const plugIn = network(plugIns, &error);
+    return plugIn ? plugIn->fetch(url, userAgent(), limits, std::move(outcome))
+                  : failLater(FetchFailure::NoPlugIn, error, outcome);
 }

@@ -13,6 +13,8 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
+#include <array>
+
 namespace {
 
 constexpr int kIconSize = 64;
@@ -33,35 +35,21 @@ QIcon programIcon(QStyle::StandardPixmap otherwise) {
     return icon.isNull() ? QApplication::style()->standardIcon(otherwise) : icon;
 }
 
-const char* sentenceFor(FetchFailure failure) {
-    switch (failure) {
-    case FetchFailure::NoFeed:
-        return QT_TRANSLATE_NOOP("Lumivane", "This copy of %1 does not know where to look for updates.");
-    case FetchFailure::NoPlugIn:
-        return QT_TRANSLATE_NOOP(
-            "Lumivane",
-            "%1 can't look for updates, because a part of it is missing; please install %1 again.");
-    case FetchFailure::NoSecurity:
-        return QT_TRANSLATE_NOOP("Lumivane",
-                                 "%1 can't look for updates, because this system has no secure connections.");
-    case FetchFailure::Unreachable:
-        return QT_TRANSLATE_NOOP("Lumivane",
-                                 "The update server can't be reached; please check the network connection.");
-    case FetchFailure::Untrusted:
-        return QT_TRANSLATE_NOOP(
-            "Lumivane", "The update server could not prove its identity, so it was not asked for updates.");
-    case FetchFailure::InsecureRedirect:
-        return QT_TRANSLATE_NOOP(
-            "Lumivane", "The update server refers to an insecure address, which was not asked for updates.");
-    case FetchFailure::TooSlow:
-        return QT_TRANSLATE_NOOP("Lumivane",
-                                 "The update server takes too long to answer; please try again later.");
-    case FetchFailure::Unusable:
-        break;
-    }
-    return QT_TRANSLATE_NOOP("Lumivane",
-                             "The update server's answer can't be understood; please try again later.");
-}
+/// One for each FetchFailure, in their order.
+constexpr std::array kFailures{
+    QT_TRANSLATE_NOOP("Lumivane", "This copy of %1 does not know where to look for updates."),
+    QT_TRANSLATE_NOOP("Lumivane",
+                      "%1 can't look for updates, because a part of it is missing; please install %1 again."),
+    QT_TRANSLATE_NOOP("Lumivane",
+                      "%1 can't look for updates, because this system has no secure connections."),
+    QT_TRANSLATE_NOOP("Lumivane", "The update server can't be reached; please check the network connection."),
+    QT_TRANSLATE_NOOP("Lumivane",
+                      "The update server could not prove its identity, so it was not asked for updates."),
+    QT_TRANSLATE_NOOP("Lumivane",
+                      "The update server refers to an insecure address, which was not asked for updates."),
+    QT_TRANSLATE_NOOP("Lumivane", "The update server takes too long to answer; please try again later."),
+    QT_TRANSLATE_NOOP("Lumivane", "The update server's answer can't be understood; please try again later."),
+};
 
 QLabel* addLabel(QVBoxLayout* layout, const QString& text, const char* name) {
     auto* label = new QLabel(text);
@@ -143,7 +131,7 @@ UpdateAlert* UpdateAlert::upToDate(const QString& currentVersion) {
 }
 
 UpdateAlert* UpdateAlert::checkFailed(FetchFailure reason) {
-    QString sentence = localized(sentenceFor(reason));
+    QString sentence = localized(kFailures.at(static_cast<std::size_t>(reason)));
     return failure(sentence.replace(QStringLiteral("%1"), programName()));
 }
 

@@ -73,7 +73,7 @@ void UpdateChecker::timerFired() {
 
 std::optional<milliseconds> UpdateChecker::timeUntilNextCheck() const {
     const Preferences* defaults = Preferences::standard();
-    const bool isBusy = fetcher_ || alert_;
+    const bool isBusy = fetch_ || alert_;
     if (isBusy || !isSecure(feedURL_) || !defaults->value(SUEnableAutomaticChecksKey))
         return std::nullopt;
     const milliseconds interval = std::max<milliseconds>(
@@ -91,7 +91,7 @@ void UpdateChecker::checkForUpdates(QObject*) {
     if (alert_)
         return bringForward(alert_);
     asked_ = true;
-    if (fetcher_)
+    if (fetch_)
         return progress_ ? bringForward(progress_) : showProgress();
     timer_.stop();
     if (isSecure(feedURL_)) {
@@ -106,10 +106,10 @@ void UpdateChecker::startCheck() {
     const QUrl url = completeFeedURL();
     // A check counts from its start, whatever comes of it: a server that is down is not asked more often.
     Preferences::standard()->set(SULastCheckTimeKey, Clock::now().toString(Qt::ISODate));
-    fetcher_ = new FeedFetcher(timing_.limits, Bundle::main().plugInsPath(), this);
-    connect(fetcher_, &FeedFetcher::fetched, this, &UpdateChecker::feedFetched);
-    connect(fetcher_, &FeedFetcher::failed, this, &UpdateChecker::checkFailed);
-    fetcher_->fetch(url);
+    fetch_ = fetchFeed(
+        url, timing_.limits, Bundle::main().plugInsPath(),
+        {.fetched = [this](const QByteArray& feed) { feedFetched(feed); },
+         .failed = [this](FetchFailure failure, const QString& reason) { checkFailed(failure, reason); }});
 }
 
 QUrl UpdateChecker::completeFeedURL() {
@@ -136,6 +136,7 @@ void UpdateChecker::showProgress() {
     progress_->setWindowTitle(bundle.localizedString(QT_TRANSLATE_NOOP("Lumivane", "Software Update")));
     progress_->setMinimumWidth(320);
     connect(progress_, &QProgressDialog::canceled, this, [this] {
+        fetch_.reset();
         endCheck();
         schedule();
     });
@@ -147,10 +148,8 @@ void UpdateChecker::showProgress() {
 }
 
 void UpdateChecker::endCheck() {
-    if (fetcher_) {
-        fetcher_->disconnect(this);
-        std::exchange(fetcher_, nullptr)->deleteLater();
-    }
+    if (fetch_)
+        fetch_.release()->deleteLater(); // it may be what calls
     if (progress_) {
         progress_->disconnect(this);
         std::exchange(progress_, nullptr)->deleteLater();

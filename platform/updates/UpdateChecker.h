@@ -13,6 +13,7 @@
 #include <QUrl>
 
 #include <chrono>
+#include <memory>
 #include <optional>
 
 class UpdateAlert;
@@ -108,7 +109,7 @@ private:
     QTimer timer_;
     QUrl feedURL_;
     UpdateCheckerDelegate* delegate_ = nullptr;
-    FeedFetcher* fetcher_ = nullptr; ///< there while a check is under way
+    std::unique_ptr<QObject> fetch_; ///< there while a check is under way
     bool asked_ = false;             ///< the check under way is one that the user asked for
     QPointer<QProgressDialog> progress_;
     QPointer<UpdateAlert> alert_;

@@ -4,8 +4,8 @@
 class QDBusConnection;
 class QObject;
 
-/// The desktop's appearance, light or dark, moving or still: the desktop portal's
-/// `color-scheme` and `enable-animations`, which Qt 6.4 does not follow by itself.
+/// The desktop's appearance, light or dark, moving or still: the desktop portal's `color-scheme` and
+/// `enable-animations`, which Qt 6.4 does not follow by itself.
 namespace Appearance {
 
 /// Has the application's colours, and `wantsAnimations`, follow the portal as long as `owner` lives, now and

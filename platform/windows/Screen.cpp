@@ -7,19 +7,11 @@
 
 #include <algorithm>
 #include <cmath>
-#include <string_view>
 #include <vector>
 
 namespace {
 
 constexpr std::uint32_t kMostWindows = 4096;
-
-xcb_atom_t atom(xcb_connection_t* connection, std::string_view name) {
-    const auto cookie =
-        xcb_intern_atom(connection, true, static_cast<std::uint16_t>(name.size()), name.data());
-    const auto answer = X11::owned(xcb_intern_atom_reply(connection, cookie, nullptr));
-    return answer ? answer->atom : xcb_atom_t{XCB_ATOM_NONE};
-}
 
 std::vector<std::uint32_t> numbers(xcb_connection_t* connection, xcb_get_property_cookie_t cookie) {
     const auto answer = X11::owned(xcb_get_property_reply(connection, cookie, nullptr));
@@ -31,8 +23,8 @@ std::vector<std::uint32_t> numbers(xcb_connection_t* connection, xcb_get_propert
 
 /// What all windows reserve at the edges of the desktop, whose size is `desktop`.
 std::vector<Screen::Strut> struts(xcb_connection_t* connection, xcb_window_t root, const QSize& desktop) {
-    const xcb_atom_t name = atom(connection, "_NET_WM_STRUT_PARTIAL");
-    const xcb_atom_t list = atom(connection, "_NET_CLIENT_LIST");
+    const xcb_atom_t name = X11::atom(connection, "_NET_WM_STRUT_PARTIAL", false);
+    const xcb_atom_t list = X11::atom(connection, "_NET_CLIENT_LIST", false);
     const auto windows = numbers(
         connection, xcb_get_property(connection, false, root, list, XCB_ATOM_WINDOW, 0, kMostWindows));
     std::vector<xcb_get_property_cookie_t> questions;

@@ -7,6 +7,7 @@
 
 #include <cstdlib>
 #include <memory>
+#include <string_view>
 
 /// What the files that speak to the X server have in common.
 namespace X11 {
@@ -22,6 +23,14 @@ inline xcb_connection_t* connection() {
 template <typename T>
 std::unique_ptr<T, decltype(&std::free)> owned(T* answer) {
     return {answer, &std::free};
+}
+
+/// The number that the server has for a name; 0 where it has none, or has none yet and `mayMake` is false.
+inline xcb_atom_t atom(xcb_connection_t* connection, std::string_view name, bool mayMake) {
+    const auto cookie =
+        xcb_intern_atom(connection, !mayMake, static_cast<std::uint16_t>(name.size()), name.data());
+    const auto answer = owned(xcb_intern_atom_reply(connection, cookie, nullptr));
+    return answer ? answer->atom : xcb_atom_t{XCB_ATOM_NONE};
 }
 
 } // namespace X11

@@ -284,7 +284,8 @@ class ActionsTest(unittest.TestCase):
         window = self.show()
         focusable = desktop.atspi().StateType.FOCUSABLE
         expected = {node.get_name() for node in desktop.walk(window)
-                    if node.get_state_set().contains(focusable) and node.get_role_name() != "list item" and desktop.shows(node)}
+                    if node.get_state_set().contains(focusable) and node.get_role_name() != "list item"
+                    and desktop.shows(node)}
         self.assertGreaterEqual(len(expected), 24)
         reached = []
         while len(reached) < 40:

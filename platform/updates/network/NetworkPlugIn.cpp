@@ -64,10 +64,6 @@ FetchFailure failureFor(CURLcode code) {
     }
 }
 
-bool isRedirect(long status) {
-    return status == 301 || status == 302 || status == 303 || status == 307 || status == 308;
-}
-
 /// https only, also after a redirect, with checked certificates, through the proxy that the environment
 /// names, without cookies, cache or passwords.
 class Fetch : public QObject {
@@ -131,9 +127,7 @@ private:
     }
 
     void ask(const QUrl& url) {
-        url_ = url;
         headerSize_ = 0;
-        location_.clear();
         feed_.clear();
         message_[0] = '\0';
         curl_easy_setopt(transfer_.get(), CURLOPT_URL, url.toEncoded().constData());
@@ -185,12 +179,6 @@ private:
         if (headerSize_ > limits_.headerBytes)
             return refuse(
                 QStringLiteral("the answer's header is longer than %1 bytes").arg(limits_.headerBytes));
-        constexpr QByteArrayView kLocation("location:");
-        if (line.startsWith("HTTP/"))
-            location_.clear();
-        else if (line.first(std::min(line.size(), kLocation.size()))
-                     .compare(kLocation, Qt::CaseInsensitive) == 0)
-            location_ = line.sliced(kLocation.size()).trimmed().toByteArray();
         return true;
     }
 
@@ -227,8 +215,10 @@ private:
         }
         long status = 0;
         curl_easy_getinfo(transfer_.get(), CURLINFO_RESPONSE_CODE, &status);
-        if (isRedirect(status) && !location_.isEmpty())
-            return followTo(url_.resolved(QUrl::fromEncoded(location_)));
+        const char* redirect = nullptr;
+        curl_easy_getinfo(transfer_.get(), CURLINFO_REDIRECT_URL, &redirect);
+        if (redirect)
+            return followTo(QUrl::fromEncoded(redirect));
         if (status != 200)
             return fail({FetchFailure::Unusable, QStringLiteral("the server's status is %1").arg(status)});
         const QByteArray feed = std::exchange(feed_, {});
@@ -271,10 +261,8 @@ private:
     std::unique_ptr<CURL, EasyCleanup> transfer_;
     std::array<char, CURL_ERROR_SIZE> message_{};
     std::optional<Failure> refusal_;
-    QUrl url_;
     int redirects_ = 0;
     qsizetype headerSize_ = 0;
-    QByteArray location_;
     QByteArray feed_;
 };
 

@@ -22,14 +22,6 @@ bool closeAlert() {
 
 } // namespace
 
-TEST(ApplicationDelegateUpdates, FeedURLTellsSixThingsInOrder) {
-    const QString url = ApplicationDelegate::feedURLString(QStringLiteral("feed.example"),
-                                                           QStringLiteral("123"), QStringLiteral("604800"),
-                                                           QStringLiteral("1.2"), QStringLiteral("100608"));
-    EXPECT_EQ(url, u"https://feed.example/cgi-sys/cgiwrap/Corvanta/SharewareAppCast.pl"
-                   u"?bld=123&frq=604800&prd=lv&end=i386&ver=1.2&sys=100608");
-}
-
 TEST(ApplicationDelegateUpdates, AsksItsOwnFeedThroughTheSystemsProxy) {
     // The proxy stands where the network would be: it sees which host is asked for and lets nothing through.
     FeedServer proxy;
@@ -44,11 +36,12 @@ TEST(ApplicationDelegateUpdates, AsksItsOwnFeedThroughTheSystemsProxy) {
     const Bundle& bundle = Bundle::main();
     const QString host = bundle.infoString(QStringLiteral("LVFeedHost"));
     EXPECT_EQ(proxy.requests(), QStringList(QStringLiteral("plain %1:443").arg(host)));
-    const QString url = ApplicationDelegate::feedURLString(
-        host, bundle.infoString(QStringLiteral("CFBundleVersion")), QStringLiteral("604800"),
-        bundle.infoString(QStringLiteral("CFBundleShortVersionString")),
-        ExtraStringUtilities::stringWithOSVersion());
-    EXPECT_EQ(log.lines().value(0), QStringLiteral("Checking for update: ") + url);
+    EXPECT_EQ(log.lines().value(0),
+              QStringLiteral("Checking for update: https://%1/cgi-sys/cgiwrap/Corvanta/SharewareAppCast.pl"
+                             "?bld=%2&frq=604800&prd=lv&end=i386&ver=%3&sys=%4")
+                  .arg(host, bundle.infoString(QStringLiteral("CFBundleVersion")),
+                       bundle.infoString(QStringLiteral("CFBundleShortVersionString")),
+                       ExtraStringUtilities::stringWithOSVersion()));
 }
 
 TEST(ApplicationDelegateUpdates, AnAddressThatNobodyMeantIsNone) {
@@ -58,21 +51,6 @@ TEST(ApplicationDelegateUpdates, AnAddressThatNobodyMeantIsNone) {
             QString::fromUtf16(version), QStringLiteral("120000"));
         EXPECT_TRUE(ApplicationDelegate::feedURL(url).isEmpty()) << qPrintable(url);
     }
-}
-
-TEST(ApplicationDelegateUpdates, TheServerGetsTheQueryAsItIsBuilt) {
-    FeedServer server;
-    ApplicationDelegate delegate;
-    UpdateChecker updater;
-    updater.setDelegate(&delegate);
-    updater.setFeedURL(ApplicationDelegate::feedURL(
-        ApplicationDelegate::feedURLString(server.host(), QStringLiteral("100"), QStringLiteral("604800"),
-                                           QStringLiteral("1.0"), QStringLiteral("120000"))));
-    updater.checkForUpdates(nullptr);
-    EXPECT_TRUE(waitFor(closeAlert));
-    EXPECT_EQ(server.requests(),
-              QStringList{QStringLiteral("trusted /cgi-sys/cgiwrap/Corvanta/SharewareAppCast.pl"
-                                         "?bld=100&frq=604800&prd=lv&end=i386&ver=1.0&sys=120000")});
 }
 
 TEST(ApplicationDelegateUpdates, AnOffersPageOpensInTheDefaultBrowser) {

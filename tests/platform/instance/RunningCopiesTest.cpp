@@ -4,6 +4,9 @@
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
+#include <QDBusVirtualObject>
+#include <QDir>
+#include <QFile>
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QTemporaryDir>
@@ -74,9 +77,23 @@ protected:
     QString address_;
     std::unique_ptr<QDBusConnection> bus_;
 
+    QTemporaryDir config_;
+
 private:
     QProcess daemon_;
-    QTemporaryDir config_;
+};
+
+/// What older copies are told.
+class OlderCopies : public QDBusVirtualObject {
+public:
+    QString introspect(const QString&) const override { return {}; }
+    bool handleMessage(const QDBusMessage& message, const QDBusConnection&) override {
+        told.append(message.path() + QLatin1Char(' ') + message.interface() + QLatin1Char(' ') +
+                    message.member());
+        return true;
+    }
+
+    QStringList told;
 };
 
 int countOfRunning(const std::vector<Program>& programs) {
@@ -130,6 +147,28 @@ TEST_F(RunningCopiesTest, OfCopiesStartedAtOnceOneIsLeft) {
     EXPECT_TRUE(areLeft(copies, 1)) << countOfRunning(copies);
     EXPECT_EQ(names().size(), 2);
     stop(copies);
+}
+
+TEST_F(RunningCopiesTest, AStartEndsOlderCopiesAndTakesTheirPlaceAtLogin) {
+    const QString background = kIdentifier + QStringLiteral(".backgrounder.v203");
+    OlderCopies older;
+    bus_->registerVirtualObject(QStringLiteral("/com"), &older, QDBusConnection::SubPath);
+    bus_->registerService(kIdentifier + QStringLiteral(".pid1"));
+    bus_->registerService(background + QStringLiteral(".pid2"));
+    const QString entry = config_.filePath(QStringLiteral("autostart/old.desktop"));
+    QDir(config_.path()).mkpath(QStringLiteral("autostart"));
+    QFile file(entry);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("[Desktop Entry]\nType=Application\nExec=/opt/lumivane-0.9/moon\n");
+    file.close();
+
+    const Program copy = startCopy();
+    ASSERT_EQ(line(copy.get()), QStringLiteral("ready"));
+    EXPECT_FALSE(QFile::exists(entry));
+    EXPECT_TRUE(waitFor([&] { return older.told.size() == 2; }));
+    EXPECT_EQ(older.told,
+              (QStringList{QStringLiteral("/com/corvanta/Lumivane/backgrounder/v203 %1 Quit").arg(background),
+                           QStringLiteral("/com/corvanta/Lumivane %1 Quit").arg(kIdentifier)}));
 }
 
 TEST_F(RunningCopiesTest, AWarningAtTheStartKeepsNoOlderCopyAlive) {

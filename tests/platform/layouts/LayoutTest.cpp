@@ -2,6 +2,7 @@
 #include "platform/layouts/Layout.h"
 
 #include "platform/layouts/FieldNote.h"
+#include "platform/layouts/Slider.h"
 #include "platform/preferences/Preferences.h"
 #include "tests/Interaction.h"
 #include "tests/TestMain.h"
@@ -13,7 +14,6 @@
 #include <QDateTimeEdit>
 #include <QDoubleSpinBox>
 #include <QFile>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMetaProperty>
 #include <QPushButton>
@@ -24,26 +24,6 @@
 #include <gtest/gtest.h>
 
 namespace {
-
-/// A control with a value of its own kind, as the panel's slider has.
-class DoubleDial : public QWidget {
-    Q_OBJECT
-    Q_PROPERTY(double doubleValue READ doubleValue WRITE setDoubleValue NOTIFY doubleValueChanged)
-
-public:
-    using QWidget::QWidget;
-    double doubleValue() const { return value_; }
-    void setDoubleValue(double value) {
-        value_ = value;
-        Q_EMIT doubleValueChanged();
-    }
-
-Q_SIGNALS:
-    void doubleValueChanged();
-
-private:
-    double value_ = 0;
-};
 
 class Owner : public QObject {
     Q_OBJECT
@@ -79,6 +59,7 @@ QString control(const char* type, const char* name, const char* action, const ch
 class LayoutTest : public testing::Test {
 protected:
     LayoutTest() {
+        Layout::registerClass(QStringLiteral("Slider"), [](QWidget* parent) { return new Slider(parent); });
         defaults()->registerKey(PreferenceKey<float>{QLatin1String("NibFloat"), 1.5F});
         defaults()->registerKey(PreferenceKey<bool>{QLatin1String("NibBool"), true});
         defaults()->registerKey(PreferenceKey<int>{QLatin1String("NibType"), 2});
@@ -161,7 +142,7 @@ TEST_F(LayoutTest, OutletsAreFoundByNameAndType) {
 TEST_F(LayoutTest, ChangesByTheUserReachTheSlot) {
     ASSERT_TRUE(load(control("QPushButton", "button", "pushed", nullptr,
                              "<property name=\"tag\" stdset=\"0\"><number>-7</number></property>") +
-                     control("QComboBox", "box", "pushed") + control("QSlider", "slider", "pushed") +
+                     control("QComboBox", "box", "pushed") + control("Slider", "slider", "pushed") +
                      control("QDateTimeEdit", "date", "pushed") + control("QLineEdit", "field", "pushed") +
                      QStringLiteral("<action name=\"item\"><property name=\"action\" stdset=\"0\">"
                                     "<string notr=\"true\">pushed</string></property></action>")))
@@ -191,7 +172,8 @@ TEST_F(LayoutTest, ChangesByTheUserReachTheSlot) {
 TEST_F(LayoutTest, ABoundControlFollowsAndStoresItsPreference) {
     ASSERT_TRUE(load(control("QCheckBox", "check", nullptr, "NibBool") +
                      control("QComboBox", "box", nullptr, "NibType") +
-                     control("QSlider", "slider", "pushed", "NibFloat")))
+                     control("Slider", "slider", "pushed", "NibFloat",
+                             "<property name=\"maxValue\"><double>50</double></property>")))
         << error_.toStdString();
     auto* check = get<QCheckBox>("check");
     EXPECT_TRUE(check->isChecked());
@@ -213,13 +195,13 @@ TEST_F(LayoutTest, ABoundControlFollowsAndStoresItsPreference) {
     press(box, Qt::Key_Home);
     EXPECT_EQ(defaults()->integerForKey(QStringLiteral("NibType")), 1);
 
-    auto* slider = get<QSlider>("slider");
-    EXPECT_EQ(slider->value(), 2);
+    auto* slider = get<Slider>("slider");
+    EXPECT_EQ(slider->doubleValue(), 1.5);
     defaults()->setFloat(40, QStringLiteral("NibFloat"));
-    EXPECT_EQ(slider->value(), 40);
+    EXPECT_EQ(slider->doubleValue(), 40);
     EXPECT_TRUE(owner_.senders.isEmpty()) << "the preference's own changes send nothing";
     defaults()->setFloat(1e9F, QStringLiteral("NibFloat"));
-    EXPECT_EQ(slider->value(), slider->maximum());
+    EXPECT_EQ(slider->doubleValue(), 50);
     press(slider, Qt::Key_Home);
     EXPECT_EQ(owner_.seen, QList<float>{0}) << "the action sees what was stored";
 }
@@ -266,18 +248,16 @@ TEST_F(LayoutTest, ABoundTextFieldTakesNumbersWithinTheRangeOnly) {
     EXPECT_EQ(defaults()->floatForKey(QStringLiteral("NibFloat")), 48.123455F);
     defaults()->setFloat(5.4F, QStringLiteral("NibFloat"));
     EXPECT_EQ(field->text(), u"5,4");
-    QLocale::setDefault(QLocale::system());
-}
 
-TEST_F(LayoutTest, RegisteredClassesAreMadeAndBoundByTheirDoubleValue) {
-    Layout::registerClass(QStringLiteral("DoubleDial"),
-                          [](QWidget* parent) { return new DoubleDial(parent); });
-    ASSERT_TRUE(load(control("DoubleDial", "dial", "pushed", "NibFloat"))) << error_.toStdString();
-    auto* dial = get<DoubleDial>("dial");
-    EXPECT_EQ(dial->doubleValue(), 1.5);
-    EXPECT_TRUE(owner_.senders.isEmpty());
-    dial->setDoubleValue(0.25);
-    EXPECT_EQ(owner_.seen, QList<float>{0.25F});
+    root_->show();
+    root_->activateWindow();
+    QApplication::processEvents();
+    field->setFocus();
+    ASSERT_TRUE(field->hasFocus());
+    press(field, 0, QStringLiteral("7"));
+    defaults()->setFloat(3.0F, QStringLiteral("NibFloat"));
+    EXPECT_EQ(field->text(), u"75,4") << "what is being typed is not overwritten";
+    QLocale::setDefault(QLocale::system());
 }
 
 TEST_F(LayoutTest, TheWheelChangesOnlyTheControlThatHasTheFocus) {

@@ -9,7 +9,6 @@ import ssl
 import subprocess
 import sys
 import threading
-import time
 import urllib.parse
 
 
@@ -68,9 +67,6 @@ class Handler(http.server.BaseHTTPRequestHandler):
         self.end_headers()
         self.pour(b"x" * 65536)
 
-    def serve_loop(self, _):
-        self.answer(302, [("Location", "/loop")])
-
     def serve_unavailable(self, _):
         self.answer(503, [], b"<rss/>")
 
@@ -82,23 +78,9 @@ class Handler(http.server.BaseHTTPRequestHandler):
         self.end_headers()
         self.pour(b"<rss>" * 13107)
 
-    def serve_endless_header(self, _):
-        self.wfile.write(b"HTTP/1.1 200 OK\r\nX: ")
-        self.pour(b"x" * 65536)
-
     def serve_endless_headers(self, _):
         self.wfile.write(b"HTTP/1.1 200 OK\r\n")
         self.pour(b"Set-Cookie: a=b\r\n" * 4096)
-
-    def serve_endless_interim(self, _):
-        self.pour(b"HTTP/1.1 103 Early Hints\r\nLink: </a>\r\n\r\n" * 1024)
-
-    def serve_drip(self, _):
-        self.send_response(200)
-        self.end_headers()
-        for _ in range(200):
-            self.wfile.write(b"<")
-            time.sleep(0.05)
 
     def pour(self, piece):
         for _ in range(1 << 17):

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "shared/utilities/classes/values/ExtraStringUtilities.h"
 
+#include "platform/locale/NumberFormatter.h"
+
 #include <algorithm>
-#include <array>
-#include <charconv>
 #include <stdexcept>
 
 namespace {
@@ -21,12 +21,7 @@ bool ExtraStringUtilities::contains(const QString& text, const QString& part) {
 }
 
 QString ExtraStringUtilities::stringWithFloat(float number) {
-    // Qt rounds a tie up, where C takes the even digit.
-    std::array<char, 64> text{}; // the largest number has 39 digits before its point
-    const auto end = std::to_chars(text.data(), text.data() + text.size(), static_cast<double>(number),
-                                   std::chars_format::fixed, 3)
-                         .ptr;
-    return QString::fromLatin1(text.data(), end - text.data());
+    return NumberFormatter::plainString(number, 3);
 }
 
 QString ExtraStringUtilities::stringWithInteger(std::int64_t number) {

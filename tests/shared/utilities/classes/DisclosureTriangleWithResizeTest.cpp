@@ -145,31 +145,6 @@ TEST_F(DisclosureTriangleWithResizeTest, AnimatesItsFoldingWhereTheDesktopDoes) 
     EXPECT_EQ(triangle->currentHeight(), large) << "nobody sees it";
 }
 
-TEST_F(DisclosureTriangleWithResizeTest, NeighboursAreAboveOrBelowInOrder) {
-    auto* beside = new QWidget(&content_);
-    beside->setGeometry(150, sections_[1].box->y(), 50, sections_[1].box->height());
-    const auto* middle = sections_[1].triangle;
-    EXPECT_EQ(middle->viewsInWindow(true), QList<QWidget*>{sections_[0].box});
-    EXPECT_EQ(middle->viewsInWindow(false), QList<QWidget*>{sections_[2].box});
-    EXPECT_EQ(sections_[2].triangle->viewsInWindow(true),
-              (QList<QWidget*>{sections_[0].box, sections_[1].box, beside}));
-}
-
-TEST_F(DisclosureTriangleWithResizeTest, ABoundTriangleFollowsItsPreferenceAlone) {
-    defaults()->set(kKey, false);
-    awake();
-    const auto* triangle = sections_[1].triangle;
-    EXPECT_FALSE(triangle->isChecked());
-    EXPECT_EQ(triangle->currentHeight(), triangle->smallHeight());
-    sections_[1].triangle->click(); // nothing here stores it
-    EXPECT_EQ(triangle->currentHeight(), triangle->smallHeight());
-    defaults()->set(kKey, true);
-    EXPECT_TRUE(triangle->isChecked());
-    EXPECT_EQ(triangle->currentHeight(), triangle->largeHeight());
-    defaults()->set(kKey, false);
-    EXPECT_EQ(triangle->currentHeight(), triangle->smallHeight());
-}
-
 TEST_F(DisclosureTriangleWithResizeTest, ALargerContentIsNeverCutOff) {
     awake();
     const auto& [box, triangle, field] = sections_[0];

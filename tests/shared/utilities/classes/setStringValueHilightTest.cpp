@@ -70,15 +70,6 @@ TEST_F(setStringValueHilightTest, AChangeIsDarkRedUntilTheNextUpdateThatLeavesIt
     EXPECT_EQ(shown(), QColor(Qt::black));
 }
 
-TEST_F(setStringValueHilightTest, AColourOfTheFieldsOwnComesBack) {
-    field.setPalette(panel(Qt::white, Qt::blue));
-    set("text");
-    EXPECT_EQ(shown(), kDarkRed);
-    EXPECT_EQ(field.palette().color(QPalette::Window), QColor(Qt::white));
-    set("text");
-    EXPECT_EQ(shown(), QColor(Qt::blue));
-}
-
 TEST_F(setStringValueHilightTest, ADarkPanelsRedCanBeReadAndFollowsTheSwitch) {
     set("text");
     for (const int grey : {0x00, 0x1B, 0x2D, 0x31, 0x40, 0x55}) {

