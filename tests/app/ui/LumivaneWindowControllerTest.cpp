@@ -347,3 +347,15 @@ TEST_F(PanelOfTheItem, StaysAWindowWhereNoTrayWouldTakeItIn) {
     button->click();
     EXPECT_TRUE(window()->isVisible());
 }
+
+TEST_F(PanelOfTheItem, EscapeBringsTheStoredPlaceBack) {
+    item_.makeAsWindoid(); // which stays
+    for (const char* name : {"latitude_", "longitude_"}) {
+        auto* typed = window()->findChild<QLineEdit*>(QLatin1String(name));
+        const QString stored = typed->text();
+        typed->setText(QStringLiteral("51"));
+        ASSERT_NE(stored, u"51");
+        QMetaObject::invokeMethod(window(), &LumivaneWindow::cancelOperation);
+        EXPECT_EQ(typed->text(), stored) << name;
+    }
+}
