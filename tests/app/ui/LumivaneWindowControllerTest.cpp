@@ -350,12 +350,11 @@ TEST_F(PanelOfTheItem, StaysAWindowWhereNoTrayWouldTakeItIn) {
 
 TEST_F(PanelOfTheItem, EscapeBringsTheStoredPlaceBack) {
     item_.makeAsWindoid(); // which stays
-    for (const char* name : {"latitude_", "longitude_"}) {
-        auto* typed = window()->findChild<QLineEdit*>(QLatin1String(name));
-        const QString stored = typed->text();
-        typed->setText(QStringLiteral("51"));
-        ASSERT_NE(stored, u"51");
-        QMetaObject::invokeMethod(window(), &LumivaneWindow::cancelOperation);
-        EXPECT_EQ(typed->text(), stored) << name;
-    }
+    auto* latitude = window()->findChild<QLineEdit*>(QStringLiteral("latitude_"));
+    auto* longitude = window()->findChild<QLineEdit*>(QStringLiteral("longitude_"));
+    const std::pair stored{latitude->text(), longitude->text()};
+    latitude->setText(QStringLiteral("51"));
+    longitude->setText(QStringLiteral("7"));
+    QMetaObject::invokeMethod(window(), &LumivaneWindow::cancelOperation);
+    EXPECT_EQ(std::pair(latitude->text(), longitude->text()), stored);
 }
