@@ -220,8 +220,7 @@ class ActionsTest(unittest.TestCase):
         self.enter("latitude", "51", "Escape")
         self.hidden()
         desktop.open_panel()
-        self.assertEqual([desktop.text(self.field(name)) for name in ("latitude", "longitude")], ["-33,9", "18,5"],
-                         "Escape takes it back")
+        self.assertEqual(desktop.text(self.field("latitude")), "-33,9", "Escape takes it back")
 
         desktop.open_popup(lambda: desktop.click_control("Set Latitude and Longitude"))
         desktop.key("Down", "Return")

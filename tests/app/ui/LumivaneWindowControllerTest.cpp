@@ -347,3 +347,14 @@ TEST_F(PanelOfTheItem, StaysAWindowWhereNoTrayWouldTakeItIn) {
     button->click();
     EXPECT_TRUE(window()->isVisible());
 }
+
+TEST_F(PanelOfTheItem, EscapeBringsTheStoredPlaceBack) {
+    item_.makeAsWindoid(); // which stays
+    auto* latitude = window()->findChild<QLineEdit*>(QStringLiteral("latitude_"));
+    auto* longitude = window()->findChild<QLineEdit*>(QStringLiteral("longitude_"));
+    const std::pair stored{latitude->text(), longitude->text()};
+    latitude->setText(QStringLiteral("51"));
+    longitude->setText(QStringLiteral("7"));
+    QMetaObject::invokeMethod(window(), &LumivaneWindow::cancelOperation);
+    EXPECT_EQ(std::pair(latitude->text(), longitude->text()), stored);
+}
