@@ -62,7 +62,7 @@ TEST(RegularFile, NoResourceIsWaitedFor) {
     EXPECT_TRUE(error.contains(u"no regular file")) << qPrintable(error);
 }
 
-TEST(NSLog, AForeignTextIsOneVisibleLine) {
+TEST(LogTest, AForeignTextIsOneVisibleLine) {
     const CaughtLog log;
     logLine(QStringLiteral("a\nb\x1b[31mc\u202ed\u2028\u0085 \u00e9 \u6708 \U0001F319"));
     EXPECT_EQ(log.lines(), QStringList(QStringLiteral("a\\nb\\u001b[31mc\\u202ed\\u2028\\u0085 \u00e9 \u6708 "
