@@ -5,6 +5,8 @@
 
 #include <QFileInfo>
 
+#include <cerrno>
+
 #define LIAEAssert(condition)                                                                                \
     do {                                                                                                     \
         if (!(condition))                                                                                    \
