@@ -11,15 +11,12 @@ import sys
 WIDGETS = {"Qt6::Gui", "Qt6::Widgets", "Qt6::UiTools"}
 WITHOUT_WIDGETS = ("lumivane_engine", "make_lunations", "lumivane_engine_tests", "lumivane_model")
 TARGETS = [  # a folder's target; the first that fits
-    (r"platform/updates/network/", "lumivane_network"),
     (r"platform/(\w+)/", r"lumivane_\1"),
     (r"shared/utilities/classes/values/", "lumivane_values"),
     (r"shared/utilities/", "lumivane_utilities"),
     (r"app/(\w+)/", r"lumivane_\1"),
     (r"app/main\.cpp", "Lumivane"),
 ]
-# The plug-in and the checker that loads it share the header of what passes between them.
-ALSO = {("lumivane_updates", "lumivane_network")}
 
 
 def target_of(path):
@@ -64,7 +61,7 @@ def main():
                 if not found or found[1].endswith(".moc"):
                     continue
                 other = target_of(found[1])
-                if other not in allowed and (own, other) not in ALSO:
+                if other not in allowed:
                     wrong.append(f"{path}:{number}: {own} may not use {found[1]}")
     for target in WITHOUT_WIDGETS:
         if target not in links:

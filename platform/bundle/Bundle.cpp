@@ -91,10 +91,6 @@ QString Bundle::resourcePath() const {
     return named.isEmpty() ? besideExecutable("share/lumivane") : named;
 }
 
-QString Bundle::plugInsPath() const {
-    return besideExecutable("lib/lumivane/plugins");
-}
-
 QString Bundle::bundlePath() const {
     const QString executable = executablePath();
     const QString appImage = appImagePath(executable);

@@ -19,9 +19,6 @@ public:
     /// The folder of the resources; it need not exist.
     QString resourcePath() const;
 
-    /// The folder of the program's plug-ins.
-    QString plugInsPath() const;
-
     /// Where the application lives, read afresh at every call: its installed desktop entry, `<bundle
     /// identifier>.desktop` in the XDG data folders, when that starts this very program; else the AppImage
     /// that it runs from; else the executable.

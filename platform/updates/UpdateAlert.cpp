@@ -38,8 +38,7 @@ QIcon programIcon(QStyle::StandardPixmap otherwise) {
 /// One for each FetchFailure, in their order.
 constexpr std::array kFailures{
     QT_TRANSLATE_NOOP("Lumivane", "This copy of %1 does not know where to look for updates."),
-    QT_TRANSLATE_NOOP("Lumivane",
-                      "%1 can't look for updates, because a part of it is missing; please install %1 again."),
+    QT_TRANSLATE_NOOP("Lumivane", "%1 can't look for updates, because the program curl is not installed."),
     QT_TRANSLATE_NOOP("Lumivane",
                       "%1 can't look for updates, because this system has no secure connections."),
     QT_TRANSLATE_NOOP("Lumivane", "The update server can't be reached; please check the network connection."),

@@ -107,7 +107,7 @@ void UpdateChecker::startCheck() {
     // A check counts from its start, whatever comes of it: a server that is down is not asked more often.
     Preferences::standard()->set(SULastCheckTimeKey, Clock::now().toString(Qt::ISODate));
     fetch_ = fetchFeed(
-        url, timing_.limits, Bundle::main().plugInsPath(),
+        url, timing_.limits,
         {.fetched = [this](const QByteArray& feed) { feedFetched(feed); },
          .failed = [this](FetchFailure failure, const QString& reason) { checkFailed(failure, reason); }});
 }

@@ -652,8 +652,8 @@
         <translation>العودة إلى أيقونة شريط النظام</translation>
     </message>
     <message>
-        <source>%1 can&apos;t look for updates, because a part of it is missing; please install %1 again.</source>
-        <translation>لا يستطيع %1 البحث عن تحديثات لأن جزءًا منه مفقود؛ يُرجى تثبيت %1 من جديد.</translation>
+        <source>%1 can&apos;t look for updates, because the program curl is not installed.</source>
+        <translation>لا يستطيع %1 البحث عن تحديثات لأن برنامج curl غير مثبت.</translation>
     </message>
 </context>
 </TS>

@@ -652,8 +652,8 @@
         <translation>Zurück zum Symbol im Systembereich</translation>
     </message>
     <message>
-        <source>%1 can&apos;t look for updates, because a part of it is missing; please install %1 again.</source>
-        <translation>%1 kann nicht nach Aktualisierungen suchen, weil ein Teil des Programms fehlt; bitte installieren Sie %1 erneut.</translation>
+        <source>%1 can&apos;t look for updates, because the program curl is not installed.</source>
+        <translation>%1 kann nicht nach Aktualisierungen suchen, weil das Programm curl nicht installiert ist.</translation>
     </message>
 </context>
 </TS>

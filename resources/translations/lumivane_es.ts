@@ -652,8 +652,8 @@
         <translation>Volver al icono de la bandeja</translation>
     </message>
     <message>
-        <source>%1 can&apos;t look for updates, because a part of it is missing; please install %1 again.</source>
-        <translation>%1 no puede buscar actualizaciones porque falta una parte del programa; vuelva a instalar %1.</translation>
+        <source>%1 can&apos;t look for updates, because the program curl is not installed.</source>
+        <translation>%1 no puede buscar actualizaciones porque el programa curl no está instalado.</translation>
     </message>
 </context>
 </TS>

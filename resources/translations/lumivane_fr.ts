@@ -652,8 +652,8 @@
         <translation>Revenir à l’icône de la zone de notification</translation>
     </message>
     <message>
-        <source>%1 can&apos;t look for updates, because a part of it is missing; please install %1 again.</source>
-        <translation>%1 ne peut pas rechercher de mises à jour, car il manque une partie du programme ; veuillez réinstaller %1.</translation>
+        <source>%1 can&apos;t look for updates, because the program curl is not installed.</source>
+        <translation>%1 ne peut pas rechercher de mises à jour, car le programme curl n’est pas installé.</translation>
     </message>
 </context>
 </TS>

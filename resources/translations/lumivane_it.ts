@@ -652,8 +652,8 @@
         <translation>Torna all’icona nell’area di notifica</translation>
     </message>
     <message>
-        <source>%1 can&apos;t look for updates, because a part of it is missing; please install %1 again.</source>
-        <translation>%1 non può cercare aggiornamenti perché manca una parte del programma; reinstallare %1.</translation>
+        <source>%1 can&apos;t look for updates, because the program curl is not installed.</source>
+        <translation>%1 non può cercare aggiornamenti perché il programma curl non è installato.</translation>
     </message>
 </context>
 </TS>

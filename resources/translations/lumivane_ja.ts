@@ -652,8 +652,8 @@
         <translation>トレイのアイコンに戻す</translation>
     </message>
     <message>
-        <source>%1 can&apos;t look for updates, because a part of it is missing; please install %1 again.</source>
-        <translation>プログラムの一部が見つからないため、%1 はアップデートを確認できません。%1 を再インストールしてください。</translation>
+        <source>%1 can&apos;t look for updates, because the program curl is not installed.</source>
+        <translation>プログラム curl がインストールされていないため、%1 はアップデートを確認できません。</translation>
     </message>
 </context>
 </TS>

@@ -652,8 +652,8 @@
         <translation>Voltar ao ícone da bandeja</translation>
     </message>
     <message>
-        <source>%1 can&apos;t look for updates, because a part of it is missing; please install %1 again.</source>
-        <translation>O %1 não pode procurar atualizações porque falta uma parte do programa; reinstale o %1.</translation>
+        <source>%1 can&apos;t look for updates, because the program curl is not installed.</source>
+        <translation>O %1 não pode procurar atualizações porque o programa curl não está instalado.</translation>
     </message>
 </context>
 </TS>

@@ -652,8 +652,8 @@
         <translation>Вернуть к значку в области уведомлений</translation>
     </message>
     <message>
-        <source>%1 can&apos;t look for updates, because a part of it is missing; please install %1 again.</source>
-        <translation>%1 не может проверить обновления, так как часть программы отсутствует; переустановите %1.</translation>
+        <source>%1 can&apos;t look for updates, because the program curl is not installed.</source>
+        <translation>%1 не может проверить обновления, так как программа curl не установлена.</translation>
     </message>
 </context>
 </TS>

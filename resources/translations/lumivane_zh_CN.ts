@@ -652,8 +652,8 @@
         <translation>回到托盘图标</translation>
     </message>
     <message>
-        <source>%1 can&apos;t look for updates, because a part of it is missing; please install %1 again.</source>
-        <translation>由于程序的一部分缺失，%1 无法查找更新；请重新安装 %1。</translation>
+        <source>%1 can&apos;t look for updates, because the program curl is not installed.</source>
+        <translation>由于未安装 curl 程序，%1 无法查找更新。</translation>
     </message>
 </context>
 </TS>
