@@ -5,7 +5,6 @@
 #include "platform/files/ConfigFolder.h"
 #include "platform/log/Log.h"
 
-#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -13,11 +12,10 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstdio>
+#include <memory>
 #include <optional>
 #include <vector>
 
-#include <fcntl.h>
 #include <glib.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -161,83 +159,31 @@ QString freeFileName(const QString& path) {
     return file;
 }
 
-constexpr char kDraftPattern[] = ".login-item-XXXXXX";
-
-/// Drafts are left behind by a copy that was killed while it wrote.
-void clearOldDrafts() {
-    const QDir folder(Autostart::path());
-    const QFileInfoList files = folder.entryInfoList(QDir::Files | QDir::Hidden);
-    const QDateTime aMinuteAgo = QDateTime::currentDateTimeUtc().addSecs(-60);
-    const auto pattern = QLatin1String(kDraftPattern);
-    for (const QFileInfo& file : files) {
-        const bool isDraft =
-            file.fileName().size() == pattern.size() && file.fileName().startsWith(pattern.chopped(6));
-        if (isDraft && file.lastModified() < aMinuteAgo)
-            QFile::remove(file.filePath());
+/// GLib tells a kind of its own; the number of the system that it stands for.
+int systemNumber(const GError& error) {
+    constexpr int kLastNumber = 133;
+    for (int number = 1; error.code != G_FILE_ERROR_FAILED && number <= kLastNumber; ++number) {
+        if (g_file_error_from_errno(number) == error.code)
+            return number;
     }
+    return EIO;
 }
 
-bool writeAll(int descriptor, const QByteArray& bytes) {
-    for (qsizetype done = 0; done < bytes.size();) {
-        const auto rest = static_cast<std::size_t>(bytes.size() - done);
-        const ssize_t written = write(descriptor, bytes.constData() + done, rest);
-        if (written < 0 && errno != EINTR)
-            return false;
-        done += std::max<ssize_t>(written, 0);
-    }
-    return fsync(descriptor) == 0;
-}
-
-bool moveIntoPlace(const QByteArray& draft, const QByteArray& target, bool mayReplace) {
-    if (!mayReplace && renameat2(AT_FDCWD, draft, AT_FDCWD, target, RENAME_NOREPLACE) == 0)
-        return true;
-    if (!mayReplace && errno != EINVAL && errno != ENOSYS)
-        return false;
-    return rename(draft, target) == 0;
-}
-
-void syncFolder() {
-    const int descriptor =
-        open(QFile::encodeName(Autostart::path()).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (descriptor < 0)
-        return;
-    fsync(descriptor);
-    close(descriptor);
-}
-
-/// Writes an entry whole or not at all. `mayReplace` tells whether a file of that name may be there.
-std::error_code writeEntry(const QString& file, const QByteArray& bytes, bool mayReplace) {
-    QByteArray draft = QFile::encodeName(filePath(QString::fromLatin1(kDraftPattern)));
-    const int descriptor = g_mkstemp_full(draft.data(), O_WRONLY | O_CLOEXEC, 0600);
-    if (descriptor < 0)
-        return systemError(errno);
-    int error = writeAll(descriptor, bytes) ? 0 : errno;
-    close(descriptor);
-    if (error == 0 && !moveIntoPlace(draft, QFile::encodeName(filePath(file)), mayReplace))
-        error = errno;
-    if (error != 0)
-        unlink(draft.constData());
-    else
-        syncFolder();
-    return systemError(error);
+/// Writes an entry whole or not at all.
+std::error_code writeEntry(const QString& file, const QByteArray& bytes) {
+    constexpr auto kWhole =
+        static_cast<GFileSetContentsFlags>(G_FILE_SET_CONTENTS_CONSISTENT | G_FILE_SET_CONTENTS_DURABLE);
+    GError* failure = nullptr;
+    if (g_file_set_contents_full(QFile::encodeName(filePath(file)).constData(), bytes.constData(),
+                                 bytes.size(), kWhole, 0600, &failure))
+        return {};
+    const std::unique_ptr<GError, decltype(&g_error_free)> error(failure, &g_error_free);
+    return systemError(systemNumber(*error));
 }
 
 std::error_code makeFolder() {
     const QByteArray folder = QFile::encodeName(Autostart::path());
     return g_mkdir_with_parents(folder.constData(), 0700) == 0 ? std::error_code() : systemError(errno);
-}
-
-std::error_code appendOnce(const QString& path, bool hidden) {
-    const std::vector<Entry> entries = allEntries();
-    const quint64 position = entries.empty() ? 1 : entries.back().position.value_or(0) + 1;
-    const auto entry = autostartEntry(path, hidden, position);
-    if (!entry)
-        return std::make_error_code(std::errc::invalid_argument);
-    const auto earlier = std::ranges::find_if(
-        entries, [&](const Entry& each) { return each.position && each.item.path == path; });
-    if (earlier != entries.end())
-        return writeEntry(earlier->item.file, entry->toBytes(), true);
-    return writeEntry(freeFileName(path), entry->toBytes(), false);
 }
 
 } // namespace
@@ -258,12 +204,14 @@ QList<Autostart::Item> Autostart::items() {
 std::error_code Autostart::append(const QString& path, bool hidden) {
     if (const std::error_code error = makeFolder())
         return error;
-    clearOldDrafts();
-    std::error_code error = std::make_error_code(std::errc::file_exists);
-    // Another copy that adds itself at the same moment may be the quicker one.
-    for (int attempt = 0; attempt < 3 && error == std::errc::file_exists; ++attempt)
-        error = appendOnce(path, hidden);
-    return error;
+    const std::vector<Entry> entries = allEntries();
+    const quint64 position = entries.empty() ? 1 : entries.back().position.value_or(0) + 1;
+    const auto entry = autostartEntry(path, hidden, position);
+    if (!entry)
+        return std::make_error_code(std::errc::invalid_argument);
+    const auto earlier = std::ranges::find_if(
+        entries, [&](const Entry& each) { return each.position && each.item.path == path; });
+    return writeEntry(earlier == entries.end() ? freeFileName(path) : earlier->item.file, entry->toBytes());
 }
 
 void Autostart::mend(const QString& path) {
@@ -275,7 +223,7 @@ void Autostart::mend(const QString& path) {
         auto added = DesktopEntry::fromFile(filePath(entry.item.file), &error);
         if (!added || !nameProgramWhole(&*added, source->program()))
             continue;
-        const std::error_code failure = writeEntry(entry.item.file, added->toBytes(), true);
+        const std::error_code failure = writeEntry(entry.item.file, added->toBytes());
         logLine(failure ? QStringLiteral("%1 can't be made to start %2 by its whole path (%3).")
                               .arg(filePath(entry.item.file), source->program(),
                                    QString::fromStdString(failure.message()))
@@ -285,8 +233,6 @@ void Autostart::mend(const QString& path) {
 }
 
 std::error_code Autostart::remove(const Item& item) {
-    if (unlink(QFile::encodeName(filePath(item.file)).constData()) != 0)
-        return systemError(errno);
-    syncFolder();
-    return {};
+    const bool removed = unlink(QFile::encodeName(filePath(item.file)).constData()) == 0;
+    return removed ? std::error_code() : systemError(errno);
 }

@@ -5,8 +5,6 @@
 
 #include <QFileInfo>
 
-#include <cerrno>
-
 #define LIAEAssert(condition)                                                                                \
     do {                                                                                                     \
         if (!(condition))                                                                                    \
@@ -23,7 +21,7 @@ LIAEStatus statusOf(const std::error_code& error) {
     using enum std::errc;
     if (!error)
         return kLIAENoError;
-    if (error == no_space_on_device || error == file_too_large || error.value() == EDQUOT)
+    if (error == no_space_on_device)
         return -34;
     if (error == read_only_file_system)
         return -44;
