@@ -9,13 +9,14 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QSocketNotifier>
 #include <QWidget>
 
 #include <algorithm>
-#include <array>
 #include <cerrno>
+#include <chrono>
 #include <cstring>
+#include <string_view>
+#include <utility>
 
 #include <sys/socket.h>
 #include <sys/un.h>
@@ -26,28 +27,21 @@ namespace {
 constexpr char kSocketVariable[] = "SWAYSOCK";
 
 // A message is this mark, the payload's length and the type, each 32 bits in the machine's byte order, and
-// the payload. Events are answers that nobody asked for.
-const QByteArray kMark("i3-ipc");
-constexpr qsizetype kNumberSize = sizeof(quint32);
-const qsizetype kHeaderSize = kMark.size() + 2 * kNumberSize;
+// the payload.
+constexpr std::string_view kMark("i3-ipc");
+struct Numbers {
+    quint32 length;
+    quint32 type;
+};
 constexpr quint32 kRunCommand = 0;
-constexpr quint32 kSubscribe = 2;
 constexpr quint32 kGetTree = 4;
-constexpr quint32 kWindowEvent = 0x80000003;
 /// No tree is longer; the rest of a stream that is none of Sway's would be waited for in vain.
 constexpr quint32 kLongestPayload = 64U << 20;
+constexpr std::chrono::seconds kPatience{1}; ///< for each answer
+constexpr std::chrono::milliseconds kBetweenLooks{20};
+constexpr int kMostLooks = 100;
 
 const QString kRole = QStringLiteral("panel");
-
-quint32 numberAt(const QByteArray& bytes, qsizetype offset) {
-    quint32 number = 0;
-    std::memcpy(&number, bytes.constData() + offset, sizeof number);
-    return number;
-}
-
-QByteArray bytesOf(quint32 number) {
-    return {reinterpret_cast<const char*>(&number), sizeof number};
-}
 
 QRect rectangleOf(const QJsonObject& node) {
     const QJsonObject rectangle = node[u"rect"].toObject();
@@ -104,82 +98,46 @@ void flushX11() {
         X11::owned(xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
 }
 
+/// All of `size` bytes that come in; else nothing, and errno tells why.
+std::optional<QByteArray> receive(int socket, std::size_t size) {
+    QByteArray bytes(static_cast<qsizetype>(size), Qt::Uninitialized);
+    errno = EPIPE; // the stream's end sets none
+    const ssize_t got = recv(socket, bytes.data(), size, MSG_WAITALL);
+    return got == static_cast<ssize_t>(size) ? std::optional(bytes) : std::nullopt;
+}
+
+/// What the server at `path` answers to a message; else nothing, and errno tells why. Qt's own sockets would
+/// bring all of its network library.
+std::optional<QByteArray> answerOf(int socket, const QByteArray& path, quint32 type,
+                                   const QByteArray& payload) {
+    sockaddr_un address{.sun_family = AF_UNIX, .sun_path = {}};
+    const timeval patience{.tv_sec = kPatience.count(), .tv_usec = 0};
+    Numbers numbers{static_cast<quint32>(payload.size()), type};
+    const QByteArray message = QByteArray(kMark.data(), kMark.size()) +
+                               QByteArray(reinterpret_cast<const char*>(&numbers), sizeof numbers) + payload;
+    if (static_cast<std::size_t>(path.size()) >= sizeof address.sun_path) {
+        errno = ENAMETOOLONG;
+        return std::nullopt;
+    }
+    std::ranges::copy(path, std::begin(address.sun_path));
+    for (const int option : {SO_RCVTIMEO, SO_SNDTIMEO})
+        setsockopt(socket, SOL_SOCKET, option, &patience, sizeof patience);
+    if (connect(socket, reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0 ||
+        send(socket, message.constData(), static_cast<std::size_t>(message.size()), MSG_NOSIGNAL) !=
+            message.size())
+        return std::nullopt;
+    const auto header = receive(socket, kMark.size() + sizeof numbers);
+    if (!header)
+        return std::nullopt;
+    std::memcpy(&numbers, header->constData() + kMark.size(), sizeof numbers);
+    if (!header->startsWith(kMark.data()) || numbers.length > kLongestPayload) {
+        errno = EPROTO;
+        return std::nullopt;
+    }
+    return receive(socket, numbers.length);
+}
+
 } // namespace
-
-/// A stream to a local server. Not Qt's: that comes with all of its network library, which nothing else needs
-/// here.
-class SwayPlacement::Socket {
-public:
-    using Heard = std::function<void()>;
-
-    explicit Socket(Heard heard) : heard_(std::move(heard)) {}
-    ~Socket() { close(); }
-    Socket(const Socket&) = delete;
-    Socket& operator=(const Socket&) = delete;
-
-    bool isOpen() const { return descriptor_ >= 0; }
-
-    /// Whether the server is reached; else errno tells why.
-    bool open(const QByteArray& path) {
-        sockaddr_un address{.sun_family = AF_UNIX, .sun_path = {}};
-        if (static_cast<std::size_t>(path.size()) >= sizeof address.sun_path) {
-            errno = ENAMETOOLONG;
-            return false;
-        }
-        std::ranges::copy(path, std::begin(address.sun_path));
-        descriptor_ = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
-        if (!isOpen())
-            return false;
-        if (::connect(descriptor_, reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0) {
-            const int reason = errno;
-            close();
-            errno = reason;
-            return false;
-        }
-        notifier_ = std::make_unique<QSocketNotifier>(descriptor_, QSocketNotifier::Read);
-        QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(), heard_);
-        return true;
-    }
-
-    /// Whether all went out; else errno tells why.
-    bool write(QByteArrayView bytes) {
-        while (!bytes.isEmpty()) {
-            const ssize_t sent =
-                ::send(descriptor_, bytes.data(), static_cast<std::size_t>(bytes.size()), MSG_NOSIGNAL);
-            if (sent < 0 && errno != EINTR)
-                return false;
-            bytes = bytes.sliced(std::max<ssize_t>(sent, 0));
-        }
-        return true;
-    }
-
-    /// What has come in; nothing at the stream's end or, with the reason in errno, at its break.
-    QByteArray read() {
-        QByteArray bytes;
-        std::array<char, 16384> part{};
-        errno = 0;
-        for (ssize_t got = 1; got > 0;) {
-            got = recv(descriptor_, part.data(), part.size(), MSG_DONTWAIT);
-            bytes.append(part.data(), std::max<ssize_t>(got, 0));
-        }
-        return bytes;
-    }
-
-    void close() {
-        if (notifier_) { // it may be the notifier that has this called
-            notifier_->setEnabled(false);
-            notifier_.release()->deleteLater();
-        }
-        if (isOpen())
-            ::close(descriptor_);
-        descriptor_ = -1;
-    }
-
-private:
-    const Heard heard_;
-    std::unique_ptr<QSocketNotifier> notifier_;
-    int descriptor_ = -1;
-};
 
 bool SwayPlacement::isThere() {
     // The variable may be left over from another session.
@@ -187,104 +145,40 @@ bool SwayPlacement::isThere() {
 }
 
 SwayPlacement::SwayPlacement(QWidget* window, Chooser chooser)
-    : QObject(window), window_(window), chooser_(std::move(chooser)),
-      socket_(std::make_unique<Socket>([this] { read(); })) {
+    : QObject(window), window_(window), chooser_(std::move(chooser)) {
     window->setWindowRole(kRole);
+    untilThere_.setInterval(kBetweenLooks);
+    connect(&untilThere_, &QTimer::timeout, this, &SwayPlacement::lookForWindow);
 }
-
-SwayPlacement::~SwayPlacement() = default;
 
 void SwayPlacement::place() {
-    const bool talking = socket_->isOpen();
-    if (!talking && !socket_->open(qgetenv(kSocketVariable)))
-        return giveUp(qt_error_string());
     if (surroundings_)
-        move();
-    else if (!talking)
-        awaitWindow();
-}
-
-void SwayPlacement::awaitWindow() {
-    state_ = State::Awaiting;
+        return move();
     // An X11 window comes up at the pointer by this, and is not seen elsewhere before. Sway keeps no such
     // rule twice.
-    send(kRunCommand, QStringLiteral("for_window [pid=%1 window_role=\"^%2$\"] move position pointer")
-                          .arg(QCoreApplication::applicationPid())
-                          .arg(kRole));
-    send(kSubscribe, QStringLiteral("[\"window\"]"));
+    const QString rule = QStringLiteral("for_window [pid=%1 window_role=\"^%2$\"] move position pointer");
+    if (!ask(kRunCommand, rule.arg(QCoreApplication::applicationPid()).arg(kRole)).isNull())
+        untilThere_.start();
 }
 
-void SwayPlacement::send(quint32 type, const QString& payload) {
-    const QByteArray bytes = payload.toUtf8();
-    if (!socket_->isOpen())
+void SwayPlacement::lookForWindow() {
+    const QJsonDocument tree = ask(kGetTree);
+    const std::optional<Found> found = findWindow(tree.object(), window_->windowTitle());
+    if (!found && !tree.isNull() && ++looks_ < kMostLooks)
         return;
-    ++unanswered_;
-    if (!socket_->write(kMark + bytesOf(static_cast<quint32>(bytes.size())) + bytesOf(type) + bytes))
-        giveUp(qt_error_string());
-}
-
-void SwayPlacement::runCommand(const QString& command) {
-    send(kRunCommand, QStringLiteral("[con_id=%1] %2").arg(identifier_).arg(command));
-}
-
-void SwayPlacement::read() {
-    const QByteArray bytes = socket_->read();
-    if (bytes.isEmpty() && errno != EAGAIN)
-        return giveUp(errno == 0 ? QStringLiteral("it hung up") : qt_error_string());
-    received_ += bytes;
-    while (received_.size() >= kHeaderSize) {
-        const quint32 length = numberAt(received_, kMark.size());
-        if (!received_.startsWith(kMark) || length > kLongestPayload) {
-            giveUp(QStringLiteral("what its socket says is none of Sway's messages"));
-            return;
-        }
-        if (received_.size() < kHeaderSize + length)
-            return;
-        const quint32 type = numberAt(received_, kMark.size() + kNumberSize);
-        const QByteArray payload = received_.mid(kHeaderSize, length);
-        received_.remove(0, kHeaderSize + length);
-        receive(type, QJsonDocument::fromJson(payload));
-    }
-}
-
-void SwayPlacement::receive(quint32 type, const QJsonDocument& message) {
-    if (type == kWindowEvent) {
-        if (state_ == State::Awaiting && message[u"change"].toString() == u"new")
-            send(kGetTree);
-        return;
-    }
-    --unanswered_;
-    if (type == kSubscribe)
-        send(kGetTree); // the window may be there already
-    else if (type == kGetTree)
-        receiveTree(message.object());
-    else if (type == kRunCommand && message[0][u"success"].toBool())
-        commandDone();
-    else
-        giveUp(message[0][u"error"].toString());
-}
-
-void SwayPlacement::receiveTree(const QJsonObject& tree) {
-    const std::optional<Found> found = findWindow(tree, window_->windowTitle());
+    untilThere_.stop();
     if (!found)
         return;
-    if (state_ == State::Awaiting) {
-        state_ = State::GoingToPointer;
-        identifier_ = found->window[u"id"].toInteger();
-        runCommand(QStringLiteral("move position pointer"));
-    } else if (state_ == State::AtPointer) {
-        state_ = State::Placed;
-        surroundings_ = surroundingsOf(*found, window_->height());
-        move();
-    }
+    identifier_ = found->window[u"id"].toInteger();
+    goToPointer();
 }
 
-void SwayPlacement::commandDone() {
-    if (state_ == State::GoingToPointer) {
-        state_ = State::AtPointer;
-        send(kGetTree);
-    } else if (state_ == State::Placed && unanswered_ == 0) {
-        hangUp();
+/// Sway tells the pointer's place by putting the window there.
+void SwayPlacement::goToPointer() {
+    runCommand(QStringLiteral("move position pointer"));
+    if (const auto found = findWindow(ask(kGetTree).object(), window_->windowTitle())) {
+        surroundings_ = surroundingsOf(*found, window_->height());
+        move();
     }
 }
 
@@ -294,13 +188,19 @@ void SwayPlacement::move() {
     runCommand(QStringLiteral("move absolute position %1 %2").arg(place.x()).arg(place.y()));
 }
 
-void SwayPlacement::hangUp() {
-    socket_->close();
-    received_.clear();
-    unanswered_ = 0;
+void SwayPlacement::runCommand(const QString& command) {
+    ask(kRunCommand, QStringLiteral("[con_id=%1] %2").arg(identifier_).arg(command));
 }
 
-void SwayPlacement::giveUp(const QString& reason) {
-    logLine(QStringLiteral("Sway does not place the panel: %1").arg(reason));
-    hangUp();
+QJsonDocument SwayPlacement::ask(quint32 type, const QString& payload) {
+    const int socket = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    const auto answer = answerOf(socket, qgetenv(kSocketVariable), type, payload.toUtf8());
+    const QString reason = answer ? QStringLiteral("its answer can't be understood") : qt_error_string();
+    close(socket);
+    const auto message = answer ? QJsonDocument::fromJson(*answer) : QJsonDocument();
+    if (message.isNull())
+        logLine(QStringLiteral("Sway does not place the panel: %1").arg(reason));
+    else if (type == kRunCommand && !message[0][u"success"].toBool())
+        logLine(QStringLiteral("Sway does not place the panel: %1").arg(message[0][u"error"].toString()));
+    return message;
 }
