@@ -4,6 +4,7 @@
 #include "platform/system/SystemVersion.h"
 
 #include <QApplication>
+#include <QPixmapCache>
 #include <QWidget>
 
 #include <malloc.h>
@@ -36,6 +37,8 @@ void ExtraApplicationUtilities::keepHeapSmall() {
 }
 
 void ExtraApplicationUtilities::returnFreedMemory() {
+    // A closed window's icons stay in it, and a timer that looks after them.
+    QPixmapCache::clear();
 #ifdef __GLIBC__
     malloc_trim(0);
 #endif

@@ -17,7 +17,8 @@ std::uint32_t systemVersion();
 /// all.
 void keepHeapSmall();
 
-/// Gives the memory that was freed back to the system, where the C library else keeps it for the next time.
+/// Gives the memory that was freed back to the system, where the C library and the cache of pictures else
+/// keep it for the next time.
 void returnFreedMemory();
 
 } // namespace ExtraApplicationUtilities
