@@ -4,14 +4,15 @@
 #include <QVariant>
 
 /// Property lists, read and written by libplist. Arrays become QVariantList, dictionaries QVariantMap,
-/// integers qulonglong, reals double, texts QString, data QByteArray.
+/// integers qulonglong, texts QString.
 namespace PropertyList {
 
-/// The property list (XML or binary) that `bytes` are; an invalid variant, and the reason in `error`, when
-/// they are none. What lies deeper than 64 levels, dates and other types are invalid variants in it.
+/// The property list that `bytes` are, XML, or binary without dictionaries; an invalid variant, and the
+/// reason in `error`, when they are none. What lies deeper than 64 levels, and other types, are invalid
+/// variants in it.
 QVariant fromBytes(const QByteArray& bytes, QString* error);
 
-/// `root` as a binary property list; what has none of the types above becomes its text.
+/// Lists, integers and texts as a binary property list.
 QByteArray toBytes(const QVariant& root);
 
 /// The property list in a file; an invalid variant, and the reason in `error`, when the file can't be read,

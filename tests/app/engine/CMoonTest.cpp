@@ -109,10 +109,8 @@ TEST_F(CMoonTest, DamagedTablesAreToldAndReplaced) {
     EXPECT_TRUE(complaintOn(good.mid(0, 1400)).contains(u"1400 entries"));
     EXPECT_TRUE(
         complaintOn(with(7, 2, QStringLiteral("five"))).contains(u"entry 7 has no number at place 2"));
-    EXPECT_TRUE(complaintOn(with(7, 2, 1.5)).contains(u"entry 7 has no number at place 2"));
     EXPECT_TRUE(
         complaintOn(with(9, 4, QVariant::fromValue<qulonglong>(5))).contains(u"entry 9 does not follow"));
-    EXPECT_TRUE(complaintOn(QVariantMap{{QStringLiteral("a"), 1}}).contains(u"0 entries"));
 
     QFile file(path);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
