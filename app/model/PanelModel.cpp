@@ -5,6 +5,7 @@
 #include "app/engine/CMoonHelper.h"
 #include "app/engine/CRiseSet.h"
 #include "app/engine/PreferenceKeys.h"
+#include "app/model/Quarters.h"
 #include "platform/bundle/Bundle.h"
 #include "platform/locale/Clock.h"
 #include "platform/locale/NumberFormatter.h"
@@ -60,15 +61,12 @@ QString ageAt(std::uint32_t t) {
     return text;
 }
 
-std::array<QString, 4> quartersAt(std::uint32_t t) {
+/// A text about each quarter of the lunation.
+std::array<QString, 4> quartersAt(std::uint32_t t, QString (*text)(std::uint32_t instant)) {
     const tLunation* lunation = gMoon.FindLunationForGMTSeconds(t);
     std::array<QString, 4> texts;
-    for (std::size_t i = 0; i < texts.size(); ++i) {
-        const QDateTime date =
-            ExtraDateUtilities::dateWithCarbonSecondsGMT(CMoon::GMTToZone(lunation->*kPhaseInstants[i]));
-        texts[i] = information(Information::DateAndTime, ExtraDateUtilities::dateStringWithFormat(date, 0));
-        replaceAll(texts[i], QStringLiteral("^2"), ExtraDateUtilities::timeStringWithSeconds(date, false));
-    }
+    for (std::size_t i = 0; i < texts.size(); ++i)
+        texts[i] = text(lunation->*kPhaseInstants[i]);
     return texts;
 }
 
@@ -194,7 +192,8 @@ PanelModel::Lines PanelModel::lines() const {
         ageAt(t),
         information(Information::Lunation, ExtraStringUtilities::stringWithInteger(gMoon.GetLunation(t))),
         information(Information::NextFullMoonIs, CMoonHelper::stringForMoonName(gMoon.GetAlmanacIndex(t))),
-        quartersAt(t),
+        quartersAt(t, Quarters::time),
+        quartersAt(t, Quarters::distance),
         CMoonHelper::FormatDataAsString(&calculator, Information::Sun, zoneSeconds),
         CMoonHelper::FormatDataAsString(&calculator, Information::NauticalTwilight, zoneSeconds),
         CMoonHelper::FormatDataAsString(&calculator, Information::Moon, zoneSeconds)};
@@ -244,6 +243,15 @@ QString PanelModel::clipboardText() const {
 }
 
 QString PanelModel::toolTip() const {
+    const Clock::Hold oneMoment;
     const std::uint32_t t = moment();
-    return presentIsOutOfRange_ ? phaseAt(t) : phaseAt(t) + u'\n' + illuminationAt(t);
+    if (presentIsOutOfRange_)
+        return phaseAt(t);
+    QString text = phaseAt(t) + u'\n' + illuminationAt(t);
+    if (const auto next = Quarters::next(t))
+        text += u'\n' + Bundle::main()
+                            .localizedString(QT_TRANSLATE_NOOP("Lumivane", "%1: %2, %3"))
+                            .arg(Quarters::name(next->phase), Quarters::time(next->instant),
+                                 Quarters::distance(next->instant));
+    return text;
 }

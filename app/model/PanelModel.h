@@ -73,7 +73,8 @@ public:
         QString age;
         QString lunation;
         QString nextFullMoon;
-        std::array<QString, 4> quarters; ///< new moon, first quarter, full moon, last quarter
+        std::array<QString, 4> quarters;         ///< new moon, first quarter, full moon, last quarter
+        std::array<QString, 4> quarterDistances; ///< from the present: "in 6 days"
         QString sun;
         QString nauticalTwilight;
         QString moon;
@@ -92,7 +93,7 @@ public:
     /// All of it as lines for the clipboard.
     QString clipboardText() const;
 
-    /// Phase and illumination, a line each.
+    /// Phase, illumination, and the next quarter with its distance from the present, a line each.
     QString toolTip() const;
 
 private:

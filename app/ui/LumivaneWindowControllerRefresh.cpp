@@ -63,10 +63,19 @@ void LumivaneWindowController::updateStaticMoonInfo() {
     setStringValueHilight(daysSinceNewMoon_, lines.age);
     setStringValueHilight(lunation_, lines.lunation);
     setStringValueHilight(nextFullMoonName_, lines.nextFullMoon);
-    setStringValueHilight(timeNew_, lines.quarters[0]);
-    setStringValueHilight(timeFirstQuarter_, lines.quarters[1]);
-    setStringValueHilight(timeFull_, lines.quarters[2]);
-    setStringValueHilight(timeLastQuarter_, lines.quarters[3]);
+    const std::pair<QLabel*, QToolButton*> quarters[]{{timeNew_, showNew_},
+                                                      {timeFirstQuarter_, showQ1_},
+                                                      {timeFull_, showFull_},
+                                                      {timeLastQuarter_, showQ3_}};
+    for (std::size_t i = 0; i < std::size(quarters); ++i) {
+        const auto& [time, button] = quarters[i];
+        const QString& distance = lines.quarterDistances[i];
+        setStringValueHilight(time, lines.quarters[i]);
+        time->setToolTip(distance);
+        time->setAccessibleDescription(distance);
+        button->setToolTip(button->accessibleName() + u'\n' + distance);
+        button->setAccessibleDescription(distance);
+    }
     setStringValueHilight(sunRiseSet_, lines.sun);
     setStringValueHilight(nauticalTwilight_, lines.nauticalTwilight);
     setStringValueHilight(moonRiseSet_, lines.moon);

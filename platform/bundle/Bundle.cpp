@@ -135,7 +135,11 @@ const QTranslator* Bundle::translations() const {
 }
 
 QString Bundle::localizedString(const char* key) const {
-    const QString text = translations()->translate(kContext, key);
+    return localizedString(key, -1);
+}
+
+QString Bundle::localizedString(const char* key, int n) const {
+    const QString text = translations()->translate(kContext, key, nullptr, n);
     return text.isEmpty() ? QString::fromUtf8(key) : text;
 }
 

@@ -37,6 +37,9 @@ public:
     /// underline) on this system.
     QString localizedString(const char* key) const;
 
+    /// The same for a text about `n` things, whose form depends on the number; "%n" stays in it.
+    QString localizedString(const char* key, int n) const;
+
     /// Makes every text follow `languages` ("de", "pt-BR"), best first, by default the user's: those looked
     /// up here, the layouts' and, where Qt's own catalogue is installed, the ones in Qt's controls. Also sets
     /// the direction of the layouts. Called once there is an application object.

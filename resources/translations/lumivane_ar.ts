@@ -655,5 +655,91 @@
         <source>%1 can&apos;t look for updates, because the program curl is not installed.</source>
         <translation>لا يستطيع %1 البحث عن تحديثات لأن برنامج curl غير مثبت.</translation>
     </message>
+    <message>
+        <source>%1: %2, %3</source>
+        <translation>%1: %2، %3</translation>
+    </message>
+    <message>
+        <source>New Moon</source>
+        <translation>المحاق</translation>
+    </message>
+    <message>
+        <source>First Quarter</source>
+        <translation>التربيع الأول</translation>
+    </message>
+    <message>
+        <source>Full Moon</source>
+        <translation>البدر</translation>
+    </message>
+    <message>
+        <source>Last Quarter</source>
+        <translation>التربيع الأخير</translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n minute(s)</source>
+        <translation>
+            <numerusform>خلال %n دقيقة</numerusform>
+            <numerusform>خلال دقيقة واحدة</numerusform>
+            <numerusform>خلال دقيقتين</numerusform>
+            <numerusform>خلال %n دقائق</numerusform>
+            <numerusform>خلال %n دقيقة</numerusform>
+            <numerusform>خلال %n دقيقة</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n minute(s) ago</source>
+        <translation>
+            <numerusform>قبل %n دقيقة</numerusform>
+            <numerusform>قبل دقيقة واحدة</numerusform>
+            <numerusform>قبل دقيقتين</numerusform>
+            <numerusform>قبل %n دقائق</numerusform>
+            <numerusform>قبل %n دقيقة</numerusform>
+            <numerusform>قبل %n دقيقة</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n day(s)</source>
+        <translation>
+            <numerusform>خلال %n يوم</numerusform>
+            <numerusform>خلال يوم واحد</numerusform>
+            <numerusform>خلال يومين</numerusform>
+            <numerusform>خلال %n أيام</numerusform>
+            <numerusform>خلال %n يومًا</numerusform>
+            <numerusform>خلال %n يوم</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n day(s) ago</source>
+        <translation>
+            <numerusform>قبل %n يوم</numerusform>
+            <numerusform>قبل يوم واحد</numerusform>
+            <numerusform>قبل يومين</numerusform>
+            <numerusform>قبل %n أيام</numerusform>
+            <numerusform>قبل %n يومًا</numerusform>
+            <numerusform>قبل %n يوم</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n hour(s)</source>
+        <translation>
+            <numerusform>خلال %n ساعة</numerusform>
+            <numerusform>خلال ساعة واحدة</numerusform>
+            <numerusform>خلال ساعتين</numerusform>
+            <numerusform>خلال %n ساعات</numerusform>
+            <numerusform>خلال %n ساعة</numerusform>
+            <numerusform>خلال %n ساعة</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hour(s) ago</source>
+        <translation>
+            <numerusform>قبل %n ساعة</numerusform>
+            <numerusform>قبل ساعة واحدة</numerusform>
+            <numerusform>قبل ساعتين</numerusform>
+            <numerusform>قبل %n ساعات</numerusform>
+            <numerusform>قبل %n ساعة</numerusform>
+            <numerusform>قبل %n ساعة</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

@@ -655,5 +655,67 @@
         <source>%1 can&apos;t look for updates, because the program curl is not installed.</source>
         <translation>%1 kann nicht nach Aktualisierungen suchen, weil das Programm curl nicht installiert ist.</translation>
     </message>
+    <message>
+        <source>%1: %2, %3</source>
+        <translation>%1: %2, %3</translation>
+    </message>
+    <message>
+        <source>New Moon</source>
+        <translation>Neumond</translation>
+    </message>
+    <message>
+        <source>First Quarter</source>
+        <translation>Erstes Viertel</translation>
+    </message>
+    <message>
+        <source>Full Moon</source>
+        <translation>Vollmond</translation>
+    </message>
+    <message>
+        <source>Last Quarter</source>
+        <translation>Letztes Viertel</translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n minute(s)</source>
+        <translation>
+            <numerusform>in %n Minute</numerusform>
+            <numerusform>in %n Minuten</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n minute(s) ago</source>
+        <translation>
+            <numerusform>vor %n Minute</numerusform>
+            <numerusform>vor %n Minuten</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n day(s)</source>
+        <translation>
+            <numerusform>in %n Tag</numerusform>
+            <numerusform>in %n Tagen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n day(s) ago</source>
+        <translation>
+            <numerusform>vor %n Tag</numerusform>
+            <numerusform>vor %n Tagen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n hour(s)</source>
+        <translation>
+            <numerusform>in %n Stunde</numerusform>
+            <numerusform>in %n Stunden</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hour(s) ago</source>
+        <translation>
+            <numerusform>vor %n Stunde</numerusform>
+            <numerusform>vor %n Stunden</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

@@ -655,5 +655,67 @@
         <source>%1 can&apos;t look for updates, because the program curl is not installed.</source>
         <translation>%1 no puede buscar actualizaciones porque el programa curl no está instalado.</translation>
     </message>
+    <message>
+        <source>%1: %2, %3</source>
+        <translation>%1: %2, %3</translation>
+    </message>
+    <message>
+        <source>New Moon</source>
+        <translation>Luna nueva</translation>
+    </message>
+    <message>
+        <source>First Quarter</source>
+        <translation>Cuarto creciente</translation>
+    </message>
+    <message>
+        <source>Full Moon</source>
+        <translation>Luna llena</translation>
+    </message>
+    <message>
+        <source>Last Quarter</source>
+        <translation>Cuarto menguante</translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n minute(s)</source>
+        <translation>
+            <numerusform>dentro de %n minuto</numerusform>
+            <numerusform>dentro de %n minutos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n minute(s) ago</source>
+        <translation>
+            <numerusform>hace %n minuto</numerusform>
+            <numerusform>hace %n minutos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n day(s)</source>
+        <translation>
+            <numerusform>dentro de %n día</numerusform>
+            <numerusform>dentro de %n días</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n day(s) ago</source>
+        <translation>
+            <numerusform>hace %n día</numerusform>
+            <numerusform>hace %n días</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n hour(s)</source>
+        <translation>
+            <numerusform>dentro de %n hora</numerusform>
+            <numerusform>dentro de %n horas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hour(s) ago</source>
+        <translation>
+            <numerusform>hace %n hora</numerusform>
+            <numerusform>hace %n horas</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

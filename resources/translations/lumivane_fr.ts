@@ -655,5 +655,67 @@
         <source>%1 can&apos;t look for updates, because the program curl is not installed.</source>
         <translation>%1 ne peut pas rechercher de mises à jour, car le programme curl n’est pas installé.</translation>
     </message>
+    <message>
+        <source>%1: %2, %3</source>
+        <translation>%1&#xa0;: %2, %3</translation>
+    </message>
+    <message>
+        <source>New Moon</source>
+        <translation>Nouvelle lune</translation>
+    </message>
+    <message>
+        <source>First Quarter</source>
+        <translation>Premier quartier</translation>
+    </message>
+    <message>
+        <source>Full Moon</source>
+        <translation>Pleine lune</translation>
+    </message>
+    <message>
+        <source>Last Quarter</source>
+        <translation>Dernier quartier</translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n minute(s)</source>
+        <translation>
+            <numerusform>dans %n minute</numerusform>
+            <numerusform>dans %n minutes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n minute(s) ago</source>
+        <translation>
+            <numerusform>il y a %n minute</numerusform>
+            <numerusform>il y a %n minutes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n day(s)</source>
+        <translation>
+            <numerusform>dans %n jour</numerusform>
+            <numerusform>dans %n jours</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n day(s) ago</source>
+        <translation>
+            <numerusform>il y a %n jour</numerusform>
+            <numerusform>il y a %n jours</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n hour(s)</source>
+        <translation>
+            <numerusform>dans %n heure</numerusform>
+            <numerusform>dans %n heures</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hour(s) ago</source>
+        <translation>
+            <numerusform>il y a %n heure</numerusform>
+            <numerusform>il y a %n heures</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

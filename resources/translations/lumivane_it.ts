@@ -655,5 +655,67 @@
         <source>%1 can&apos;t look for updates, because the program curl is not installed.</source>
         <translation>%1 non può cercare aggiornamenti perché il programma curl non è installato.</translation>
     </message>
+    <message>
+        <source>%1: %2, %3</source>
+        <translation>%1: %2, %3</translation>
+    </message>
+    <message>
+        <source>New Moon</source>
+        <translation>Luna nuova</translation>
+    </message>
+    <message>
+        <source>First Quarter</source>
+        <translation>Primo quarto</translation>
+    </message>
+    <message>
+        <source>Full Moon</source>
+        <translation>Luna piena</translation>
+    </message>
+    <message>
+        <source>Last Quarter</source>
+        <translation>Ultimo quarto</translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n minute(s)</source>
+        <translation>
+            <numerusform>tra %n minuto</numerusform>
+            <numerusform>tra %n minuti</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n minute(s) ago</source>
+        <translation>
+            <numerusform>%n minuto fa</numerusform>
+            <numerusform>%n minuti fa</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n day(s)</source>
+        <translation>
+            <numerusform>tra %n giorno</numerusform>
+            <numerusform>tra %n giorni</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n day(s) ago</source>
+        <translation>
+            <numerusform>%n giorno fa</numerusform>
+            <numerusform>%n giorni fa</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n hour(s)</source>
+        <translation>
+            <numerusform>tra %n ora</numerusform>
+            <numerusform>tra %n ore</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hour(s) ago</source>
+        <translation>
+            <numerusform>%n ora fa</numerusform>
+            <numerusform>%n ore fa</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

@@ -655,5 +655,61 @@
         <source>%1 can&apos;t look for updates, because the program curl is not installed.</source>
         <translation>プログラム curl がインストールされていないため、%1 はアップデートを確認できません。</translation>
     </message>
+    <message>
+        <source>%1: %2, %3</source>
+        <translation>%1：%2、%3</translation>
+    </message>
+    <message>
+        <source>New Moon</source>
+        <translation>新月</translation>
+    </message>
+    <message>
+        <source>First Quarter</source>
+        <translation>上弦の月</translation>
+    </message>
+    <message>
+        <source>Full Moon</source>
+        <translation>満月</translation>
+    </message>
+    <message>
+        <source>Last Quarter</source>
+        <translation>下弦の月</translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n minute(s)</source>
+        <translation>
+            <numerusform>%n分後</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n minute(s) ago</source>
+        <translation>
+            <numerusform>%n分前</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n day(s)</source>
+        <translation>
+            <numerusform>%n日後</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n day(s) ago</source>
+        <translation>
+            <numerusform>%n日前</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n hour(s)</source>
+        <translation>
+            <numerusform>%n時間後</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hour(s) ago</source>
+        <translation>
+            <numerusform>%n時間前</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

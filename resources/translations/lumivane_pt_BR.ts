@@ -655,5 +655,67 @@
         <source>%1 can&apos;t look for updates, because the program curl is not installed.</source>
         <translation>O %1 não pode procurar atualizações porque o programa curl não está instalado.</translation>
     </message>
+    <message>
+        <source>%1: %2, %3</source>
+        <translation>%1: %2, %3</translation>
+    </message>
+    <message>
+        <source>New Moon</source>
+        <translation>Lua nova</translation>
+    </message>
+    <message>
+        <source>First Quarter</source>
+        <translation>Quarto crescente</translation>
+    </message>
+    <message>
+        <source>Full Moon</source>
+        <translation>Lua cheia</translation>
+    </message>
+    <message>
+        <source>Last Quarter</source>
+        <translation>Quarto minguante</translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n minute(s)</source>
+        <translation>
+            <numerusform>em %n minuto</numerusform>
+            <numerusform>em %n minutos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n minute(s) ago</source>
+        <translation>
+            <numerusform>há %n minuto</numerusform>
+            <numerusform>há %n minutos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n day(s)</source>
+        <translation>
+            <numerusform>em %n dia</numerusform>
+            <numerusform>em %n dias</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n day(s) ago</source>
+        <translation>
+            <numerusform>há %n dia</numerusform>
+            <numerusform>há %n dias</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n hour(s)</source>
+        <translation>
+            <numerusform>em %n hora</numerusform>
+            <numerusform>em %n horas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hour(s) ago</source>
+        <translation>
+            <numerusform>há %n hora</numerusform>
+            <numerusform>há %n horas</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

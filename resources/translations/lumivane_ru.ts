@@ -655,5 +655,73 @@
         <source>%1 can&apos;t look for updates, because the program curl is not installed.</source>
         <translation>%1 не может проверить обновления, так как программа curl не установлена.</translation>
     </message>
+    <message>
+        <source>%1: %2, %3</source>
+        <translation>%1: %2, %3</translation>
+    </message>
+    <message>
+        <source>New Moon</source>
+        <translation>Новолуние</translation>
+    </message>
+    <message>
+        <source>First Quarter</source>
+        <translation>Первая четверть</translation>
+    </message>
+    <message>
+        <source>Full Moon</source>
+        <translation>Полнолуние</translation>
+    </message>
+    <message>
+        <source>Last Quarter</source>
+        <translation>Последняя четверть</translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n minute(s)</source>
+        <translation>
+            <numerusform>через %n минуту</numerusform>
+            <numerusform>через %n минуты</numerusform>
+            <numerusform>через %n минут</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n minute(s) ago</source>
+        <translation>
+            <numerusform>%n минуту назад</numerusform>
+            <numerusform>%n минуты назад</numerusform>
+            <numerusform>%n минут назад</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n day(s)</source>
+        <translation>
+            <numerusform>через %n день</numerusform>
+            <numerusform>через %n дня</numerusform>
+            <numerusform>через %n дней</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n day(s) ago</source>
+        <translation>
+            <numerusform>%n день назад</numerusform>
+            <numerusform>%n дня назад</numerusform>
+            <numerusform>%n дней назад</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n hour(s)</source>
+        <translation>
+            <numerusform>через %n час</numerusform>
+            <numerusform>через %n часа</numerusform>
+            <numerusform>через %n часов</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hour(s) ago</source>
+        <translation>
+            <numerusform>%n час назад</numerusform>
+            <numerusform>%n часа назад</numerusform>
+            <numerusform>%n часов назад</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

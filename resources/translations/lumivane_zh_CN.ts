@@ -655,5 +655,61 @@
         <source>%1 can&apos;t look for updates, because the program curl is not installed.</source>
         <translation>由于未安装 curl 程序，%1 无法查找更新。</translation>
     </message>
+    <message>
+        <source>%1: %2, %3</source>
+        <translation>%1：%2，%3</translation>
+    </message>
+    <message>
+        <source>New Moon</source>
+        <translation>新月</translation>
+    </message>
+    <message>
+        <source>First Quarter</source>
+        <translation>上弦月</translation>
+    </message>
+    <message>
+        <source>Full Moon</source>
+        <translation>满月</translation>
+    </message>
+    <message>
+        <source>Last Quarter</source>
+        <translation>下弦月</translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n minute(s)</source>
+        <translation>
+            <numerusform>%n分钟后</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n minute(s) ago</source>
+        <translation>
+            <numerusform>%n分钟前</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n day(s)</source>
+        <translation>
+            <numerusform>%n天后</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n day(s) ago</source>
+        <translation>
+            <numerusform>%n天前</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n hour(s)</source>
+        <translation>
+            <numerusform>%n小时后</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hour(s) ago</source>
+        <translation>
+            <numerusform>%n小时前</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

@@ -40,14 +40,19 @@ QMap<QString, Message> messagesIn(const QString& path) {
     QXmlStreamReader xml(&file);
     QMap<QString, Message> messages;
     QString source;
+    bool hasForms = false;
     while (!xml.atEnd()) {
         if (xml.readNext() != QXmlStreamReader::StartElement)
             continue;
-        if (xml.name() == u"source") {
+        if (xml.name() == u"message") {
+            hasForms = xml.attributes().hasAttribute(QLatin1String("numerus"));
+        } else if (xml.name() == u"source") {
             source = xml.readElementText();
         } else if (xml.name() == u"translation") {
             const bool unfinished = xml.attributes().hasAttribute(QLatin1String("type"));
-            messages.insert(source, {xml.readElementText(), unfinished});
+            messages.insert(source, {hasForms ? QString() : xml.readElementText(), unfinished});
+        } else if (xml.name() == u"numerusform") {
+            messages[source].translation += xml.readElementText();
         }
     }
     EXPECT_FALSE(xml.hasError()) << qPrintable(path + xml.errorString());

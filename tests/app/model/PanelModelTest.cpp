@@ -180,7 +180,7 @@ TEST_F(PanelModelTest, AClockOutsideTheTableIsToldUntilTheNextMove) {
         model.followZone();
         EXPECT_EQ(model.lines().phase, u"Date out of range") << "that is no move";
         model.moveByHours(0);
-        EXPECT_EQ(model.toolTip(), model.lines().phase + u'\n' + model.lines().illumination);
+        EXPECT_TRUE(model.toolTip().startsWith(model.lines().phase + u'\n' + model.lines().illumination));
         EXPECT_TRUE(model.lines().phase.startsWith(u"Moon is "));
         model.moveToPresent();
         model.setPickerDate(model.pickerDate());

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+#include "app/model/Quarters.h"
+
+#include "app/engine/CMoon.h"
+#include "app/model/PanelModel.h"
+#include "platform/bundle/Bundle.h"
+#include "shared/utilities/classes/values/ExtraDateUtilities.h"
+#include "tests/TestMain.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+std::uint32_t seconds(const QDateTime& date) {
+    return static_cast<std::uint32_t>(date.toSecsSinceEpoch() - ExtraDateUtilities::kReferenceInstant);
+}
+
+} // namespace
+
+TEST(QuartersTest, TheToolTipTellsTheNextQuarterInTheUsersZoneAndLanguage) {
+    gMoon.Init();
+    const InZone zone("America/New_York");
+    const struct {
+        QDateTime now;
+        const char* language;
+        const char16_t* line;
+    } cases[]{
+        {gmt(2026, 11, 23, 8), "en", u"Full Moon: 11/24/26, 9:54 AM, in 1 day"},
+        {gmt(2026, 11, 23, 16), "en", u"Full Moon: 11/24/26, 9:54 AM, in 22 hours"},
+        {gmt(2026, 11, 24, 14, 53), "de", u"Vollmond: 11/24/26, 9:54 AM, in 1 Minute"},
+        {gmt(2026, 11, 24, 15), "en", u"Last Quarter: 12/1/26, 1:09 AM, in 7 days"},
+        {gmt(2026, 11, 26), "ru", u"Последняя четверть: 12/1/26, 1:09 AM, через 6 дней"},
+        {gmt(2026, 11, 30), "ru", u"Последняя четверть: 12/1/26, 1:09 AM, через 2 дня"},
+        {gmt(2026, 12, 2), "ar", u"المحاق: 12/8/26، 7:53 PM، خلال 7 أيام"},
+    };
+    for (const auto& [now, language, line] : cases) {
+        const Clock::Hold present(now);
+        Bundle::main().installTranslations({QLatin1String(language)});
+        EXPECT_EQ(PanelModel().toolTip().section(u'\n', 2).toStdString(),
+                  QString::fromUtf16(line).toStdString());
+    }
+    Bundle::main().installTranslations({QStringLiteral("en")});
+}
+
+TEST(QuartersTest, QuartersMeetAtTheirInstants) {
+    gMoon.Init();
+    const tLunation* lunation = gMoon.FindLunationAtIndex(1300);
+    for (std::size_t i = 0; i < 4; ++i) {
+        const std::uint32_t instant = lunation->*kPhaseInstants[i];
+        const Quarters::Quarter quarter{static_cast<int>(i), instant};
+        EXPECT_EQ(Quarters::latest(instant), quarter);
+        EXPECT_EQ(Quarters::next(instant - 1), quarter);
+        EXPECT_NE(Quarters::next(instant), quarter);
+        EXPECT_NE(Quarters::latest(instant - 1), quarter);
+        const Clock::Hold present(
+            QDateTime::fromSecsSinceEpoch(instant + ExtraDateUtilities::kReferenceInstant + 3 * 3600));
+        EXPECT_EQ(Quarters::distance(instant), u"3 hours ago");
+    }
+    EXPECT_EQ(Quarters::next(seconds(gmt(1910, 1, 1))), std::nullopt);
+    EXPECT_EQ(Quarters::latest(seconds(gmt(2045, 1, 1))), std::nullopt);
+}
