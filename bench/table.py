@@ -1,7 +1,8 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
-"""Everything measured, in one table: table.py LUMIVANE PROGRAMS [RUNS [SECONDS]], where PROGRAMS is the folder of the
-benchmarks. Times are medians; a program that is not installed has no column, and a line that says how to get it."""
+"""Everything measured, in one table: table.py LUMIVANE PROGRAMS [BEFORE [RUNS [SECONDS]]], where PROGRAMS is the folder
+of the benchmarks, and BEFORE another build of Lumivane to have beside it, or "". Times are medians; a program that is
+not installed has no column, and a line that says how to get it."""
 
 import json
 import os
@@ -67,15 +68,17 @@ def print_table(columns):
 
 def main():
     lumivane, programs = map(os.path.abspath, sys.argv[1:3])
-    runs = int(sys.argv[3]) if len(sys.argv) > 3 else 15
-    seconds = int(sys.argv[4]) if len(sys.argv) > 4 else 60
+    before = sys.argv[3] if len(sys.argv) > 3 else ""
+    runs = int(sys.argv[4]) if len(sys.argv) > 4 else 15
+    seconds = int(sys.argv[5]) if len(sys.argv) > 5 else 60
     columns = {"Lumivane": {**benchmarks(programs + "/bench_engine", ENGINE, runs),
                             **benchmarks(programs + "/bench_panel", PANEL, runs)},
                "libnova": benchmarks(programs + "/bench_libnova", {"LibnovaDay": DAY}, runs), "PyEphem": pyephem()}
-    commands = {"Lumivane": lumivane, "20 lines of Qt": programs + "/tray_baseline"}
+    ours = {"Lumivane": lumivane, **({"before": os.path.abspath(before)} if before else {})}
+    commands = {**ours, "20 lines of Qt": programs + "/tray_baseline"}
     commands.update((name, shutil.which(name)) for name in OTHERS if shutil.which(name))
     say("Measuring on a virtual desktop, some minutes ...")
-    figures = tray_programs.measure(commands, runs, seconds)
+    figures = tray_programs.measure(commands, runs, seconds, ours)
     for name, rows in figures.items():
         columns[name] = {**columns.get(name, {}), **rows}
     print_table(columns)

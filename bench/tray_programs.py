@@ -63,7 +63,7 @@ def work(pids):
 
 
 def memory(pids):
-    """RSS, PSS and private memory in MB."""
+    """RSS, PSS, private memory and what of it is dirty, in MB."""
     values = dict.fromkeys(("Rss", "Pss", "Private_Clean", "Private_Dirty"), 0)
     for pid in pids:
         with open("/proc/%d/smaps_rollup" % pid) as lines:
@@ -71,7 +71,9 @@ def memory(pids):
                 name, _, rest = line.partition(":")
                 if name in values:
                     values[name] += int(rest.split()[0]) / 1024
-    return values["Rss"], values["Pss"], values["Private_Clean"] + values["Private_Dirty"]
+    dirty = values["Private_Dirty"]
+    return {"RSS": values["Rss"], "PSS": values["Pss"], "private memory": values["Private_Clean"] + dirty,
+            "private dirty memory": dirty}
 
 
 def start(desktop, command):
@@ -125,15 +127,14 @@ def click_to_paint(desktop, screen):
 def rest(desktop, command, seconds, clicks):
     """A program's figures from its start to its rest, as rows of the table."""
     start(desktop, command)
-    time.sleep(0.5)
-    rows = {}
+    time.sleep(5)
+    rows = {"PSS before the first click": (memory(family(desktop.program.pid))["PSS"], "MB")}
     if clicks:
         screen = Screen()
         rows["click to painted panel"] = statistics.median(click_to_paint(desktop, screen) for _ in range(clicks)), "ms"
     time.sleep(35)  # until whatever a start leaves behind has ended; idle threads of a pool live for 30 s
     pids = family(desktop.program.pid)
-    for row, value in zip(("RSS", "PSS", "private memory"), memory(pids)):
-        rows[row] = value, "MB"
+    rows.update((row, (value, "MB")) for row, value in memory(pids).items())
     before, cpu_before = work(pids)
     time.sleep(seconds)
     after, cpu_after = work(pids)
@@ -144,8 +145,9 @@ def rest(desktop, command, seconds, clicks):
     return rows
 
 
-def measure(programs, runs, seconds):
-    """The figures of each program that shows an icon: name to row to value and unit. The first is Lumivane."""
+def measure(programs, runs, seconds, clicked):
+    """The figures of each program that shows an icon: name to row to value and unit. Those that are `clicked` open
+    Lumivane's panel."""
     desktop = Desktop()
     os.environ["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "0"
     try:
@@ -158,9 +160,8 @@ def measure(programs, runs, seconds):
         figures = {}
         for name, times in starts.items():
             if None not in times:
-                clicks = 0 if figures else runs
                 figures[name] = {"start to icon": (statistics.median(times), "ms"),
-                                 **rest(desktop, programs[name], seconds, clicks)}
+                                 **rest(desktop, programs[name], seconds, runs if name in clicked else 0)}
         return figures
     finally:
         desktop.close()
