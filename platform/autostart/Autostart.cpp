@@ -12,7 +12,6 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <memory>
 #include <optional>
 #include <vector>
 
@@ -173,11 +172,10 @@ int systemNumber(const GError& error) {
 std::error_code writeEntry(const QString& file, const QByteArray& bytes) {
     constexpr auto kWhole =
         static_cast<GFileSetContentsFlags>(G_FILE_SET_CONTENTS_CONSISTENT | G_FILE_SET_CONTENTS_DURABLE);
-    GError* failure = nullptr;
+    g_autoptr(GError) error = nullptr;
     if (g_file_set_contents_full(QFile::encodeName(filePath(file)).constData(), bytes.constData(),
-                                 bytes.size(), kWhole, 0600, &failure))
+                                 bytes.size(), kWhole, 0600, &error))
         return {};
-    const std::unique_ptr<GError, decltype(&g_error_free)> error(failure, &g_error_free);
     return systemError(systemNumber(*error));
 }
 

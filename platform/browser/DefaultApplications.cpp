@@ -21,12 +21,6 @@ struct Unref {
     void operator()(gpointer object) const { g_object_unref(object); }
 };
 using Application = std::unique_ptr<GDesktopAppInfo, Unref>;
-struct FreeText {
-    void operator()(char* text) const { g_free(text); }
-};
-struct FreeError {
-    void operator()(GError* error) const { g_error_free(error); }
-};
 using Context = std::unique_ptr<GAppLaunchContext, Unref>;
 
 Application asDesktopApplication(GAppInfo* info) {
@@ -39,8 +33,8 @@ Application asDesktopApplication(GAppInfo* info) {
 
 /// A bare executable, put as the command line of a desktop entry: there a per cent sign starts a field.
 Application fromExecutable(const QString& path) {
-    const std::unique_ptr<char, FreeText> quoted(g_shell_quote(path.toLocal8Bit().constData()));
-    const QByteArray command = QByteArray(quoted.get()).replace('%', "%%");
+    g_autofree char* quoted = g_shell_quote(path.toLocal8Bit().constData());
+    const QByteArray command = QByteArray(quoted).replace('%', "%%");
     const QByteArray name = QFileInfo(path).fileName().toUtf8();
     return asDesktopApplication(g_app_info_create_from_commandline(command.constData(), name.constData(),
                                                                    G_APP_INFO_CREATE_SUPPORTS_URIS, nullptr));
@@ -117,8 +111,8 @@ Application defaultForType(const QString& type) {
 }
 
 Application defaultForFile(const QString& path) {
-    const std::unique_ptr<GFile, Unref> file(g_file_new_for_path(path.toLocal8Bit().constData()));
-    return asDesktopApplication(g_file_query_default_handler(file.get(), nullptr, nullptr));
+    g_autoptr(GFile) file = g_file_new_for_path(path.toLocal8Bit().constData());
+    return asDesktopApplication(g_file_query_default_handler(file, nullptr, nullptr));
 }
 
 /// Starts the application with one address and returns at once. What is started has a session of its own, no
@@ -126,7 +120,7 @@ Application defaultForFile(const QString& path) {
 bool launch(GDesktopAppInfo* application, const QUrl& address) {
     QByteArray text = address.toEncoded();
     GList items{text.data(), nullptr, nullptr};
-    GError* failure = nullptr;
+    g_autoptr(GError) error = nullptr;
     // Without a watched child GLib starts a grandchild: nothing is left behind here when it ends. A session
     // of its own keeps it from the signals of this program's terminal, and output into a pipe that closes
     // with this program would end it.
@@ -134,8 +128,7 @@ bool launch(GDesktopAppInfo* application, const QUrl& address) {
                                                      G_SPAWN_STDERR_TO_DEV_NULL);
     const bool started = g_desktop_app_info_launch_uris_as_manager(
         application, &items, launchContext(application).get(), kFlags, [](gpointer) { setsid(); }, nullptr,
-        nullptr, nullptr, &failure);
-    const std::unique_ptr<GError, FreeError> error(failure);
+        nullptr, nullptr, &error);
     if (!started)
         logLine(QStringLiteral("%1 can't be opened: %2")
                     .arg(QString::fromUtf8(text), QString::fromUtf8(error ? error->message : "")));
@@ -173,15 +166,13 @@ QStringList listsOfDefaults() {
 
 /// GIO passes over an application whose program is gone, without a word; the user who chose it should hear.
 QString identifierInLists(const QString& contentType) {
-    const std::unique_ptr<GKeyFile, decltype(&g_key_file_unref)> file(g_key_file_new(), g_key_file_unref);
+    g_autoptr(GKeyFile) file = g_key_file_new();
     const QStringList lists = listsOfDefaults();
     for (const QString& list : lists) {
-        if (!g_key_file_load_from_file(file.get(), list.toLocal8Bit().constData(), G_KEY_FILE_NONE, nullptr))
+        if (!g_key_file_load_from_file(file, list.toLocal8Bit().constData(), G_KEY_FILE_NONE, nullptr))
             continue;
-        const std::unique_ptr<char*, decltype(&g_strfreev)> identifiers(
-            g_key_file_get_string_list(file.get(), "Default Applications", contentType.toUtf8().constData(),
-                                       nullptr, nullptr),
-            g_strfreev);
+        g_auto(GStrv) identifiers = g_key_file_get_string_list(
+            file, "Default Applications", contentType.toUtf8().constData(), nullptr, nullptr);
         if (identifiers && *identifiers)
             return QString::fromUtf8(*identifiers);
     }

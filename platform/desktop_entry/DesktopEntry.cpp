@@ -14,22 +14,6 @@ namespace {
 constexpr char kGroup[] = G_KEY_FILE_DESKTOP_GROUP;
 constexpr qint64 kLargestFile = 256LL * 1024;
 
-struct GFree {
-    void operator()(void* memory) const { g_free(memory); }
-};
-using GText = std::unique_ptr<char, GFree>;
-
-struct GTextsFree {
-    void operator()(char** strings) const { g_strfreev(strings); }
-};
-using GTexts = std::unique_ptr<char*, GTextsFree>;
-
-QString takeMessage(GError* error) {
-    const QString message = QString::fromUtf8(error->message);
-    g_error_free(error);
-    return message;
-}
-
 /// A value with the file's escapes. GKeyFile's own leave a blank at the end, which some readers strip.
 QString escaped(QString value) {
     for (const auto& [character, escape] : {std::pair{u'\\', "\\\\"}, std::pair{u'\n', "\\n"},
@@ -73,24 +57,17 @@ QString quotedForExec(const QString& argument) {
 
 } // namespace
 
-void DesktopEntry::Free::operator()(_GKeyFile* file) const {
-    g_key_file_free(file);
+DesktopEntry::DesktopEntry() : file_(g_key_file_new(), &g_key_file_free) {
 }
-
-DesktopEntry::DesktopEntry() : file_(g_key_file_new()) {
-}
-DesktopEntry::~DesktopEntry() = default;
-DesktopEntry::DesktopEntry(DesktopEntry&&) noexcept = default;
-DesktopEntry& DesktopEntry::operator=(DesktopEntry&&) noexcept = default;
 
 std::optional<DesktopEntry> DesktopEntry::fromBytes(const QByteArray& bytes, QString* error) {
     constexpr auto keepingAll =
         static_cast<GKeyFileFlags>(G_KEY_FILE_KEEP_COMMENTS | G_KEY_FILE_KEEP_TRANSLATIONS);
     DesktopEntry entry;
-    GError* failure = nullptr;
+    g_autoptr(GError) failure = nullptr;
     if (!g_key_file_load_from_data(entry.file_.get(), bytes.constData(), static_cast<gsize>(bytes.size()),
                                    keepingAll, &failure)) {
-        *error = takeMessage(failure);
+        *error = QString::fromUtf8(failure->message);
         return std::nullopt;
     }
     if (!g_key_file_has_group(entry.file_.get(), kGroup)) {
@@ -106,17 +83,14 @@ std::optional<DesktopEntry> DesktopEntry::fromFile(const QString& path, QString*
 }
 
 QString DesktopEntry::text(const char* key) const {
-    const GText value(g_key_file_get_string(file_.get(), kGroup, key, nullptr));
-    return QString::fromUtf8(value.get());
+    g_autofree char* value = g_key_file_get_string(file_.get(), kGroup, key, nullptr);
+    return QString::fromUtf8(value);
 }
 
 bool DesktopEntry::flag(const char* key, bool otherwise) const {
-    GError* error = nullptr;
+    g_autoptr(GError) error = nullptr;
     const bool value = g_key_file_get_boolean(file_.get(), kGroup, key, &error) != FALSE;
-    if (!error)
-        return value;
-    g_error_free(error);
-    return otherwise;
+    return error ? otherwise : value;
 }
 
 std::optional<quint64> DesktopEntry::number(const char* key) const {
@@ -126,9 +100,9 @@ std::optional<quint64> DesktopEntry::number(const char* key) const {
 }
 
 QStringList DesktopEntry::list(const char* key) const {
-    const GTexts values(g_key_file_get_string_list(file_.get(), kGroup, key, nullptr, nullptr));
+    g_auto(GStrv) values = g_key_file_get_string_list(file_.get(), kGroup, key, nullptr, nullptr);
     QStringList items;
-    for (char** value = values.get(); value && *value; ++value)
+    for (char** value = values; value && *value; ++value)
         items.append(QString::fromUtf8(*value));
     return items;
 }
@@ -146,12 +120,11 @@ bool DesktopEntry::startsIn(const QStringList& desktops) const {
 }
 
 QString DesktopEntry::namedProgram() const {
-    char** rawArguments = nullptr;
+    g_auto(GStrv) arguments = nullptr;
     // GLib's own launcher splits Exec with this, and nobody's files are stricter than that.
-    if (!g_shell_parse_argv(text("Exec").toUtf8().constData(), nullptr, &rawArguments, nullptr))
+    if (!g_shell_parse_argv(text("Exec").toUtf8().constData(), nullptr, &arguments, nullptr))
         return {};
-    const GTexts arguments(rawArguments);
-    QString name = QString::fromUtf8(arguments.get()[0]);
+    QString name = QString::fromUtf8(arguments[0]);
     name.replace(QLatin1String("%%"), QLatin1String("%"));
     return name;
 }
@@ -172,16 +145,16 @@ void DesktopEntry::setText(const char* key, const QString& value) {
 }
 
 void DesktopEntry::copy(const char* key, const DesktopEntry& from) {
-    const GText value(g_key_file_get_value(from.file_.get(), kGroup, key, nullptr));
+    g_autofree char* value = g_key_file_get_value(from.file_.get(), kGroup, key, nullptr);
     // A line's blank end, a carriage return too, is none of the value.
     if (value)
-        g_key_file_set_value(file_.get(), kGroup, key, QByteArray(value.get()).trimmed().constData());
+        g_key_file_set_value(file_.get(), kGroup, key, QByteArray(value).trimmed().constData());
 }
 
 QByteArray DesktopEntry::toBytes() const {
     gsize length = 0;
-    const GText bytes(g_key_file_to_data(file_.get(), &length, nullptr));
-    return QByteArray(bytes.get(), static_cast<qsizetype>(length));
+    g_autofree char* bytes = g_key_file_to_data(file_.get(), &length, nullptr);
+    return QByteArray(bytes, static_cast<qsizetype>(length));
 }
 
 QString execFor(const QString& program) {

@@ -15,9 +15,6 @@ struct _GKeyFile; // NOLINT(bugprone-reserved-identifier): GLib's own name
 class DesktopEntry {
 public:
     DesktopEntry();
-    ~DesktopEntry();
-    DesktopEntry(DesktopEntry&&) noexcept;
-    DesktopEntry& operator=(DesktopEntry&&) noexcept;
 
     /// Nothing, and the reason in `error`, for what is no desktop entry. A file must be a regular one of at
     /// most 256 KiB.
@@ -53,10 +50,7 @@ public:
 private:
     QStringList list(const char* key) const;
 
-    struct Free {
-        void operator()(_GKeyFile* file) const;
-    };
-    std::unique_ptr<_GKeyFile, Free> file_;
+    std::unique_ptr<_GKeyFile, void (*)(_GKeyFile*)> file_;
 };
 
 /// An `Exec` that starts a program, whatever characters its absolute path holds.

@@ -54,24 +54,18 @@ icu::Locale icuLocale(const QByteArray& posixName) {
 
 HourCycle settingOf(const char* schemaId, const char* key) {
     GSettingsSchemaSource* source = g_settings_schema_source_get_default();
-    GSettingsSchema* schema = source ? g_settings_schema_source_lookup(source, schemaId, TRUE) : nullptr;
-    if (!schema)
+    g_autoptr(GSettingsSchema) schema =
+        source ? g_settings_schema_source_lookup(source, schemaId, TRUE) : nullptr;
+    if (!schema || !g_settings_schema_has_key(schema, key))
         return HourCycle::OfLocale;
-    HourCycle cycle = HourCycle::OfLocale;
-    if (g_settings_schema_has_key(schema, key)) {
-        GSettings* settings = g_settings_new_full(schema, nullptr, nullptr);
-        GVariant* value = g_settings_get_value(settings, key);
-        bool is24 = false;
-        if (g_variant_is_of_type(value, G_VARIANT_TYPE_BOOLEAN))
-            is24 = g_variant_get_boolean(value);
-        else if (g_variant_is_of_type(value, G_VARIANT_TYPE_STRING))
-            is24 = qstrcmp(g_variant_get_string(value, nullptr), "24h") == 0;
-        cycle = is24 ? HourCycle::TwentyFour : HourCycle::Twelve;
-        g_variant_unref(value);
-        g_object_unref(settings);
-    }
-    g_settings_schema_unref(schema);
-    return cycle;
+    g_autoptr(GSettings) settings = g_settings_new_full(schema, nullptr, nullptr);
+    g_autoptr(GVariant) value = g_settings_get_value(settings, key);
+    bool is24 = false;
+    if (g_variant_is_of_type(value, G_VARIANT_TYPE_BOOLEAN))
+        is24 = g_variant_get_boolean(value);
+    else if (g_variant_is_of_type(value, G_VARIANT_TYPE_STRING))
+        is24 = qstrcmp(g_variant_get_string(value, nullptr), "24h") == 0;
+    return is24 ? HourCycle::TwentyFour : HourCycle::Twelve;
 }
 
 HourCycle desktopHourCycle() {
