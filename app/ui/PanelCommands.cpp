@@ -87,9 +87,10 @@ std::unique_ptr<QWidget> speck() {
 /// Copies `text`, and calls `done` when other programs could read it. Wayland's compositors take a copy from
 /// nobody but the window with the focus, which after a menu is `window` or, for want of one, a speck.
 void copyWithFocus(const QString& text, QWidget* window, const std::function<void()>& done) {
-    ExtraStringUtilities::copyToClipboard(text);
-    if (!qEnvironmentVariableIsSet("WAYLAND_DISPLAY"))
+    if (!qEnvironmentVariableIsSet("WAYLAND_DISPLAY")) {
+        ExtraStringUtilities::copyToClipboard(text);
         return done();
+    }
     const std::shared_ptr<QWidget> ours(window ? nullptr : speck());
     (window ? window : ours.get())->activateWindow();
     auto* const wait = new QTimer(qApp);
