@@ -29,7 +29,7 @@ constexpr auto kProperties = QLatin1String("org.freedesktop.DBus.Properties");
 /// A host that drops the item at first does so within this time.
 constexpr std::chrono::seconds kRecheck{1};
 /// A host that drops the item more often doesn't want it.
-constexpr int kDropsBorne = 5;
+constexpr int kDropsBorne = 3;
 
 DBusImage dbusImage(const QImage& image) {
     const QImage straight = image.convertToFormat(QImage::Format_ARGB32);

@@ -26,11 +26,16 @@ class TrayTest(unittest.TestCase):
 
     def test_a_without_a_tray(self):
         desktop = self.desktop
-        desktop.start(PROGRAM, tray=False)
+        events = pathlib.Path(desktop.home, "events")
+        with events.open("w") as file:
+            listener = subprocess.Popen(["stdbuf", "-oL", "xev", "-root", "-event", "property"], stdout=file)
+        self.addCleanup(listener.kill)
+        desktop.start(PROGRAM, tray=False, environment={"DESKTOP_STARTUP_ID": "moon_TIME1"})
         # The rest of the start does not wait for the session's tray, the window does.
         entry = pathlib.Path(desktop.home, "config/autostart")
         wait_for("the name", lambda: desktop.bus_has("com.corvanta.Lumivane"), 3)
         wait_for("the login item", lambda: list(entry.glob("*.desktop")), 3)
+        wait_for("the end of the busy pointer", lambda: "_NET_STARTUP_INFO_BEGIN" in events.read_text(), 3)
         self.assertFalse(desktop.titled("Lumivane"))
         desktop.resting(wait_for("the utility window", desktop.window))
         desktop.click_control("Quit")  # nothing would bring it back
