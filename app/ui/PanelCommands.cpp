@@ -79,6 +79,7 @@ std::unique_ptr<QTextDocument> plainCredits() {
 std::unique_ptr<QWidget> speck() {
     auto window = std::make_unique<QWidget>(nullptr, Qt::Tool | Qt::FramelessWindowHint);
     window->setAttribute(Qt::WA_QuitOnClose, false);
+    window->setWindowTitle(QStringLiteral(" ")); // not the panel's, by which that one is found
     window->setFixedSize(1, 1);
     window->show();
     return window;
@@ -86,20 +87,21 @@ std::unique_ptr<QWidget> speck() {
 
 /// Copies `text`, and calls `done` when other programs could read it. Wayland's compositors take a copy from
 /// nobody but the window with the focus, which after a menu is `window` or, for want of one, a speck.
-void copyWithFocus(const QString& text, QWidget* window, const std::function<void()>& done) {
+void copyWithFocus(QObject* owner, const QString& text, QWidget* window, const std::function<void()>& done) {
     if (!qEnvironmentVariableIsSet("WAYLAND_DISPLAY")) {
         ExtraStringUtilities::copyToClipboard(text);
         return done();
     }
     const std::shared_ptr<QWidget> ours(window ? nullptr : speck());
-    (window ? window : ours.get())->activateWindow();
-    auto* const wait = new QTimer(qApp);
+    const QPointer<QWidget> focused(window ? window : ours.get());
+    focused->activateWindow();
+    auto* const wait = new QTimer(owner);
     wait->callOnTimeout([=, rounds = kFocusRounds]() mutable {
-        if (--rounds > 0 && (QApplication::activePopupWidget() || !QApplication::activeWindow()))
+        if (--rounds > 0 && (QApplication::activePopupWidget() || (focused && !focused->isActiveWindow())))
             return;
         wait->deleteLater();
         ExtraStringUtilities::copyToClipboard(text);
-        QTimer::singleShot(kReading, qApp, [ours, text, done] {
+        QTimer::singleShot(kReading, owner, [ours, text, done] {
             const QClipboard* const clipboard = QGuiApplication::clipboard();
             if (!clipboard->ownsClipboard() && clipboard->text() != text)
                 logLine(QStringLiteral("The clipboard does not keep what was copied."));
@@ -175,7 +177,7 @@ void PanelCommands::openPage(const char* path) {
 void PanelCommands::copyMoonToClipboard(QObject*) {
     LumivaneWindowController* const panel = visiblePanel();
     const QString text = (panel ? panel->model() : PanelModel()).clipboardText();
-    copyWithFocus(text, panel ? panel->window() : nullptr, [panel = QPointer(panel)] {
+    copyWithFocus(this, text, panel ? panel->window() : nullptr, [panel = QPointer(panel)] {
         if (panel)
             panel->putDropDownAway();
     });

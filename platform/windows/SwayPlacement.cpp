@@ -9,15 +9,15 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QSocketNotifier>
 #include <QWidget>
 
 #include <algorithm>
-#include <array>
 #include <cerrno>
+#include <chrono>
 #include <cstring>
 
 #include <sys/socket.h>
+#include <sys/time.h>
 #include <sys/un.h>
 #include <unistd.h>
 
@@ -26,27 +26,75 @@ namespace {
 constexpr char kSocketVariable[] = "SWAYSOCK";
 
 // A message is this mark, the payload's length and the type, each 32 bits in the machine's byte order, and
-// the payload. Events are answers that nobody asked for.
+// the payload.
 const QByteArray kMark("i3-ipc");
-constexpr qsizetype kNumberSize = sizeof(quint32);
-const qsizetype kHeaderSize = kMark.size() + 2 * kNumberSize;
 constexpr quint32 kRunCommand = 0;
-constexpr quint32 kSubscribe = 2;
 constexpr quint32 kGetTree = 4;
-constexpr quint32 kWindowEvent = 0x80000003;
 /// No tree is longer; the rest of a stream that is none of Sway's would be waited for in vain.
 constexpr quint32 kLongestPayload = 64U << 20;
+constexpr timeval kAnswerPatience{.tv_sec = 1, .tv_usec = 0};
+
+constexpr std::chrono::milliseconds kLook{10};
+constexpr int kMostLooks = 200;
 
 const QString kRole = QStringLiteral("panel");
 
-quint32 numberAt(const QByteArray& bytes, qsizetype offset) {
-    quint32 number = 0;
-    std::memcpy(&number, bytes.constData() + offset, sizeof number);
-    return number;
-}
-
 QByteArray bytesOf(quint32 number) {
     return {reinterpret_cast<const char*>(&number), sizeof number};
+}
+
+/// A stream to a local server. Not Qt's: that comes with all of its network library, which nothing else needs
+/// here.
+class Socket {
+public:
+    Socket() : descriptor_(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
+        for (const int direction : {SO_RCVTIMEO, SO_SNDTIMEO})
+            setsockopt(descriptor_, SOL_SOCKET, direction, &kAnswerPatience, sizeof kAnswerPatience);
+    }
+    ~Socket() { close(descriptor_); }
+    Socket(const Socket&) = delete;
+    Socket& operator=(const Socket&) = delete;
+
+    /// Whether the server is reached and `message` goes out; else errno tells why.
+    bool send(const QByteArray& path, const QByteArray& message) const {
+        sockaddr_un address{.sun_family = AF_UNIX, .sun_path = {}};
+        if (static_cast<std::size_t>(path.size()) >= sizeof address.sun_path) {
+            errno = ENAMETOOLONG;
+            return false;
+        }
+        std::ranges::copy(path, std::begin(address.sun_path));
+        return connect(descriptor_, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0 &&
+               ::send(descriptor_, message.data(), static_cast<std::size_t>(message.size()), MSG_NOSIGNAL) ==
+                   message.size();
+    }
+
+    /// So many bytes, or nothing.
+    QByteArray receive(qsizetype size) const {
+        QByteArray bytes(size, '\0');
+        return recv(descriptor_, bytes.data(), static_cast<std::size_t>(size), MSG_WAITALL) == size
+                   ? bytes
+                   : QByteArray();
+    }
+
+private:
+    int descriptor_;
+};
+
+/// Sway's answer, for which the program waits: it comes within milliseconds. Where there is none, an empty
+/// one, and errno tells why.
+QJsonDocument ask(quint32 type, const QString& payload = {}) {
+    const QByteArray bytes = payload.toUtf8();
+    const Socket socket;
+    errno = 0;
+    if (!socket.send(qgetenv(kSocketVariable),
+                     kMark + bytesOf(static_cast<quint32>(bytes.size())) + bytesOf(type) + bytes))
+        return {};
+    quint32 length = 0;
+    const QByteArray header = socket.receive(kMark.size() + 2 * qsizetype{sizeof length});
+    if (!header.startsWith(kMark))
+        return {};
+    std::memcpy(&length, header.constData() + kMark.size(), sizeof length);
+    return length > kLongestPayload ? QJsonDocument() : QJsonDocument::fromJson(socket.receive(length));
 }
 
 QRect rectangleOf(const QJsonObject& node) {
@@ -62,7 +110,7 @@ struct Found {
 };
 
 /// This process's floating window of that title.
-std::optional<Found> findWindow(const QJsonObject& tree, const QString& title) {
+std::optional<Found> windowIn(const QJsonObject& tree, const QString& title) {
     const QJsonArray outputs = tree[u"nodes"].toArray();
     for (const auto& output : outputs) {
         const QJsonArray workspaces = output[u"nodes"].toArray();
@@ -106,201 +154,71 @@ void flushX11() {
 
 } // namespace
 
-/// A stream to a local server. Not Qt's: that comes with all of its network library, which nothing else needs
-/// here.
-class SwayPlacement::Socket {
-public:
-    using Heard = std::function<void()>;
-
-    explicit Socket(Heard heard) : heard_(std::move(heard)) {}
-    ~Socket() { close(); }
-    Socket(const Socket&) = delete;
-    Socket& operator=(const Socket&) = delete;
-
-    bool isOpen() const { return descriptor_ >= 0; }
-
-    /// Whether the server is reached; else errno tells why.
-    bool open(const QByteArray& path) {
-        sockaddr_un address{.sun_family = AF_UNIX, .sun_path = {}};
-        if (static_cast<std::size_t>(path.size()) >= sizeof address.sun_path) {
-            errno = ENAMETOOLONG;
-            return false;
-        }
-        std::ranges::copy(path, std::begin(address.sun_path));
-        descriptor_ = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
-        if (!isOpen())
-            return false;
-        if (::connect(descriptor_, reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0) {
-            const int reason = errno;
-            close();
-            errno = reason;
-            return false;
-        }
-        notifier_ = std::make_unique<QSocketNotifier>(descriptor_, QSocketNotifier::Read);
-        QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(), heard_);
-        return true;
-    }
-
-    /// Whether all went out; else errno tells why.
-    bool write(QByteArrayView bytes) {
-        while (!bytes.isEmpty()) {
-            const ssize_t sent =
-                ::send(descriptor_, bytes.data(), static_cast<std::size_t>(bytes.size()), MSG_NOSIGNAL);
-            if (sent < 0 && errno != EINTR)
-                return false;
-            bytes = bytes.sliced(std::max<ssize_t>(sent, 0));
-        }
-        return true;
-    }
-
-    /// What has come in; nothing at the stream's end or, with the reason in errno, at its break.
-    QByteArray read() {
-        QByteArray bytes;
-        std::array<char, 16384> part{};
-        errno = 0;
-        for (ssize_t got = 1; got > 0;) {
-            got = recv(descriptor_, part.data(), part.size(), MSG_DONTWAIT);
-            bytes.append(part.data(), std::max<ssize_t>(got, 0));
-        }
-        return bytes;
-    }
-
-    void close() {
-        if (notifier_) { // it may be the notifier that has this called
-            notifier_->setEnabled(false);
-            notifier_.release()->deleteLater();
-        }
-        if (isOpen())
-            ::close(descriptor_);
-        descriptor_ = -1;
-    }
-
-private:
-    const Heard heard_;
-    std::unique_ptr<QSocketNotifier> notifier_;
-    int descriptor_ = -1;
-};
-
 bool SwayPlacement::isThere() {
     // The variable may be left over from another session.
     return QFileInfo::exists(qEnvironmentVariable(kSocketVariable));
 }
 
 SwayPlacement::SwayPlacement(QWidget* window, Chooser chooser)
-    : QObject(window), window_(window), chooser_(std::move(chooser)),
-      socket_(std::make_unique<Socket>([this] { read(); })) {
+    : QObject(window), window_(window), chooser_(std::move(chooser)) {
     window->setWindowRole(kRole);
+    search_.callOnTimeout(this, &SwayPlacement::findWindow);
 }
-
-SwayPlacement::~SwayPlacement() = default;
 
 void SwayPlacement::place() {
-    const bool talking = socket_->isOpen();
-    if (!talking && !socket_->open(qgetenv(kSocketVariable)))
-        return giveUp(qt_error_string());
-    if (surroundings_)
+    if (surroundings_) {
         move();
-    else if (!talking)
-        awaitWindow();
-}
-
-void SwayPlacement::awaitWindow() {
-    state_ = State::Awaiting;
-    // An X11 window comes up at the pointer by this, and is not seen elsewhere before. Sway keeps no such
-    // rule twice.
-    send(kRunCommand, QStringLiteral("for_window [pid=%1 window_role=\"^%2$\"] move position pointer")
-                          .arg(QCoreApplication::applicationPid())
-                          .arg(kRole));
-    send(kSubscribe, QStringLiteral("[\"window\"]"));
-}
-
-void SwayPlacement::send(quint32 type, const QString& payload) {
-    const QByteArray bytes = payload.toUtf8();
-    if (!socket_->isOpen())
-        return;
-    ++unanswered_;
-    if (!socket_->write(kMark + bytesOf(static_cast<quint32>(bytes.size())) + bytesOf(type) + bytes))
-        giveUp(qt_error_string());
-}
-
-void SwayPlacement::runCommand(const QString& command) {
-    send(kRunCommand, QStringLiteral("[con_id=%1] %2").arg(identifier_).arg(command));
-}
-
-void SwayPlacement::read() {
-    const QByteArray bytes = socket_->read();
-    if (bytes.isEmpty() && errno != EAGAIN)
-        return giveUp(errno == 0 ? QStringLiteral("it hung up") : qt_error_string());
-    received_ += bytes;
-    while (received_.size() >= kHeaderSize) {
-        const quint32 length = numberAt(received_, kMark.size());
-        if (!received_.startsWith(kMark) || length > kLongestPayload) {
-            giveUp(QStringLiteral("what its socket says is none of Sway's messages"));
-            return;
-        }
-        if (received_.size() < kHeaderSize + length)
-            return;
-        const quint32 type = numberAt(received_, kMark.size() + kNumberSize);
-        const QByteArray payload = received_.mid(kHeaderSize, length);
-        received_.remove(0, kHeaderSize + length);
-        receive(type, QJsonDocument::fromJson(payload));
+    } else if (!search_.isActive()) {
+        looks_ = 0;
+        // An X11 window comes up at the pointer by this, and is not seen elsewhere before. Sway keeps no such
+        // rule twice.
+        if (run(QStringLiteral("for_window [pid=%1 window_role=\"^%2$\"] move position pointer")
+                    .arg(QCoreApplication::applicationPid())
+                    .arg(kRole)))
+            search_.start(kLook);
     }
 }
 
-void SwayPlacement::receive(quint32 type, const QJsonDocument& message) {
-    if (type == kWindowEvent) {
-        if (state_ == State::Awaiting && message[u"change"].toString() == u"new")
-            send(kGetTree);
+/// Looks whether the window has come up, and places it if so.
+void SwayPlacement::findWindow() {
+    auto found = windowIn(ask(kGetTree).object(), window_->windowTitle());
+    if (!found) {
+        if (++looks_ == kMostLooks)
+            giveUp(QStringLiteral("it does not show the window"));
         return;
     }
-    --unanswered_;
-    if (type == kSubscribe)
-        send(kGetTree); // the window may be there already
-    else if (type == kGetTree)
-        receiveTree(message.object());
-    else if (type == kRunCommand && message[0][u"success"].toBool())
-        commandDone();
-    else
-        giveUp(message[0][u"error"].toString());
-}
-
-void SwayPlacement::receiveTree(const QJsonObject& tree) {
-    const std::optional<Found> found = findWindow(tree, window_->windowTitle());
+    search_.stop();
+    identifier_ = found->window[u"id"].toInteger();
+    // This also tells where the pointer is.
+    if (!run(QStringLiteral("[con_id=%1] move position pointer").arg(identifier_)))
+        return;
+    found = windowIn(ask(kGetTree).object(), window_->windowTitle());
     if (!found)
         return;
-    if (state_ == State::Awaiting) {
-        state_ = State::GoingToPointer;
-        identifier_ = found->window[u"id"].toInteger();
-        runCommand(QStringLiteral("move position pointer"));
-    } else if (state_ == State::AtPointer) {
-        state_ = State::Placed;
-        surroundings_ = surroundingsOf(*found, window_->height());
-        move();
-    }
-}
-
-void SwayPlacement::commandDone() {
-    if (state_ == State::GoingToPointer) {
-        state_ = State::AtPointer;
-        send(kGetTree);
-    } else if (state_ == State::Placed && unanswered_ == 0) {
-        hangUp();
-    }
+    surroundings_ = surroundingsOf(*found, window_->height());
+    move();
 }
 
 void SwayPlacement::move() {
     const QPoint place = chooser_(*surroundings_);
     flushX11();
-    runCommand(QStringLiteral("move absolute position %1 %2").arg(place.x()).arg(place.y()));
+    run(QStringLiteral("[con_id=%1] move absolute position %2 %3")
+            .arg(identifier_)
+            .arg(place.x())
+            .arg(place.y()));
 }
 
-void SwayPlacement::hangUp() {
-    socket_->close();
-    received_.clear();
-    unanswered_ = 0;
+/// Whether Sway obeys; else what it says is logged.
+bool SwayPlacement::run(const QString& command) {
+    const QJsonDocument answer = ask(kRunCommand, command);
+    if (answer[0][u"success"].toBool())
+        return true;
+    const QString said = answer[0][u"error"].toString();
+    giveUp(!said.isEmpty() ? said : errno ? qt_error_string() : QStringLiteral("its answer is none"));
+    return false;
 }
 
 void SwayPlacement::giveUp(const QString& reason) {
+    search_.stop();
     logLine(QStringLiteral("Sway does not place the panel: %1").arg(reason));
-    hangUp();
 }

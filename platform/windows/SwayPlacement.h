@@ -4,13 +4,11 @@
 #include <QObject>
 #include <QPoint>
 #include <QRect>
+#include <QTimer>
 
 #include <functional>
-#include <memory>
 #include <optional>
 
-class QJsonDocument;
-class QJsonObject;
 class QWidget;
 
 /// Puts a floating window to its place under Sway, which shows them in the middle of the screen whatever they
@@ -36,39 +34,21 @@ public:
 
     /// `window`, which is not shown yet, becomes the owner.
     SwayPlacement(QWidget* window, Chooser chooser);
-    ~SwayPlacement() override;
 
     /// Places the window: as soon as it shows, and at once when it does. Without an answer from Sway it stays
     /// where Sway puts it, which is logged.
     void place();
 
 private:
-    class Socket;
-
-    enum class State {
-        Awaiting,       ///< The window is not there yet.
-        GoingToPointer, ///< Sway was told to put it there, which also tells where that is.
-        AtPointer,
-        Placed,
-    };
-
-    void awaitWindow();
-    void send(quint32 type, const QString& payload = {});
-    void read();
-    void receive(quint32 type, const QJsonDocument& message);
-    void receiveTree(const QJsonObject& tree);
-    void runCommand(const QString& command);
-    void commandDone();
+    void findWindow();
     void move();
-    void hangUp();
+    bool run(const QString& command);
     void giveUp(const QString& reason);
 
     QWidget* const window_;
     const Chooser chooser_;
-    const std::unique_ptr<Socket> socket_;
-    QByteArray received_;
-    State state_ = State::Awaiting;
-    int unanswered_ = 0;
+    QTimer search_; ///< Runs until the window has come up.
+    int looks_ = 0;
     qint64 identifier_ = 0; ///< Sway's number of the window.
     std::optional<Surroundings> surroundings_;
 };
