@@ -20,7 +20,7 @@ namespace {
 /// A session's tray is up by then.
 constexpr milliseconds kLoginPatience{10000};
 /// A watcher that has not said by then whether it has a host is stopped or hangs.
-constexpr milliseconds kAnswerPatience{2500};
+constexpr milliseconds kAnswerPatience{2000};
 /// A panel with both kinds of tray has brought up the second by then.
 constexpr milliseconds kPanelPatience{1000};
 /// A panel that crashed or was restarted is back by then.
@@ -52,8 +52,8 @@ void TrayIcon::hostChanged() {
         patience_.stop();
         xembedIcon_.reset();
         setShown(true);
-    } else if (!shown_ && notifier_->state() == State::NoHost && hasXEmbedTray()) {
-        settleWithoutHost(); // at the start, a tray that is up already has no host to wait for
+    } else if (!isShown() && notifier_->state() == State::NoHost && hasXEmbedTray()) {
+        settleWithoutHost(); // a tray that is up already has no host to wait for
     } else if (shown_ != false) {
         patience_.start(shown_ ? kRestartPatience : kLoginPatience);
     }
@@ -75,7 +75,8 @@ bool TrayIcon::hasXEmbedTray() {
 }
 
 void TrayIcon::settleWithoutHost() {
-    if (hasXEmbedTray() && !xembedIcon_)
+    // Of a watcher that does not answer Qt would ask the same, and wait.
+    if (notifier_->state() == StatusNotifierItem::State::NoHost && hasXEmbedTray() && !xembedIcon_)
         dock();
     setShown(xembedIcon_ && xembedIcon_->geometry().isValid());
 }

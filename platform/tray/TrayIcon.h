@@ -60,7 +60,7 @@ Q_SIGNALS:
 
     /// A tray began to show the item, or the last one stopped. The first one tells how things stand after the
     /// start, in any case: at once where there is a tray; where there is none, after the ten seconds that one
-    /// may take to come up with the session; after two and a half where one is there that does not answer.
+    /// may take to come up with the session; after two where one is there that does not answer.
     void shownChanged(bool shown);
 
 private:
