@@ -26,7 +26,11 @@ int main(int argc, char** argv) {
                      &ApplicationDelegate::awakeFromNib, Qt::SingleShotConnection);
     QObject::connect(
         &statusItem, &LumivaneStatusItem::trayKnown, &application,
-        [&application] { Appearance::followDesktop(&application); }, Qt::SingleShotConnection);
+        [&application] {
+            WindowPlatform::finishStartup();
+            Appearance::followDesktop(&application);
+        },
+        Qt::SingleShotConnection);
     statusItem.awakeFromNib();
     return QApplication::exec();
 }

@@ -12,6 +12,7 @@
 #include "platform/tray/TrayIcon.h"
 #include "platform/windows/Screen.h"
 #include "platform/windows/SwayPlacement.h"
+#include "platform/windows/WindowPlatform.h"
 #include "shared/utilities/classes/ExtraApplicationUtilities.h"
 #include "shared/utilities/classes/ExtraWindowUtilities.h"
 #include "shared/utilities/classes/NSImageUtilities.h"
@@ -32,6 +33,8 @@
 namespace {
 constexpr std::chrono::seconds kClockInterval{300};
 constexpr std::chrono::seconds kSettling{1};
+/// The rest of the start waits no longer for the tray.
+constexpr std::chrono::seconds kTrayPatience{2};
 constexpr int kLargestIcon = 64;
 constexpr qint64 kLargestPicture = 1 << 20;
 
@@ -110,6 +113,7 @@ void LumivaneStatusItem::awakeFromNib() {
     clock_.setTimerType(Qt::VeryCoarseTimer);
     connect(&clock_, &QTimer::timeout, this, &LumivaneStatusItem::moonClockTimer);
     clock_.start(kClockInterval);
+    QTimer::singleShot(kTrayPatience, this, &LumivaneStatusItem::trayKnown);
 }
 
 void LumivaneStatusItem::showNow() {
@@ -179,8 +183,10 @@ void LumivaneStatusItem::loadController(std::uint32_t styleMask) {
 }
 
 LumivaneWindowController& LumivaneStatusItem::controller() {
-    if (!lumivaneWindow_)
-        loadController(LumivaneWindow::kBorderlessMask);
+    if (!lumivaneWindow_) {
+        standsInForTray_ = trayIsKnown_ && !isInTray();
+        loadController(standsInForTray_ ? LumivaneWindow::kWindoidMask : LumivaneWindow::kBorderlessMask);
+    }
     return *lumivaneWindow_;
 }
 
@@ -194,6 +200,7 @@ void LumivaneStatusItem::statusItemClicked(QObject*) {
         showPanel();
     else if (!raiseAlert())
         makeAsHiddenMenu();
+    WindowPlatform::finishStartup();
 }
 
 void LumivaneStatusItem::showPanel() {
@@ -214,6 +221,7 @@ void LumivaneStatusItem::showPanel() {
         window->activateWindow();
     }
     ExtraWindowUtilities::fadeShowSynchronous(window);
+    WindowPlatform::finishStartup();
 }
 
 void LumivaneStatusItem::windowWillClose() {
@@ -225,24 +233,22 @@ void LumivaneStatusItem::windowWillClose() {
 
 void LumivaneStatusItem::trayChanged(bool shown) {
     const bool isFirst = !std::exchange(trayIsKnown_, true);
-    const bool windoid = lumivaneWindow_ && lumivaneWindow_->isWindoid();
-    if (shown && windoid && standsInForTray_)
+    if (shown && standsInForTray_)
         makeAsHiddenMenu();
-    else if (!shown && !windoid)
-        standInForTray(isFirst);
+    else if (!shown && !(lumivaneWindow_ && lumivaneWindow_->isWindoid()))
+        leaveTray(isFirst);
     Q_EMIT trayKnown();
 }
 
-void LumivaneStatusItem::standInForTray(bool show) {
+/// Makes an open drop-down a utility window; where the program has just started, that is what it shows.
+void LumivaneStatusItem::leaveTray(bool show) {
     const auto moment =
         isPanelVisible() ? std::optional(lumivaneWindow_->datePickerGMTSeconds()) : std::nullopt;
     dropController();
-    loadController(LumivaneWindow::kWindoidMask);
-    standsInForTray_ = true;
     if (show || moment)
         showPanel();
     if (moment)
-        lumivaneWindow_->moveTo(*moment);
+        controller().moveTo(*moment);
 }
 
 bool LumivaneStatusItem::isInTray() const {

@@ -29,7 +29,7 @@ public:
     ~LumivaneStatusItem() override;
 
     /// Creates the tray item and the clock; the panel is loaded when it is first needed. On a desktop without
-    /// a tray the panel opens as a utility window, until a tray appears.
+    /// a tray the panel opens as a utility window when none has come with the session, until one appears.
     void awakeFromNib();
 
     /// Sets the icon to the Moon of the present.
@@ -66,8 +66,8 @@ public Q_SLOTS:
     void showPanel();
 
 Q_SIGNALS:
-    /// Whether there is a tray became known, or changed: once soon after the start, with the icon in its
-    /// place.
+    /// Whether there is a tray became known, or changed; and two seconds after the start in any case, for
+    /// what comes after the icon.
     void trayKnown();
 
 private:
@@ -76,7 +76,7 @@ private:
     void loadController(std::uint32_t styleMask);
     void moonClockTimer();
     void trayChanged(bool shown);
-    void standInForTray(bool show);
+    void leaveTray(bool show);
     void dropController();
     void keepUnderIcon(LumivaneWindow* window);
     void placeUnderIcon();

@@ -2,6 +2,7 @@
 #include "app/ui/LumivaneWindow.h"
 
 #include "platform/windows/Screen.h"
+#include "platform/windows/WindowPlatform.h"
 #include "shared/utilities/classes/ExtraWindowUtilities.h"
 
 #include <QApplication>
@@ -65,6 +66,7 @@ void LumivaneWindow::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
     if (styleMask_ != kBorderlessMask)
         return;
+    WindowPlatform::leaveTaskList(this);
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (QWidget* window : windows) {
         if (auto* dialog = qobject_cast<QDialog*>(window); dialog && dialog->isVisible())

@@ -17,15 +17,27 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QClipboard>
 #include <QKeySequence>
 #include <QPointer>
 #include <QTextDocument>
+#include <QTimer>
+
+#include <chrono>
+#include <functional>
+#include <memory>
 
 namespace {
 
 constexpr qint64 kLargestCredits = 1 << 20;
 constexpr const char* kRunAtLogin = "runAtLoginAction_";
 constexpr const char* kAbout = QT_TRANSLATE_NOOP("Lumivane", "&About Lumivane");
+
+/// How often, and for how many rounds, a copy waits for the focus.
+constexpr std::chrono::milliseconds kFocusRound{20};
+constexpr int kFocusRounds = 50;
+/// Compositors and clipboard managers have read a copy by then.
+constexpr std::chrono::milliseconds kReading{300};
 
 /// What the credits say in words; names and titles stay as they are.
 constexpr const char* kCreditsTexts[]{
@@ -61,6 +73,42 @@ std::unique_ptr<QTextDocument> plainCredits() {
     auto text = std::make_unique<QTextDocument>();
     text->setPlainText(QStringLiteral("Lumivane [VERSION] ([BUILD])"));
     return text;
+}
+
+/// A window that is hardly seen, for the focus alone.
+std::unique_ptr<QWidget> speck() {
+    auto window = std::make_unique<QWidget>(nullptr, Qt::Tool | Qt::FramelessWindowHint);
+    window->setAttribute(Qt::WA_QuitOnClose, false);
+    window->setWindowTitle(QStringLiteral(" ")); // not the panel's, by which that one is found
+    window->setFixedSize(1, 1);
+    window->show();
+    return window;
+}
+
+/// Copies `text`, and calls `done` when other programs could read it. Wayland's compositors take a copy from
+/// nobody but the window with the focus, which after a menu is `window` or, for want of one, a speck.
+void copyWithFocus(QObject* owner, const QString& text, QWidget* window, const std::function<void()>& done) {
+    if (!qEnvironmentVariableIsSet("WAYLAND_DISPLAY")) {
+        ExtraStringUtilities::copyToClipboard(text);
+        return done();
+    }
+    const std::shared_ptr<QWidget> ours(window ? nullptr : speck());
+    const QPointer<QWidget> focused(window ? window : ours.get());
+    focused->activateWindow();
+    auto* const wait = new QTimer(owner);
+    wait->callOnTimeout([=, rounds = kFocusRounds]() mutable {
+        if (--rounds > 0 && (QApplication::activePopupWidget() || (focused && !focused->isActiveWindow())))
+            return;
+        wait->deleteLater();
+        ExtraStringUtilities::copyToClipboard(text);
+        QTimer::singleShot(kReading, owner, [ours, text, done] {
+            const QClipboard* const clipboard = QGuiApplication::clipboard();
+            if (!clipboard->ownsClipboard() && clipboard->text() != text)
+                logLine(QStringLiteral("The clipboard does not keep what was copied."));
+            done();
+        });
+    });
+    wait->start(kFocusRound);
 }
 
 } // namespace
@@ -128,9 +176,11 @@ void PanelCommands::openPage(const char* path) {
 
 void PanelCommands::copyMoonToClipboard(QObject*) {
     LumivaneWindowController* const panel = visiblePanel();
-    ExtraStringUtilities::copyToClipboard((panel ? panel->model() : PanelModel()).clipboardText());
-    if (panel)
-        panel->putDropDownAway();
+    const QString text = (panel ? panel->model() : PanelModel()).clipboardText();
+    copyWithFocus(this, text, panel ? panel->window() : nullptr, [panel = QPointer(panel)] {
+        if (panel)
+            panel->putDropDownAway();
+    });
 }
 
 void PanelCommands::runAtLogin(QObject*) {

@@ -50,9 +50,11 @@ QString objectPath(const QString& identifier) {
 class ActivationToken {
 public:
     explicit ActivationToken(const QVariantMap& platformData) {
-        const QString token = platformData.value(QStringLiteral("activation-token")).toString();
-        if (!token.isEmpty())
-            qputenv(kVariable, token.toUtf8());
+        for (const char* name : {"desktop-startup-id", "activation-token"}) { // the older and the newer name
+            const QString token = platformData.value(QLatin1String(name)).toString();
+            if (!token.isEmpty())
+                qputenv(kVariable, token.toUtf8());
+        }
     }
     ~ActivationToken() { qunsetenv(kVariable); }
     ActivationToken(const ActivationToken&) = delete;

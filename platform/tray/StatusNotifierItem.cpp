@@ -2,6 +2,7 @@
 #include "platform/tray/StatusNotifierItem.h"
 
 #include "platform/log/Log.h"
+#include "platform/windows/Screen.h"
 
 #include <QCursor>
 #include <QDBusMessage>
@@ -10,11 +11,11 @@
 #include <QDBusPendingReply>
 #include <QDBusServiceWatcher>
 #include <QGuiApplication>
-#include <QScreen>
 #include <QtEndian>
 
 #include <algorithm>
-#include <array>
+#include <chrono>
+#include <limits>
 #include <utility>
 
 namespace {
@@ -25,6 +26,11 @@ constexpr auto kItemPath = QLatin1String("/StatusNotifierItem");
 constexpr auto kMenuPath = QLatin1String("/StatusNotifierItem/Menu");
 constexpr auto kProperties = QLatin1String("org.freedesktop.DBus.Properties");
 
+/// A host that drops the item at first does so within this time.
+constexpr std::chrono::seconds kRecheck{1};
+/// A host that drops the item more often doesn't want it.
+constexpr int kDropsBorne = 3;
+
 DBusImage dbusImage(const QImage& image) {
     const QImage straight = image.convertToFormat(QImage::Format_ARGB32);
     QByteArray pixels(straight.sizeInBytes(), Qt::Uninitialized);
@@ -32,46 +38,16 @@ DBusImage dbusImage(const QImage& image) {
     return {straight.width(), straight.height(), pixels};
 }
 
-bool isOnScreen(QPoint point) {
-    return QGuiApplication::screenAt(point) != nullptr;
-}
-
-/// On X11 the pointer's place is known everywhere, under Wayland (XWayland too) over our own windows only.
-bool isPointerKnown() {
-    return QGuiApplication::platformName() == u"xcb" && !qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
-}
-
-/// The place in Qt's coordinates that X11's `native` pixels are at; `native` itself where that is on no
-/// screen.
-QPoint fromNativePixels(QPoint native) {
-    const QList<QScreen*> screens = QGuiApplication::screens();
-    for (const QScreen* screen : screens) {
-        const QRect area = screen->geometry();
-        const qreal scale = screen->devicePixelRatio();
-        if (QRect(area.topLeft(), area.size() * scale).contains(native))
-            return area.topLeft() + (native - area.topLeft()) / scale;
-    }
-    return native;
-}
-
-/// Whether a host's numbers can mean the pointer's place. They are native pixels, or those divided by a whole
-/// number, or Qt's coordinates, after the host's toolkit and its settings.
-bool canMean(QPoint told, QPoint pointer) {
-    const auto isNear = [pointer](QPoint place) { return (place - pointer).manhattanLength() <= 48; };
-    return isNear(told) || std::ranges::any_of(std::array{1, 2, 3}, [&](int scale) {
-               return isNear(fromNativePixels(told * scale));
-           });
-}
-
-/// Where a click was, as far as it can be known. The pointer's own place is exact, unless the click came from
-/// elsewhere (the keyboard); some hosts tell nothing of use.
+/// Where a click was, as far as it can be known: the pointer where that is on a bar, else what the host
+/// tells, which for some is nothing of use. On X11 the pointer's place is known everywhere, under Wayland
+/// (XWayland too) over our own windows only.
 std::optional<QPoint> placeOfClick(QPoint told) {
-    if (isPointerKnown()) {
-        const QPoint pointer = QCursor::pos();
-        const QPoint place = fromNativePixels(told);
-        return told.isNull() || !isOnScreen(place) || canMean(told, pointer) ? pointer : place;
-    }
-    return told.isNull() || !isOnScreen(told) ? std::nullopt : std::optional(told);
+    const bool isPointerKnown =
+        QGuiApplication::platformName() == u"xcb" && !qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+    if (isPointerKnown && Screen::isPointerOnBar())
+        return QCursor::pos();
+    const bool isUseful = !told.isNull() && QGuiApplication::screenAt(told);
+    return isUseful ? std::optional(told) : std::nullopt;
 }
 
 /// Whether the watcher's answer says that a host is there. Who has a watcher that lacks the question has a
@@ -98,10 +74,10 @@ StatusNotifierItem::StatusNotifierItem(const QString& identifier, const QString&
     qDBusRegisterMetaType<DBusImage>();
     qDBusRegisterMetaType<QList<DBusImage>>();
     qDBusRegisterMetaType<DBusToolTip>();
-}
-
-StatusNotifierItem::~StatusNotifierItem() {
-    leaveBus();
+    recheck_.setSingleShot(true);
+    recheck_.setInterval(kRecheck);
+    connect(&recheck_, &QTimer::timeout, this,
+            [this] { state_ == State::Shown ? checkRegistration() : registerItem(); });
 }
 
 void StatusNotifierItem::start() {
@@ -111,12 +87,17 @@ void StatusNotifierItem::start() {
             this, [this] { setState(State::NoHost); }, Qt::QueuedConnection);
         return;
     }
+    if (!bus_.registerObject(kItemPath, this, QDBusConnection::ExportScriptableContents) ||
+        !bus_.registerObject(kMenuPath, &menu_, QDBusConnection::ExportScriptableContents))
+        logLine(QStringLiteral("Another tray item is on this D-Bus connection already."));
     auto* const watcher =
         new QDBusServiceWatcher(kWatcher, bus_, QDBusServiceWatcher::WatchForOwnerChange, this);
     connect(watcher, &QDBusServiceWatcher::serviceOwnerChanged, this, &StatusNotifierItem::lookForHost);
     // Without a sender's name, which QtDBus would look up here and now.
     for (const auto& signal : {"StatusNotifierHostRegistered", "StatusNotifierHostUnregistered"})
         bus_.connect({}, kWatcherPath, kWatcher, QString::fromLatin1(signal), this, SLOT(lookForHost()));
+    bus_.connect({}, kWatcherPath, kWatcher, QStringLiteral("StatusNotifierItemUnregistered"), this,
+                 SLOT(itemUnregistered(QString)));
     lookForHost();
 }
 
@@ -165,14 +146,15 @@ void StatusNotifierItem::ProvideXdgActivationToken(const QString& token) {
     qputenv("XDG_ACTIVATION_TOKEN", token.toUtf8());
 }
 
-/// Asks the watcher something; only the answer to the last question is heard.
+/// Asks the watcher something; only the answer to the last question is heard, however late it comes: nothing
+/// else would tell that a stopped watcher goes on.
 template <typename Answered>
 void StatusNotifierItem::callWatcher(const QString& interface, const QString& method,
                                      const QVariantList& arguments, Answered answered) {
     QDBusMessage message = QDBusMessage::createMethodCall(kWatcher, kWatcherPath, interface, method);
     message.setArguments(arguments);
     delete question_;
-    question_ = new QDBusPendingCallWatcher(bus_.asyncCall(message), this);
+    question_ = new QDBusPendingCallWatcher(bus_.asyncCall(message, std::numeric_limits<int>::max()), this);
     connect(question_, &QDBusPendingCallWatcher::finished, this,
             [this, answered](QDBusPendingCallWatcher* question) {
                 question_ = nullptr;
@@ -182,6 +164,8 @@ void StatusNotifierItem::callWatcher(const QString& interface, const QString& me
 }
 
 void StatusNotifierItem::lookForHost() {
+    recheck_.stop();
+    dropsLeft_ = kDropsBorne;
     callWatcher(kProperties, QStringLiteral("Get"),
                 {kWatcher, QStringLiteral("IsStatusNotifierHostRegistered")},
                 [this](const QDBusPendingCall& answer) {
@@ -193,53 +177,54 @@ void StatusNotifierItem::lookForHost() {
 }
 
 void StatusNotifierItem::registerItem() {
-    if (!enterBus()) {
-        setState(State::NoHost);
-        return;
-    }
     setState(State::Registering);
     callWatcher(
-        kWatcher, QStringLiteral("RegisterStatusNotifierItem"), {service_},
+        kWatcher, QStringLiteral("RegisterStatusNotifierItem"), {bus_.baseService()},
         [this](const QDBusPendingReply<>& answer) {
             if (answer.isError())
                 logLine(QStringLiteral("The tray does not take the icon: %1").arg(answer.error().message()));
+            else
+                recheck_.start();
             setState(answer.isError() ? State::NoHost : State::Shown);
         });
 }
 
-bool StatusNotifierItem::enterBus() {
-    if (!service_.isEmpty())
-        return true;
-    if (!bus_.registerObject(kItemPath, this, QDBusConnection::ExportScriptableContents) ||
-        !bus_.registerObject(kMenuPath, &menu_, QDBusConnection::ExportScriptableContents)) {
-        logLine(QStringLiteral("Another tray item is on this D-Bus connection already."));
-        return false;
-    }
-    static int count = 0;
-    const QString name = QStringLiteral("org.kde.StatusNotifierItem-%1-%2")
-                             .arg(QCoreApplication::applicationPid())
-                             .arg(++count);
-    // Sandboxes may withhold the name; the connection's own serves as well.
-    service_ = bus_.registerService(name) ? name : bus_.baseService();
-    return true;
+void StatusNotifierItem::checkRegistration() {
+    callWatcher(kProperties, QStringLiteral("Get"),
+                {kWatcher, QStringLiteral("RegisteredStatusNotifierItems")},
+                [this](const QDBusPendingReply<QDBusVariant>& answer) {
+                    const QStringList items = answer.value().variant().toStringList();
+                    if (answer.isValid() &&
+                        std::ranges::none_of(items, [this](const QString& item) { return isThisItem(item); }))
+                        registerAgain();
+                });
 }
 
-void StatusNotifierItem::leaveBus() {
-    if (service_.isEmpty())
-        return;
-    bus_.unregisterService(service_);
-    bus_.unregisterObject(kItemPath);
-    bus_.unregisterObject(kMenuPath);
-    service_.clear();
+void StatusNotifierItem::itemUnregistered(const QString& item) {
+    if (state_ == State::Shown && isThisItem(item))
+        registerAgain();
+}
+
+void StatusNotifierItem::registerAgain() {
+    if (dropsLeft_-- > 0) {
+        setState(State::Registering);
+        recheck_.start();
+    } else {
+        logLine(QStringLiteral("The tray drops the icon again and again."));
+        setState(State::NoHost);
+    }
+}
+
+/// Watchers list an item as ":1.23", ":1.23/StatusNotifierItem" or ":1.23@/StatusNotifierItem".
+bool StatusNotifierItem::isThisItem(const QString& listed) const {
+    const QString name = bus_.baseService();
+    return listed.startsWith(name) &&
+           (listed.size() == name.size() || listed[name.size()] == u'/' || listed[name.size()] == u'@');
 }
 
 void StatusNotifierItem::setState(State state) {
-    if (state == State::NoHost) {
-        // A watcher without a host would keep the item for the next one, beside what took its place
-        // meanwhile.
-        leaveBus();
+    if (state == State::NoHost)
         lastClick_.reset();
-    }
     if (std::exchange(state_, state) != state)
         Q_EMIT stateChanged();
 }

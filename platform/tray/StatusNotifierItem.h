@@ -9,6 +9,7 @@
 #include <QObject>
 #include <QPoint>
 #include <QPointer>
+#include <QTimer>
 
 #include <optional>
 
@@ -36,9 +37,10 @@ struct DBusToolTip {
 };
 
 /// A tray item that hosts (panels) show by way of the bus, `org.kde.StatusNotifierItem`. It registers with
-/// whatever watcher is there, now or later, as long as a host is there too, and leaves the bus when none is.
-/// QSystemTrayIcon's own item would drop the click's place and decide at its first use, for good, whether
-/// there is a watcher. One such item can live on a connection.
+/// whatever watcher is there, now or later, when a host is there too, and again where the host drops it.
+/// It goes by its connection's unique name: a well-known one that a host has to look up may seem to change
+/// its owner, and the item is dropped. QSystemTrayIcon's own item would drop the click's place and decide at
+/// its first use, for good, whether there is a watcher. One such item can live on a connection.
 class StatusNotifierItem : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.kde.StatusNotifierItem")
@@ -61,7 +63,7 @@ class StatusNotifierItem : public QObject {
 
 public:
     enum class State {
-        Unknown,     ///< Not started, or no answer about a host yet.
+        Unknown,     ///< Not started, or no answer about a host yet; a stopped watcher gives none.
         NoHost,      ///< Nobody would show the item.
         Registering, ///< A host is there, the watcher has not yet taken the item.
         Shown,
@@ -69,7 +71,6 @@ public:
 
     StatusNotifierItem(const QString& identifier, const QString& title, const QDBusConnection& bus,
                        QObject* parent = nullptr);
-    ~StatusNotifierItem() override;
 
     /// Begins to look for a host; `stateChanged` tells what came of it. Waits for no other program.
     void start();
@@ -117,23 +118,26 @@ Q_SIGNALS:
 
 private Q_SLOTS:
     void lookForHost();
+    void itemUnregistered(const QString& item);
 
 private:
     template <typename Answered>
     void callWatcher(const QString& interface, const QString& method, const QVariantList& arguments,
                      Answered answered);
     void registerItem();
-    bool enterBus();
-    void leaveBus();
+    void checkRegistration();
+    void registerAgain();
+    bool isThisItem(const QString& listed) const;
     void setState(State state);
     void noteClick(QPoint told);
 
     const QString identifier_;
     const QString title_;
     QDBusConnection bus_;
-    /// The name on the bus that the watcher is given; empty while the item is off the bus.
-    QString service_;
     State state_ = State::Unknown;
+    /// Until a registration is looked at again, or repeated.
+    QTimer recheck_;
+    int dropsLeft_ = 0;
     QPointer<QDBusPendingCallWatcher> question_;
     QList<DBusImage> images_;
     QString toolTip_;

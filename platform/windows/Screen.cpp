@@ -3,6 +3,7 @@
 
 #include "platform/windows/X11.h"
 
+#include <QCursor>
 #include <QScreen>
 
 #include <algorithm>
@@ -74,7 +75,32 @@ QRect withoutStruts(xcb_connection_t* connection, const QScreen* screen) {
         .translated(origin);
 }
 
+/// Whether the pointer is on a dock, which window managers may have put into a frame.
+bool isPointerOnDock(xcb_connection_t* connection) {
+    const xcb_atom_t type = X11::atom(connection, "_NET_WM_WINDOW_TYPE", false);
+    const xcb_atom_t dock = X11::atom(connection, "_NET_WM_WINDOW_TYPE_DOCK", false);
+    xcb_window_t window = xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root;
+    while (window != XCB_NONE) {
+        const auto types =
+            numbers(connection, xcb_get_property(connection, false, window, type, XCB_ATOM_ATOM, 0, 8));
+        if (std::ranges::find(types, dock) != types.end())
+            return true;
+        const auto inside =
+            X11::owned(xcb_query_pointer_reply(connection, xcb_query_pointer(connection, window), nullptr));
+        window = inside ? inside->child : xcb_window_t{XCB_NONE};
+    }
+    return false;
+}
+
 } // namespace
+
+bool Screen::isPointerOnBar() {
+    const QScreen* const screen = QGuiApplication::screenAt(QCursor::pos());
+    if (screen && !visibleFrame(screen).contains(QCursor::pos()))
+        return true;
+    xcb_connection_t* const connection = X11::connection();
+    return connection && isPointerOnDock(connection);
+}
 
 QRect Screen::without(const std::vector<Strut>& struts, const QRect& screen) {
     QRect rest = screen;

@@ -14,6 +14,10 @@ namespace Screen {
 /// The part of the screen that bars leave to windows, in Qt's coordinates (y downwards).
 QRect visibleFrame(const QScreen* screen);
 
+/// Whether the pointer, as far as its place is known, is on a bar: outside what bars leave, or, on X11, on
+/// the window of one that hides itself and takes nothing.
+bool isPointerOnBar();
+
 /// What a bar takes of the desktop at one of its edges. It reaches to the edge over what other screens lie
 /// between.
 struct Strut {

@@ -15,10 +15,9 @@
 #include <cerrno>
 #include <chrono>
 #include <cstring>
-#include <string_view>
-#include <utility>
 
 #include <sys/socket.h>
+#include <sys/time.h>
 #include <sys/un.h>
 #include <unistd.h>
 
@@ -28,20 +27,75 @@ constexpr char kSocketVariable[] = "SWAYSOCK";
 
 // A message is this mark, the payload's length and the type, each 32 bits in the machine's byte order, and
 // the payload.
-constexpr std::string_view kMark("i3-ipc");
-struct Numbers {
-    quint32 length;
-    quint32 type;
-};
+const QByteArray kMark("i3-ipc");
 constexpr quint32 kRunCommand = 0;
 constexpr quint32 kGetTree = 4;
 /// No tree is longer; the rest of a stream that is none of Sway's would be waited for in vain.
 constexpr quint32 kLongestPayload = 64U << 20;
-constexpr std::chrono::seconds kPatience{1}; ///< for each answer
-constexpr std::chrono::milliseconds kBetweenLooks{20};
-constexpr int kMostLooks = 100;
+constexpr timeval kAnswerPatience{.tv_sec = 1, .tv_usec = 0};
+
+constexpr std::chrono::milliseconds kLook{10};
+constexpr int kMostLooks = 200;
 
 const QString kRole = QStringLiteral("panel");
+
+QByteArray bytesOf(quint32 number) {
+    return {reinterpret_cast<const char*>(&number), sizeof number};
+}
+
+/// A stream to a local server. Not Qt's: that comes with all of its network library, which nothing else needs
+/// here.
+class Socket {
+public:
+    Socket() : descriptor_(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
+        for (const int direction : {SO_RCVTIMEO, SO_SNDTIMEO})
+            setsockopt(descriptor_, SOL_SOCKET, direction, &kAnswerPatience, sizeof kAnswerPatience);
+    }
+    ~Socket() { close(descriptor_); }
+    Socket(const Socket&) = delete;
+    Socket& operator=(const Socket&) = delete;
+
+    /// Whether the server is reached and `message` goes out; else errno tells why.
+    bool send(const QByteArray& path, const QByteArray& message) const {
+        sockaddr_un address{.sun_family = AF_UNIX, .sun_path = {}};
+        if (static_cast<std::size_t>(path.size()) >= sizeof address.sun_path) {
+            errno = ENAMETOOLONG;
+            return false;
+        }
+        std::ranges::copy(path, std::begin(address.sun_path));
+        return connect(descriptor_, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0 &&
+               ::send(descriptor_, message.data(), static_cast<std::size_t>(message.size()), MSG_NOSIGNAL) ==
+                   message.size();
+    }
+
+    /// So many bytes, or nothing.
+    QByteArray receive(qsizetype size) const {
+        QByteArray bytes(size, '\0');
+        return recv(descriptor_, bytes.data(), static_cast<std::size_t>(size), MSG_WAITALL) == size
+                   ? bytes
+                   : QByteArray();
+    }
+
+private:
+    int descriptor_;
+};
+
+/// Sway's answer, for which the program waits: it comes within milliseconds. Where there is none, an empty
+/// one, and errno tells why.
+QJsonDocument ask(quint32 type, const QString& payload = {}) {
+    const QByteArray bytes = payload.toUtf8();
+    const Socket socket;
+    errno = 0;
+    if (!socket.send(qgetenv(kSocketVariable),
+                     kMark + bytesOf(static_cast<quint32>(bytes.size())) + bytesOf(type) + bytes))
+        return {};
+    quint32 length = 0;
+    const QByteArray header = socket.receive(kMark.size() + 2 * qsizetype{sizeof length});
+    if (!header.startsWith(kMark))
+        return {};
+    std::memcpy(&length, header.constData() + kMark.size(), sizeof length);
+    return length > kLongestPayload ? QJsonDocument() : QJsonDocument::fromJson(socket.receive(length));
+}
 
 QRect rectangleOf(const QJsonObject& node) {
     const QJsonObject rectangle = node[u"rect"].toObject();
@@ -56,7 +110,7 @@ struct Found {
 };
 
 /// This process's floating window of that title.
-std::optional<Found> findWindow(const QJsonObject& tree, const QString& title) {
+std::optional<Found> windowIn(const QJsonObject& tree, const QString& title) {
     const QJsonArray outputs = tree[u"nodes"].toArray();
     for (const auto& output : outputs) {
         const QJsonArray workspaces = output[u"nodes"].toArray();
@@ -98,45 +152,6 @@ void flushX11() {
         X11::owned(xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
 }
 
-/// All of `size` bytes that come in; else nothing, and errno tells why.
-std::optional<QByteArray> receive(int socket, std::size_t size) {
-    QByteArray bytes(static_cast<qsizetype>(size), Qt::Uninitialized);
-    errno = EPIPE; // the stream's end sets none
-    const ssize_t got = recv(socket, bytes.data(), size, MSG_WAITALL);
-    return got == static_cast<ssize_t>(size) ? std::optional(bytes) : std::nullopt;
-}
-
-/// What the server at `path` answers to a message; else nothing, and errno tells why. Qt's own sockets would
-/// bring all of its network library.
-std::optional<QByteArray> answerOf(int socket, const QByteArray& path, quint32 type,
-                                   const QByteArray& payload) {
-    sockaddr_un address{.sun_family = AF_UNIX, .sun_path = {}};
-    const timeval patience{.tv_sec = kPatience.count(), .tv_usec = 0};
-    Numbers numbers{static_cast<quint32>(payload.size()), type};
-    const QByteArray message = QByteArray(kMark.data(), kMark.size()) +
-                               QByteArray(reinterpret_cast<const char*>(&numbers), sizeof numbers) + payload;
-    if (static_cast<std::size_t>(path.size()) >= sizeof address.sun_path) {
-        errno = ENAMETOOLONG;
-        return std::nullopt;
-    }
-    std::ranges::copy(path, std::begin(address.sun_path));
-    for (const int option : {SO_RCVTIMEO, SO_SNDTIMEO})
-        setsockopt(socket, SOL_SOCKET, option, &patience, sizeof patience);
-    if (connect(socket, reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0 ||
-        send(socket, message.constData(), static_cast<std::size_t>(message.size()), MSG_NOSIGNAL) !=
-            message.size())
-        return std::nullopt;
-    const auto header = receive(socket, kMark.size() + sizeof numbers);
-    if (!header)
-        return std::nullopt;
-    std::memcpy(&numbers, header->constData() + kMark.size(), sizeof numbers);
-    if (!header->startsWith(kMark.data()) || numbers.length > kLongestPayload) {
-        errno = EPROTO;
-        return std::nullopt;
-    }
-    return receive(socket, numbers.length);
-}
-
 } // namespace
 
 bool SwayPlacement::isThere() {
@@ -147,60 +162,63 @@ bool SwayPlacement::isThere() {
 SwayPlacement::SwayPlacement(QWidget* window, Chooser chooser)
     : QObject(window), window_(window), chooser_(std::move(chooser)) {
     window->setWindowRole(kRole);
-    untilThere_.setInterval(kBetweenLooks);
-    connect(&untilThere_, &QTimer::timeout, this, &SwayPlacement::lookForWindow);
+    search_.callOnTimeout(this, &SwayPlacement::findWindow);
 }
 
 void SwayPlacement::place() {
-    if (surroundings_)
-        return move();
-    // An X11 window comes up at the pointer by this, and is not seen elsewhere before. Sway keeps no such
-    // rule twice.
-    const QString rule = QStringLiteral("for_window [pid=%1 window_role=\"^%2$\"] move position pointer");
-    if (!ask(kRunCommand, rule.arg(QCoreApplication::applicationPid()).arg(kRole)).isNull())
-        untilThere_.start();
+    if (surroundings_) {
+        move();
+    } else if (!search_.isActive()) {
+        looks_ = 0;
+        // An X11 window comes up at the pointer by this, and is not seen elsewhere before. Sway keeps no such
+        // rule twice.
+        if (run(QStringLiteral("for_window [pid=%1 window_role=\"^%2$\"] move position pointer")
+                    .arg(QCoreApplication::applicationPid())
+                    .arg(kRole)))
+            search_.start(kLook);
+    }
 }
 
-void SwayPlacement::lookForWindow() {
-    const QJsonDocument tree = ask(kGetTree);
-    const std::optional<Found> found = findWindow(tree.object(), window_->windowTitle());
-    if (!found && !tree.isNull() && ++looks_ < kMostLooks)
+/// Looks whether the window has come up, and places it if so.
+void SwayPlacement::findWindow() {
+    auto found = windowIn(ask(kGetTree).object(), window_->windowTitle());
+    if (!found) {
+        if (++looks_ == kMostLooks)
+            giveUp(QStringLiteral("it does not show the window"));
         return;
-    untilThere_.stop();
+    }
+    search_.stop();
+    identifier_ = found->window[u"id"].toInteger();
+    // This also tells where the pointer is.
+    if (!run(QStringLiteral("[con_id=%1] move position pointer").arg(identifier_)))
+        return;
+    found = windowIn(ask(kGetTree).object(), window_->windowTitle());
     if (!found)
         return;
-    identifier_ = found->window[u"id"].toInteger();
-    goToPointer();
-}
-
-/// Sway tells the pointer's place by putting the window there.
-void SwayPlacement::goToPointer() {
-    runCommand(QStringLiteral("move position pointer"));
-    if (const auto found = findWindow(ask(kGetTree).object(), window_->windowTitle())) {
-        surroundings_ = surroundingsOf(*found, window_->height());
-        move();
-    }
+    surroundings_ = surroundingsOf(*found, window_->height());
+    move();
 }
 
 void SwayPlacement::move() {
     const QPoint place = chooser_(*surroundings_);
     flushX11();
-    runCommand(QStringLiteral("move absolute position %1 %2").arg(place.x()).arg(place.y()));
+    run(QStringLiteral("[con_id=%1] move absolute position %2 %3")
+            .arg(identifier_)
+            .arg(place.x())
+            .arg(place.y()));
 }
 
-void SwayPlacement::runCommand(const QString& command) {
-    ask(kRunCommand, QStringLiteral("[con_id=%1] %2").arg(identifier_).arg(command));
+/// Whether Sway obeys; else what it says is logged.
+bool SwayPlacement::run(const QString& command) {
+    const QJsonDocument answer = ask(kRunCommand, command);
+    if (answer[0][u"success"].toBool())
+        return true;
+    const QString said = answer[0][u"error"].toString();
+    giveUp(!said.isEmpty() ? said : errno ? qt_error_string() : QStringLiteral("its answer is none"));
+    return false;
 }
 
-QJsonDocument SwayPlacement::ask(quint32 type, const QString& payload) {
-    const int socket = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    const auto answer = answerOf(socket, qgetenv(kSocketVariable), type, payload.toUtf8());
-    const QString reason = answer ? QStringLiteral("its answer can't be understood") : qt_error_string();
-    close(socket);
-    const auto message = answer ? QJsonDocument::fromJson(*answer) : QJsonDocument();
-    if (message.isNull())
-        logLine(QStringLiteral("Sway does not place the panel: %1").arg(reason));
-    else if (type == kRunCommand && !message[0][u"success"].toBool())
-        logLine(QStringLiteral("Sway does not place the panel: %1").arg(message[0][u"error"].toString()));
-    return message;
+void SwayPlacement::giveUp(const QString& reason) {
+    search_.stop();
+    logLine(QStringLiteral("Sway does not place the panel: %1").arg(reason));
 }

@@ -9,7 +9,6 @@
 #include <functional>
 #include <optional>
 
-class QJsonDocument;
 class QWidget;
 
 /// Puts a floating window to its place under Sway, which shows them in the middle of the screen whatever they
@@ -36,20 +35,19 @@ public:
     /// `window`, which is not shown yet, becomes the owner.
     SwayPlacement(QWidget* window, Chooser chooser);
 
-    /// Places the window: as soon as Sway has it, and at once when it does. Without an answer from Sway it
-    /// stays where Sway puts it, which is logged.
+    /// Places the window: as soon as it shows, and at once when it does. Without an answer from Sway it stays
+    /// where Sway puts it, which is logged.
     void place();
 
 private:
-    void lookForWindow();
-    void goToPointer();
+    void findWindow();
     void move();
-    void runCommand(const QString& command);
-    QJsonDocument ask(quint32 type, const QString& payload = {});
+    bool run(const QString& command);
+    void giveUp(const QString& reason);
 
     QWidget* const window_;
     const Chooser chooser_;
-    QTimer untilThere_; ///< Runs while Sway doesn't have the window yet.
+    QTimer search_; ///< Runs until the window has come up.
     int looks_ = 0;
     qint64 identifier_ = 0; ///< Sway's number of the window.
     std::optional<Surroundings> surroundings_;

@@ -1,12 +1,14 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
 """The panel opens at the icon under Sway, which places windows itself and whose bars tell a click's place in their own
-coordinates."""
+coordinates, and which takes a copy from nobody but the window with the focus."""
 
 import os
 import pathlib
 import shutil
+import subprocess
 import sys
+import time
 import unittest
 
 import sway
@@ -48,6 +50,17 @@ class SwayTest(PlacementCase):
     def test_x11(self):
         self.desktop.start(self.program)
         self.check("xwayland")
+        self.desktop.command("_Copy Information to Clipboard")
+        wait_for("what the icon's menu copied", lambda: "Lunation" in self.desktop.clipboard())
+        wait_for("its window to go", lambda: not self.desktop.windows())
+        subprocess.run(["wl-copy", "other"], env=dict(os.environ, **self.desktop.session), check=True)
+        self.desktop.open_panel()
+        self.assert_at_icon(self.desktop.icon(), self.desktop.rectangle, ROOM[self.desktop.edge])
+        self.desktop.click_control("Menu")
+        time.sleep(0.5)
+        self.desktop.key("Down", "Return")
+        wait_for("what the gear menu copied", lambda: "Lunation" in self.desktop.clipboard())
+        wait_for("the panel to hide", lambda: not self.desktop.windows())
 
     def test_wayland(self):
         self.desktop.start(self.program, environment={"QT_QPA_PLATFORM": "wayland"})

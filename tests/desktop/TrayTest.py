@@ -3,7 +3,10 @@
 """Desktops without a tray, and trays that come late."""
 
 import os
+import pathlib
+import subprocess
 import sys
+import time
 import unittest
 
 from desktop import Desktop, wait_for
@@ -12,32 +15,61 @@ PROGRAM = os.path.abspath(sys.argv.pop(1))
 
 
 class TrayTest(unittest.TestCase):
-    # In the order of their names: the tray comes last.
+    # In the order of their names: the tray comes with the second.
     @classmethod
     def setUpClass(cls):
         cls.desktop = Desktop(tray=False)
         cls.addClassCleanup(cls.desktop.close)
 
-    def setUp(self):
-        self.desktop.start(PROGRAM, tray=False)
-        self.addCleanup(self.desktop.stop)
-        self.desktop.resting(wait_for("the utility window", self.desktop.window))
+    def tearDown(self):
+        self.desktop.stop()
 
-    def test_late_tray_takes_the_program_in(self):
-        self.assertTrue(self.desktop.line("Moon is "))
-        self.desktop.start_panel("bottom")
-        wait_for("the tray item", lambda: len(self.desktop.items()) == 1)
-        wait_for("the window to go", lambda: not self.desktop.window())
-        window = self.desktop.open_panel()
-        panel, icon = self.desktop.extents(window), self.desktop.icon()
+    def test_a_without_a_tray(self):
+        desktop = self.desktop
+        events = pathlib.Path(desktop.home, "events")
+        with events.open("w") as file:
+            listener = subprocess.Popen(["stdbuf", "-oL", "xev", "-root", "-event", "property"], stdout=file)
+        self.addCleanup(listener.kill)
+        desktop.start(PROGRAM, tray=False, environment={"DESKTOP_STARTUP_ID": "moon_TIME1"})
+        # The rest of the start does not wait for the session's tray, the window does.
+        entry = pathlib.Path(desktop.home, "config/autostart")
+        wait_for("the name", lambda: desktop.bus_has("com.corvanta.Lumivane"), 3)
+        wait_for("the login item", lambda: list(entry.glob("*.desktop")), 3)
+        wait_for("the end of the busy pointer", lambda: "_NET_STARTUP_INFO_BEGIN" in events.read_text(), 3)
+        self.assertFalse(desktop.titled("Lumivane"))
+        desktop.resting(wait_for("the utility window", desktop.window))
+        desktop.click_control("Quit")  # nothing would bring it back
+        self.assertEqual(desktop.program.wait(10), 0)
+
+    def test_b_trays_come_and_go(self):
+        desktop = self.desktop
+        desktop.start(PROGRAM, tray=False)
+        wait_for("the utility window", desktop.window)
+        desktop.start_panel("bottom")
+        wait_for("the tray item", lambda: len(desktop.items()) == 1)
+        wait_for("the window to go", lambda: not desktop.window())
+        window = desktop.open_panel()
+        self.assertIn("SKIP_TASKBAR", self.state())
+        panel, icon = desktop.extents(window), desktop.icon()
         self.assertLessEqual(panel.y + panel.height, icon.y)
-        self.assertGreaterEqual(panel.y, 0)
         self.assertLessEqual(panel.x + panel.width, 1280)
+        # Without its tray an open drop-down becomes a window, at the same moment; a hidden one stays hidden.
+        desktop.click_control("Full moon")
+        wait_for("the full moon", lambda: "Moon is full" in desktop.lines())
+        desktop.crash_panel()
+        wait_for("the utility window", lambda: "SKIP" not in self.state())
+        wait_for("the full moon", lambda: "Moon is full" in desktop.lines())
+        desktop.run_panel()
+        wait_for("the window to go", lambda: not desktop.titled("Lumivane"))
+        desktop.crash_panel()
+        time.sleep(5)
+        self.assertFalse(desktop.titled("Lumivane"))
 
-    def test_closing_the_window_ends_the_program(self):
-        # Nothing would bring it back.
-        self.desktop.click_control("Quit")
-        self.assertEqual(self.desktop.program.wait(10), 0)
+    def state(self):
+        """The window's states; while there is no window, one that it has not in the end."""
+        windows = self.desktop.titled("Lumivane")
+        return subprocess.run(["xprop", "-id", windows[0], "_NET_WM_STATE"], capture_output=True,
+                              text=True).stdout if windows else "SKIP"
 
 
 if __name__ == "__main__":

@@ -485,16 +485,30 @@ class Desktop:
         """Whether any window of the program shows this text."""
         return any(node.get_name() == text and self.shows(node) for node in self.walk(self.application("Lumivane")))
 
+    def call_item(self, method, arguments):
+        """What the tray calls of the program's item."""
+        name, _, path = self.items()[0].partition("/")
+        return self.call(name, "/" + path, "org.kde.StatusNotifierItem", method, arguments)
+
+    def call_menu(self, method, arguments):
+        name, _, path = self.items()[0].partition("/")
+        menu = self.property(name, "/" + path, "org.kde.StatusNotifierItem", "Menu")
+        return self.call(name, menu, "com.canonical.dbusmenu", method, arguments).unpack()
+
+    def menu(self):
+        """The items of the tray's menu, each with its number and its properties."""
+        self.call_menu("AboutToShow", GLib.Variant("(i)", (0,)))
+        layout = self.call_menu("GetLayout", GLib.Variant("(iias)", (0, -1, [])))[1]
+        return [item[:2] for item in layout[2] if item[1].get("type") != "separator"]
+
+    def command(self, label):
+        """Chooses a command from the tray's menu."""
+        number = next(number for number, item in self.menu() if item["label"] == label)
+        self.call_menu("Event", GLib.Variant("(isvu)", (number, "clicked", GLib.Variant("s", ""), 0)))
+
     def commands(self):
         """The gear menu's commands as the tray's menu has them, each with its check mark (None without one)."""
-        address = self.items()[0]
-        name, _, path = address.partition("/")
-        menu = self.property(name, "/" + path, "org.kde.StatusNotifierItem", "Menu")
-        self.call(name, menu, "com.canonical.dbusmenu", "AboutToShow", GLib.Variant("(i)", (0,)))
-        layout = self.call(name, menu, "com.canonical.dbusmenu", "GetLayout",
-                           GLib.Variant("(iias)", (0, -1, []))).unpack()[1]
-        items = [item[1] for item in layout[2] if item[1].get("type") != "separator"]
-        return {item["label"].replace("_", ""): item.get("toggle-state") for item in items
+        return {item["label"].replace("_", ""): item.get("toggle-state") for _, item in self.menu()
                 if item["label"] != "_Show Lumivane"}
 
     def choose(self, command):

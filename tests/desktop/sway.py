@@ -13,7 +13,7 @@ import time
 
 from desktop import Desktop, at_rest, rectangle, wait_for
 
-MISSING = [program for program in ("sway", "swaymsg", "waybar", "Xwayland") if not shutil.which(program)]
+MISSING = [program for program in ("sway", "swaymsg", "waybar", "Xwayland", "wl-paste") if not shutil.which(program)]
 SCREEN = (1280, 720)
 BAR = 28
 
@@ -75,6 +75,11 @@ class SwayDesktop(Desktop):
 
     def start(self, program, environment=None, **keywords):
         return super().start(program, environment=dict(self.session, **(environment or {})), **keywords)
+
+    def clipboard(self):
+        """What another program would paste."""
+        return subprocess.run(["wl-paste"], env=dict(os.environ, **self.session), capture_output=True, text=True,
+                              timeout=10).stdout
 
     def windows(self):
         """What Sway tells of the program's windows."""

@@ -5,8 +5,7 @@
 #include "tests/TestMain.h"
 #include "tests/platform/PrivateBus.h"
 
-#include <QDBusConnectionInterface>
-#include <QDBusContext>
+#include <QDBusVirtualObject>
 #include <QMenu>
 
 #include <gtest/gtest.h>
@@ -19,10 +18,11 @@ const QString kItem = QStringLiteral("org.kde.StatusNotifierItem");
 const QString kItemPath = QStringLiteral("/StatusNotifierItem");
 
 /// A panel: watcher and host in one, on a connection of its own.
-class FakePanel : public QObject, protected QDBusContext {
+class FakePanel : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.kde.StatusNotifierWatcher")
     Q_PROPERTY(bool IsStatusNotifierHostRegistered READ hasHost)
+    Q_PROPERTY(QStringList RegisteredStatusNotifierItems READ listed)
 
 public:
     explicit FakePanel(const QDBusConnection& connection, bool withHost = true)
@@ -36,6 +36,7 @@ public:
     }
 
     bool hasHost() const { return host; }
+    QStringList listed() const { return drops ? QStringList() : QStringList{items.value(0) + form}; }
     void setHost(bool there) {
         host = there;
         there ? Q_EMIT StatusNotifierHostRegistered() : Q_EMIT StatusNotifierHostUnregistered();
@@ -54,21 +55,18 @@ public:
 
     QDBusConnection bus;
     bool host;
-    bool refuses = false;
+    bool drops = false;
+    QString form; ///< what its list has behind an item's name
     QStringList items;
 
 public Q_SLOTS:
-    Q_SCRIPTABLE void RegisterStatusNotifierItem(const QString& service) {
-        if (refuses)
-            sendErrorReply(QDBusError::AccessDenied, QStringLiteral("No room"));
-        else
-            items.append(service);
-    }
+    Q_SCRIPTABLE void RegisterStatusNotifierItem(const QString& service) { items.append(service); }
     void countNewIcon() { ++newIcons; }
 
 Q_SIGNALS:
     Q_SCRIPTABLE void StatusNotifierHostRegistered();
     Q_SCRIPTABLE void StatusNotifierHostUnregistered();
+    Q_SCRIPTABLE void StatusNotifierItemUnregistered(const QString& item);
 
 public:
     int newIcons = 0;
@@ -79,6 +77,18 @@ QImage picture(int size, const QColor& colour) {
     image.fill(colour);
     return image;
 }
+
+/// A watcher that is stopped: it has the name and answers nothing.
+class StoppedWatcher : public QDBusVirtualObject {
+public:
+    using QDBusVirtualObject::QDBusVirtualObject;
+    QString introspect(const QString&) const override { return {}; }
+    bool handleMessage(const QDBusMessage& message, const QDBusConnection&) override {
+        asked = message;
+        return true;
+    }
+    QDBusMessage asked;
+};
 
 class TrayIconTest : public testing::Test {
 protected:
@@ -96,15 +106,9 @@ protected:
         return panel;
     }
 
-    QStringList itemsOnTheBus() {
-        QStringList names = onlooker.interface()->registeredServiceNames().value();
-        names.removeIf([](const QString& name) { return !name.startsWith(kItem + u'-'); });
-        return names;
-    }
-
     PrivateBus bus;
-    QDBusConnection onlooker = bus.connect();
-    TrayIcon item{QStringLiteral("moon"), QStringLiteral("Moon"), bus.connect()};
+    QDBusConnection own = bus.connect();
+    TrayIcon item{QStringLiteral("moon"), QStringLiteral("Moon"), own};
     QList<bool> shown;
     int clicks = 0;
 };
@@ -117,7 +121,7 @@ TEST_F(TrayIconTest, RegistersAndDescribesItself) {
     item.setToolTip(QStringLiteral("Full moon"));
     const auto panel = panelWithItem();
     EXPECT_EQ(shown, QList<bool>{true});
-    EXPECT_EQ(itemsOnTheBus(), panel->items);
+    EXPECT_EQ(panel->items, QStringList{own.baseService()}) << "hosts drop items of well-known names";
 
     const QVariantMap properties = panel->itemProperties();
     EXPECT_EQ(properties.value(QStringLiteral("Category")), QStringLiteral("ApplicationStatus"));
@@ -167,13 +171,10 @@ TEST_F(TrayIconTest, SurvivesTheWatchersRestarts) {
     auto panel = panelWithItem();
     for (int restart = 0; restart < 20; ++restart) {
         panel.reset();
-        settle(onlooker);
-        EXPECT_TRUE(itemsOnTheBus().isEmpty());
         panel = std::make_unique<FakePanel>(bus.connect());
         ASSERT_TRUE(waitFor([&] { return !panel->items.isEmpty(); })) << restart;
-        settle(onlooker);
+        settle(own);
         EXPECT_EQ(panel->items.size(), 1);
-        EXPECT_EQ(itemsOnTheBus(), panel->items);
     }
     EXPECT_EQ(shown, QList<bool>{true});
     panel->callItem("Activate", 20, 10);
@@ -183,32 +184,50 @@ TEST_F(TrayIconTest, SurvivesTheWatchersRestarts) {
 TEST_F(TrayIconTest, WaitsForAHost) {
     FakePanel panel(bus.connect(), false);
     item.setImages({}); // nor does it need a picture to come up
-    settle(onlooker);
-    EXPECT_TRUE(itemsOnTheBus().isEmpty());
+    settle(own);
+    EXPECT_TRUE(panel.items.isEmpty());
     panel.setHost(true);
     ASSERT_TRUE(waitFor([this] { return item.isShown(); }));
     EXPECT_EQ(panel.items.size(), 1);
     panel.setHost(false);
-    EXPECT_TRUE(waitFor([this] { return itemsOnTheBus().isEmpty(); }));
+    EXPECT_TRUE(waitFor([this] { return !item.isShown(); }));
+    EXPECT_EQ(shown, (QList<bool>{true, false}));
 }
 
-TEST_F(TrayIconTest, TellsThatThereIsNoTrayAndThatOneCame) {
+TEST_F(TrayIconTest, AStoppedTrayIsNotWaitedForButTakenWhenItGoesOn) {
+    QDBusConnection connection = bus.connect();
+    StoppedWatcher watcher;
+    connection.registerVirtualObject(kWatcherPath, &watcher);
+    connection.registerService(kWatcher);
     item.setImages({picture(16, Qt::red)});
-    settle(onlooker);
-    EXPECT_TRUE(shown.isEmpty());
-    ASSERT_TRUE(waitFor([this] { return shown == QList<bool>{false}; }));
-    {
-        const FakePanel panel(bus.connect());
-        ASSERT_TRUE(waitFor([this] { return item.isShown(); }));
-    }
-    ASSERT_TRUE(waitFor([this] { return !item.isShown(); }));
-    EXPECT_EQ(shown, (QList<bool>{false, true, false}));
+    ASSERT_TRUE(waitFor([this] { return shown == QList<bool>{false}; }, 3000));
+    connection.send(watcher.asked.createReply(QVariant::fromValue(QDBusVariant(true))));
+    ASSERT_TRUE(
+        waitFor([&] { return watcher.asked.member() == QStringLiteral("RegisterStatusNotifierItem"); }));
+    connection.send(watcher.asked.createReply());
+    EXPECT_TRUE(waitFor([this] { return item.isShown(); }));
+}
 
+TEST_F(TrayIconTest, AHostThatDropsTheItemGetsItAgain) {
+    const auto panel = panelWithItem();
+    panel->drops = true;
+    ASSERT_TRUE(waitFor([&] { return panel->items.size() == 2; })) << "silently";
+    panel->drops = false;
+    panel->form = QStringLiteral("/StatusNotifierItem");
+    letPass(1500);
+    EXPECT_EQ(panel->items.size(), 2) << "it finds itself listed";
+    panel->form = QStringLiteral("@/StatusNotifierItem");
+    Q_EMIT panel->StatusNotifierItemUnregistered(own.baseService() + u'0');
+    Q_EMIT panel->StatusNotifierItemUnregistered(own.baseService() + panel->form);
+    ASSERT_TRUE(waitFor([&] { return panel->items.size() == 3; }));
+    EXPECT_EQ(shown, QList<bool>{true});
+    // Not for ever.
     const CaughtLog log;
-    FakePanel panel(bus.connect());
-    panel.refuses = true;
+    panel->drops = true;
+    Q_EMIT panel->StatusNotifierItemUnregistered(own.baseService());
     ASSERT_TRUE(waitFor([&] { return !log.lines().isEmpty(); }));
-    EXPECT_FALSE(item.isShown());
+    EXPECT_EQ(panel->items.size(), 4);
+    EXPECT_TRUE(waitFor([this] { return !item.isShown(); }));
 }
 
 TEST_F(TrayIconTest, KnowsWhereTheClickWas) {
