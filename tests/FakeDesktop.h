@@ -76,7 +76,7 @@ private:
         }
         writeFile(qEnvironmentVariable("XDG_CONFIG_HOME") + u"/mimeapps.list"_s,
                   u"[Default Applications]\nx-scheme-handler/http=browser.desktop\n"
-                  "x-scheme-handler/https=browser.desktop;\ntext/html=browser.desktop\n"
+                  "x-scheme-handler/https=browser.desktop;\ntext/html=viewer.desktop\n"
                   "x-scheme-handler/mailto=mail.desktop\ntext/plain=viewer.desktop\n"
                   "x-scheme-handler/x-long=%1\nx-scheme-handler/x-gone=gone.desktop;\n"
                   "x-scheme-handler/x-missing=missing.desktop\n"_s.arg(longIdentifier())

@@ -124,6 +124,7 @@ TEST_F(CMoonHelperTest, RiseAndSetLines) {
             CMoonHelper::FormatDataAsString(&calculator, Information::Moon, seconds(gmt(2026, 1, day, 12)));
     EXPECT_EQ(lines.filter(u"Moon: no rise/"_s).size(), 1);
     EXPECT_EQ(lines.filter(u"/no set"_s).size(), 1);
+    EXPECT_TRUE(lines.filter(u"no rise/no set"_s).isEmpty());
     EXPECT_TRUE(lines.filter(u"M/"_s).isEmpty()) << "the user's clock has 24 hours";
 }
 

@@ -120,6 +120,8 @@ TEST_F(Panel, EveryControlMovesPickerSliderAndLines) {
          {std::pair{gmt(1900, 1, 1), firstMoment()}, {gmt(2200, 1, 1), lastMoment()}}) {
         picker->setDateTime(typed);
         expectShown(end);
+        const auto [first, last] = PanelModel::pickerRange();
+        EXPECT_EQ(picker->dateValue(), end == firstMoment() ? first : last);
         press(slider, Qt::Key_Home);
         EXPECT_EQ(gMoon.GetLunation(controller_->model().moment()), gMoon.GetLunation(end));
     }
