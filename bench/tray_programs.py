@@ -10,7 +10,7 @@ import sys
 import time
 
 sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "../tests/desktop"))
-from desktop import Desktop, wait_for  # noqa: E402
+from desktop import Desktop, Gio, GLib, wait_for  # noqa: E402
 
 
 class Screen:
@@ -78,7 +78,6 @@ def memory(pids):
 
 def start(desktop, command):
     """Starts a program; milliseconds until its icon is registered."""
-    Gio, GLib = desktop.gio()
     bus = Gio.bus_get_sync(Gio.BusType.SESSION, None)
     loop = GLib.MainLoop()
     times = []
@@ -104,7 +103,6 @@ def stop(desktop):
 
 def click_to_paint(desktop, screen):
     """Milliseconds from the tray's Activate to the first lines of the panel's text on the screen."""
-    _, GLib = desktop.gio()
     name, _, path = desktop.items()[0].partition("/")
 
     def activate():

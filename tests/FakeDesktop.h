@@ -3,10 +3,10 @@
 
 #include "platform/browser/DefaultApplications.h"
 #include "tests/Interaction.h"
+#include "tests/TestMain.h"
 
 #include <QDir>
 #include <QFile>
-#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -20,97 +20,75 @@ public:
     }
 
     /// A long identifier in another script.
-    static QString longIdentifier() {
-        return QString(70, QLatin1Char('a')) + QStringLiteral("\u6708.desktop");
-    }
+    static QString longIdentifier() { return QString(70, u'a') + u"\u6708.desktop"_s; }
 
     QString program(const QString& name) const { return folder_.filePath(name); }
-    QString entry(const QString& identifier) const { return entries_ + QLatin1Char('/') + identifier; }
+    QString entry(const QString& identifier) const {
+        return qEnvironmentVariable("XDG_DATA_HOME") + u"/applications/"_s + identifier;
+    }
     QString programs() const { return folder_.path(); }
 
     void writeProgram(const QString& name) const {
-        write(program(name), QStringLiteral("#!/bin/sh\n"
-                                            "export PATH=/usr/bin:/bin\n"
-                                            "output=$(readlink /proc/$$/fd/1)\n"
-                                            "cd '%1/starts'\n"
-                                            "{ cut -d' ' -f6 /proc/$$/stat; echo $output; env; } > $$.env\n"
-                                            "printf '%s\\n' \"$@\" > $$.part\n"
-                                            "mv $$.part %2.$$\n")
-                                 .arg(programs(), name));
+        writeFile(program(name), u"#!/bin/sh\n"
+                                 "export PATH=/usr/bin:/bin\n"
+                                 "output=$(readlink /proc/$$/fd/1)\n"
+                                 "cd '%1/starts'\n"
+                                 "{ cut -d' ' -f6 /proc/$$/stat; echo $output; env; } > $$.env\n"
+                                 "printf '%s\\n' \"$@\" > $$.part\n"
+                                 "mv $$.part %2.$$\n"_s.arg(programs(), name)
+                                     .toUtf8());
         QFile::setPermissions(program(name), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     }
 
     /// The arguments of each start of a program since the last call, a line each; waits for the first.
     std::string starts(const char* name) const {
-        const QDir folder(programs() + QStringLiteral("/starts"));
-        const QString prefix = QLatin1String(name) + QLatin1Char('.');
-        const auto files = [&] { return folder.entryList({prefix + QLatin1Char('*')}); };
+        const QDir folder(program(u"starts"_s));
+        const QString prefix = QLatin1String(name) + u'.';
+        const auto files = [&] { return folder.entryList({prefix + u'*'}); };
         waitFor([&] { return !files().isEmpty(); });
         QStringList all;
         for (const QString& file : files()) {
-            all.append(linesOf(folder.filePath(file)).join(QLatin1Char(' ')));
+            all.append(linesOf(folder.filePath(file)).join(u' '));
             QFile::remove(folder.filePath(file));
             lastPid_ = file.mid(prefix.size());
         }
-        return all.join(QLatin1Char('\n')).toStdString();
+        return all.join(u'\n').toStdString();
     }
 
     /// The session, the output and the environment of the start that `starts` found last.
-    QStringList surroundings() const {
-        return linesOf(programs() + QStringLiteral("/starts/%1.env").arg(lastPid_));
-    }
-
-    static void write(const QString& path, const QString& text) {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << path.toStdString();
-        file.write(text.toUtf8());
-    }
+    QStringList surroundings() const { return linesOf(program(u"starts/%1.env"_s.arg(lastPid_))); }
 
 private:
-    FakeDesktop()
-        : entries_(qEnvironmentVariable("XDG_DATA_HOME") + QStringLiteral("/applications")),
-          folder_(QDir::tempPath() + QStringLiteral("/moon $HOME XXXXXX")) {
-        QDir().mkpath(entries_);
-        QDir(programs()).mkpath(QStringLiteral("starts"));
-        const QString config = qEnvironmentVariable("XDG_CONFIG_HOME");
-        QDir().mkpath(config);
-        for (const char* name : {"browser", "mail", "viewer", "long"})
-            writeProgram(QString::fromLatin1(name));
-        writeEntry(QStringLiteral("browser.desktop"), QStringLiteral("Test Browser"),
-                   QStringLiteral("browser"));
-        writeEntry(QStringLiteral("mail.desktop"), QStringLiteral("Test Mail"), QStringLiteral("mail"));
-        writeEntry(QStringLiteral("viewer.desktop"), QStringLiteral("Test Viewer"), QStringLiteral("viewer"));
-        writeEntry(longIdentifier(), QStringLiteral("\u6708"), QStringLiteral("long"));
-        writeEntry(QStringLiteral("gone.desktop"), QStringLiteral("Gone"), QStringLiteral("gone"));
-        write(config + QStringLiteral("/mimeapps.list"),
-              QStringLiteral("[Default Applications]\nx-scheme-handler/http=browser.desktop\n"
-                             "x-scheme-handler/https=browser.desktop;\ntext/html=browser.desktop\n"
-                             "x-scheme-handler/mailto=mail.desktop\ntext/plain=viewer.desktop\n"
-                             "x-scheme-handler/x-long=%1\nx-scheme-handler/x-gone=gone.desktop;\n"
-                             "x-scheme-handler/x-missing=missing.desktop\n")
-                  .arg(longIdentifier()));
+    FakeDesktop() : folder_(QDir::tempPath() + u"/moon $HOME XXXXXX"_s) {
+        QDir(programs()).mkpath(u"starts"_s);
+        using Row = std::tuple<QString, QString>;
+        for (const auto& [name, identifier] :
+             {Row{u"browser"_s, u"browser.desktop"_s}, Row{u"mail"_s, u"mail.desktop"_s},
+              Row{u"viewer"_s, u"viewer.desktop"_s}, Row{u"long"_s, longIdentifier()},
+              Row{u"gone"_s, u"gone.desktop"_s}}) {
+            if (name != u"gone")
+                writeProgram(name);
+            const QString quoted = program(name).replace(u'%', u"%%"_s).replace(u'$', u"\\\\$"_s);
+            writeFile(
+                entry(identifier),
+                u"[Desktop Entry]\nType=Application\nName=%1\nExec=\"%2\" --page %u\n"_s.arg(name, quoted)
+                    .toUtf8());
+        }
+        writeFile(qEnvironmentVariable("XDG_CONFIG_HOME") + u"/mimeapps.list"_s,
+                  u"[Default Applications]\nx-scheme-handler/http=browser.desktop\n"
+                  "x-scheme-handler/https=browser.desktop;\ntext/html=viewer.desktop\n"
+                  "x-scheme-handler/mailto=mail.desktop\ntext/plain=viewer.desktop\n"
+                  "x-scheme-handler/x-long=%1\nx-scheme-handler/x-gone=gone.desktop;\n"
+                  "x-scheme-handler/x-missing=missing.desktop\n"_s.arg(longIdentifier())
+                      .toUtf8());
         // Where an earlier test has made GIO look already, it takes a moment to see what is new.
-        EXPECT_TRUE(
-            waitFor([] { return DefaultApplications::forScheme(QStringLiteral("mailto")).has_value(); }));
-    }
-
-    void writeEntry(const QString& identifier, const QString& name, const QString& script) const {
-        QString quoted = program(script);
-        quoted.replace(QLatin1Char('%'), QStringLiteral("%%"))
-            .replace(QLatin1Char('$'), QStringLiteral("\\\\$"));
-        write(entry(identifier), QStringLiteral("[Desktop Entry]\nType=Application\nName=%1\n"
-                                                "Name[de]=Deutscher Name\nExec=\"%2\" --page %u\n")
-                                     .arg(name, quoted));
+        EXPECT_TRUE(waitFor([] { return DefaultApplications::forScheme(u"mailto"_s).has_value(); }));
     }
 
     static QStringList linesOf(const QString& path) {
-        QFile file(path);
-        if (!file.open(QIODevice::ReadOnly))
-            return {};
-        return QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+        return QString::fromUtf8(readFile(path)).split(u'\n', Qt::SkipEmptyParts);
     }
 
-    QString entries_;
     QTemporaryDir folder_;
     mutable QString lastPid_;
 };

@@ -36,3 +36,14 @@ inline void press(QPointer<QWidget> widget, int key, const QString& text = {}) {
             QApplication::sendEvent(widget, &event);
     }
 }
+
+/// The windows of a kind that are on the screen.
+template <typename T>
+QList<T*> shownWindows() {
+    QList<T*> shown;
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        if (auto* window = qobject_cast<T*>(widget); window && window->isVisible())
+            shown.append(window);
+    }
+    return shown;
+}

@@ -1,16 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "tests/TestMain.h"
 
+#include <QDir>
+#include <QFile>
+
 namespace {
 QStringList caught;
-}
-
-InZone::InZone(const char* name) : before_(qgetenv("TZ")) {
-    qputenv("TZ", name);
-}
-
-InZone::~InZone() {
-    before_.isNull() ? qunsetenv("TZ") : qputenv("TZ", before_);
 }
 
 WithEnvironment::WithEnvironment(const char* name, const QByteArray& value)
@@ -34,6 +29,20 @@ CaughtLog::~CaughtLog() {
 
 QStringList CaughtLog::lines() const {
     return caught;
+}
+
+void writeFile(const QString& path, const QByteArray& bytes) {
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+        qFatal("%s can't be written", qPrintable(path));
+}
+
+QByteArray readFile(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("%s can't be read", qPrintable(path));
+    return file.readAll();
 }
 
 QDateTime gmt(int year, int month, int day, int hour, int minute, int second) {

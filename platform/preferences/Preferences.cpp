@@ -214,10 +214,6 @@ bool Preferences::boolForKey(const QString& name) const {
     return read<bool>(name, {}, false);
 }
 
-QString Preferences::stringForKey(const QString& name) const {
-    return read<QString>(name, {}, {});
-}
-
 void Preferences::setInteger(int value, const QString& name) {
     store(name, value);
 }
@@ -227,10 +223,6 @@ void Preferences::setFloat(float value, const QString& name) {
 }
 
 void Preferences::setBool(bool value, const QString& name) {
-    store(name, value);
-}
-
-void Preferences::setObject(const QString& value, const QString& name) {
     store(name, value);
 }
 
@@ -250,7 +242,7 @@ void Preferences::store(const QString& name, const QVariant& value) {
         Q_EMIT valueChanged(name);
 }
 
-void Preferences::removeObjectForKey(const QString& name) {
+void Preferences::forget(const QString& name) {
     const QString before = answer(name).toString();
     prepareFile();
     settings_->remove(name);

@@ -45,22 +45,19 @@ public:
     /// Forgets the user's value, so that the default answers again.
     template <typename T>
     void remove(const PreferenceKey<T>& key) {
-        removeObjectForKey(key.name);
+        forget(key.name);
     }
 
     // The same by name, for controls that a layout binds to a preference. The default of a name that is not
-    // registered is 0, false or an empty string, and its range all numbers.
+    // registered is 0 or false, and its range all numbers.
 
     PreferenceRange rangeForKey(const QString& name) const { return ranges_.value(name); }
     int integerForKey(const QString& name) const;
     float floatForKey(const QString& name) const;
     bool boolForKey(const QString& name) const;
-    QString stringForKey(const QString& name) const;
     void setInteger(int value, const QString& name);
     void setFloat(float value, const QString& name);
     void setBool(bool value, const QString& name);
-    void setObject(const QString& value, const QString& name);
-    void removeObjectForKey(const QString& name);
 
     /// Writes what is pending to disk, atomically, as happens by itself soon after each change; false when
     /// the disk refuses, with a log line the first time. What it refused goes with the next change or at the
@@ -75,6 +72,7 @@ private:
     void synchronizeLater();
     QVariant answer(const QString& name) const;
     void store(const QString& name, const QVariant& value);
+    void forget(const QString& name);
     void openFile(const QString& path);
     void prepareFile();
     template <typename T>

@@ -11,7 +11,7 @@ import tempfile
 import time
 import unittest
 
-from desktop import FAKETIME, Desktop, wait_for
+from desktop import FAKETIME, Desktop, output, wait_for
 
 PROGRAM = os.path.abspath(sys.argv.pop(1))
 RESOURCES = pathlib.Path(PROGRAM).parent.parent / "share/lumivane"
@@ -43,18 +43,9 @@ class PanelTest(unittest.TestCase):
                      "12/16/09, 12:03 PM", "12/31/09, 7:13 PM"):
             self.assertIn(line, lines)
         self.assertRegex(self.desktop.line("3d "), r"^3d 23h 5[67]m since new moon$")
-        # The pixels of a blue lunation are blue, those of another one grey.
-        self.desktop.picture(self.folder + "/blue.png")
-        self.assertGreater(self.blueness("blue.png"), 0.1)
-
-    def blueness(self, name):
-        return float(subprocess.run(
-            ["convert", os.path.join(self.folder, name), "-format", "%[fx:mean.b-mean.r]", "info:"],
-            check=True, capture_output=True, text=True).stdout)
 
     def test_second_click_hides(self):
         self.show(None)
-        self.assertTrue(self.desktop.line("Moon is "))
         age = self.desktop.line("Lunation")
         # Lunation 1284 begins on 2026-10-10; each lasts 29.53 days.
         expected = 1284 + int((time.time() - 1791647400) / 86400 / 29.530588)
@@ -68,30 +59,12 @@ class PanelTest(unittest.TestCase):
     def test_the_icon_follows_the_clock(self):
         # 300 seconds of the program's take two and a half.
         self.desktop.start(PROGRAM, environment={"LD_PRELOAD": FAKETIME, "FAKETIME": "@2009-12-20 12:00:00 x120"})
-        name, _, path = self.desktop.items()[0].partition("/")
 
         def tip():
-            return self.desktop.property(name, "/" + path, "org.kde.StatusNotifierItem", "ToolTip")
+            return self.desktop.item_property("ToolTip")
         first = tip()
         self.assertIn("Moon is a waxing crescent", str(first))
         wait_for("another share of light", lambda: tip() != first)
-
-    def test_southern_hemisphere_turns_the_picture(self):
-        self.show("2024-05-15 12:00:00", "Europe/London")
-        self.desktop.picture(self.folder + "/north.png")
-        self.desktop.stop()
-        self.show("2024-05-15 21:00:00", "Australia/Sydney")
-        self.desktop.picture(self.folder + "/south.png")
-
-        def difference(turned):
-            result = subprocess.run(
-                ["compare", "-metric", "RMSE", self.folder + "/" + turned, self.folder + "/south.png", "null:"],
-                capture_output=True, text=True)
-            return float(result.stderr.split("(")[1].rstrip(")"))
-        subprocess.run(["convert", self.folder + "/north.png", "-rotate", "180", self.folder + "/turned.png"],
-                       check=True)
-        self.assertLess(difference("turned.png"), 0.02)
-        self.assertGreater(difference("north.png"), 0.05)
 
     def test_broken_surroundings(self):
         broken = pathlib.Path(self.folder, "share")
@@ -123,13 +96,15 @@ class PanelTest(unittest.TestCase):
         shutil.copytree(RESOURCES, moved)
         self.show(None, environment={"LUMIVANE_RESOURCES": str(moved)})
         (moved / "LumivaneWindow.ui").unlink()
-        alerts = ["xdotool", "search", "--onlyvisible", "--pid", str(self.desktop.program.pid)]
+
+        def alerts():
+            return output("xdotool", "search", "--onlyvisible", "--pid", str(self.desktop.program.pid))
         self.desktop.click_icon()  # puts this panel away and makes the next
         wait_for("the alert", self.desktop.dialog)
-        before = subprocess.run(alerts, capture_output=True).stdout
+        before = alerts()
         self.desktop.click_icon()
         time.sleep(0.5)
-        self.assertEqual(subprocess.run(alerts, capture_output=True).stdout, before, "one alert, not a stack of them")
+        self.assertEqual(alerts(), before, "one alert, not a stack of them")
         self.assertEqual(self.desktop.logged().count("Can't load window"), 1)
         self.desktop.key("Return")
         self.assertEqual(self.desktop.program.wait(10), 1)

@@ -4,48 +4,33 @@
 Xvfb, a D-Bus session, openbox and xfce4-panel; the pointer and the keys through xdotool; what the panel shows is
 read through the accessibility bus."""
 
-import configparser
 import os
 import pathlib
 import re
 import shutil
 import signal
 import subprocess
-import sys
 import tempfile
 import time
 import types
 
-from gi.repository import GLib
+import gi
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi, Gio, GLib  # noqa: E402
 
 PANEL_CONFIG = """<?xml version="1.0" encoding="UTF-8"?>
-<channel name="xfce4-panel" version="1.0">
-  <property name="configver" type="int" value="2"/>
-  <property name="panels" type="array">
-    <value type="int" value="1"/>
-    <property name="dark-mode" type="bool" value="true"/>
-    <property name="panel-1" type="empty">
-      <property name="mode" type="uint" value="{mode}"/>
-      <property name="position" type="string" value="{position}"/>
-      <property name="length" type="uint" value="100"/>
-      <property name="position-locked" type="bool" value="true"/>
-      <property name="size" type="uint" value="28"/>
-      <property name="plugin-ids" type="array">
-        <value type="int" value="1"/><value type="int" value="2"/><value type="int" value="3"/>
-      </property>
-    </property>
-  </property>
-  <property name="plugins" type="empty">
-    <property name="plugin-1" type="string" value="separator">
-      <property name="expand" type="bool" value="true"/><property name="style" type="uint" value="0"/>
-    </property>
-    <property name="plugin-2" type="string" value="systray">
-      <property name="square-icons" type="bool" value="true"/>
-      <property name="known-items" type="array"><value type="string" value="lumivane"/></property>
-    </property>
-    <property name="plugin-3" type="string" value="clock"/>
-  </property>
-</channel>
+<channel name="xfce4-panel" version="1.0"><property name="configver" type="int" value="2"/>
+<property name="panels" type="array"><value type="int" value="1"/><property name="dark-mode" type="bool" value="true"/>
+<property name="panel-1" type="empty"><property name="mode" type="uint" value="{mode}"/>
+<property name="position" type="string" value="{position}"/><property name="length" type="uint" value="100"/>
+<property name="position-locked" type="bool" value="true"/><property name="size" type="uint" value="28"/>
+<property name="plugin-ids" type="array"><value type="int" value="1"/><value type="int" value="2"/>
+<value type="int" value="3"/></property></property></property>
+<property name="plugins" type="empty"><property name="plugin-1" type="string" value="separator">
+<property name="expand" type="bool" value="true"/><property name="style" type="uint" value="0"/></property>
+<property name="plugin-2" type="string" value="systray"><property name="square-icons" type="bool" value="true"/>
+<property name="known-items" type="array"><value type="string" value="lumivane"/></property></property>
+<property name="plugin-3" type="string" value="clock"/></property></channel>
 """
 
 # Of a panel at each edge: 1 for one that stands upright, and its place in a screen of 1280 by 800.
@@ -84,13 +69,18 @@ def rectangle(x, y, width, height):
     return types.SimpleNamespace(x=x, y=y, width=width, height=height)
 
 
+def output(*command):
+    return subprocess.run(command, capture_output=True, text=True).stdout
+
+
 class Desktop:
     """One virtual desktop, for the life of the process."""
 
-    def __init__(self, size="1280x800", panel="top", tray=True, scale=None):
+    def __init__(self, size="1280x800", panel="top", tray=True):
         self.home = tempfile.mkdtemp(prefix="lumivane-desktop-")
         self.children = []
         self.program = None
+        self.listens = False
         runtime = os.path.join(self.home, "runtime")
         os.mkdir(runtime, 0o700)
         os.environ.update(
@@ -101,15 +91,20 @@ class Desktop:
         for name in ("WAYLAND_DISPLAY", "LANGUAGE", "LD_PRELOAD", "TZ", "LUMIVANE_CONFIG_HOME"):
             os.environ.pop(name, None)
         try:
-            self.start_screen(size)
-            self.start_bus()
+            # When its first client leaves before the second has come, a server that resets drops that one.
+            os.environ["DISPLAY"] = ":" + self.spawn_server(
+                "Xvfb", "-displayfd", "{}", "-screen", "0", size + "x24", "-nolisten", "tcp", "-noreset")
+            os.environ["DBUS_SESSION_BUS_ADDRESS"] = self.spawn_server(
+                "dbus-daemon", "--session", "--nofork", "--print-address={}")
             self.start_session(panel if tray else None)
         except BaseException:
             self.close()
             raise
 
     def start_session(self, edge):
-        self.start_window_manager()
+        # A panel that maps its window while the window manager starts stays off the screen.
+        self.spawn(["openbox"])
+        wait_for("the window manager", lambda: "window id" in output("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"))
         if edge:
             self.start_panel(edge)
 
@@ -118,51 +113,29 @@ class Desktop:
         self.children.append(child)
         return child
 
-    def start_screen(self, size):
+    def spawn_server(self, *command):
+        """Starts a server; the address that it writes to the descriptor in the place of {}."""
         reader, writer = os.pipe()
-        # When its first client leaves before the second has come, a server that resets drops that one.
-        self.spawn(["Xvfb", "-displayfd", str(writer), "-screen", "0", size + "x24", "-nolisten", "tcp", "-noreset"],
-                   pass_fds=[writer])
+        self.spawn([argument.format(writer) for argument in command], pass_fds=[writer])
         os.close(writer)
         with os.fdopen(reader) as answer:
-            os.environ["DISPLAY"] = ":" + answer.readline().strip()
-
-    def start_bus(self):
-        reader, writer = os.pipe()
-        self.spawn(["dbus-daemon", "--session", "--nofork", "--print-address=" + str(writer)], pass_fds=[writer])
-        os.close(writer)
-        with os.fdopen(reader) as answer:
-            os.environ["DBUS_SESSION_BUS_ADDRESS"] = answer.readline().strip()
-
-    def start_window_manager(self):
-        # A panel that maps its window while this one starts stays off the screen.
-        self.spawn(["openbox"])
-        wait_for("the window manager", lambda: "window id" in subprocess.run(
-            ["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], capture_output=True, text=True).stdout)
+            return answer.readline().strip()
 
     def start_panel(self, edge):
         folder = pathlib.Path(self.home, "config/xfce4/xfconf/xfce-perchannel-xml")
         folder.mkdir(parents=True, exist_ok=True)
         mode, position = EDGES[edge]
         (folder / "xfce4-panel.xml").write_text(PANEL_CONFIG.format(mode=mode, position=position))
-        self.run_panel()
-
-    def run_panel(self):
         # Even so, on a busy machine, its window now and then stays away; another try brings it up.
         for _ in range(3):
             self.panel = self.spawn(["xfce4-panel", "--disable-wm-check"])
             wait_for("the tray", lambda: self.bus_has("org.kde.StatusNotifierWatcher"), 30)
-            if self.panel_is_up():
-                return
-            self.crash_panel()
+            try:
+                return wait_for("the panel's window", lambda: output(
+                    "xdotool", "search", "--onlyvisible", "--class", "xfce4-panel"), 4)
+            except AssertionError:
+                self.crash_panel()
         raise AssertionError("the panel stays off the screen")
-
-    def panel_is_up(self):
-        try:
-            return wait_for("the panel's window", lambda: subprocess.run(
-                ["xdotool", "search", "--onlyvisible", "--class", "xfce4-panel"], capture_output=True).stdout, 4)
-        except AssertionError:
-            return False
 
     def crash_panel(self):
         """Ends the panel without a chance to say so, and with it the tray in it."""
@@ -178,14 +151,7 @@ class Desktop:
             subprocess.run(["xfconf-query", "-c", "xfce4-panel", "-p", "/panels/panel-1/" + key,
                             "-n", "-t", kind, "-s", str(value)], check=True)
 
-    def gio(self):
-        import gi
-        gi.require_version("Gio", "2.0")
-        from gi.repository import Gio, GLib
-        return Gio, GLib
-
     def call(self, name, path, interface, method, arguments=None):
-        Gio, _ = self.gio()
         bus = Gio.bus_get_sync(Gio.BusType.SESSION, None)
         return bus.call_sync(name, path, interface, method, arguments, None, Gio.DBusCallFlags.NONE, 5000, None)
 
@@ -201,6 +167,10 @@ class Desktop:
         """The addresses of the tray's items."""
         return self.property("org.kde.StatusNotifierWatcher", "/StatusNotifierWatcher",
                              "org.kde.StatusNotifierWatcher", "RegisteredStatusNotifierItems")
+
+    def item_property(self, key):
+        name, _, path = self.items()[0].partition("/")
+        return name, self.property(name, "/" + path, "org.kde.StatusNotifierItem", key)
 
     # The program
 
@@ -234,31 +204,28 @@ class Desktop:
             return None
         if self.program.poll() is None:
             self.program.terminate()
-        try:
-            status = self.program.wait(10)
-        except subprocess.TimeoutExpired:
-            self.program.kill()
-            status = self.program.wait()
+        status = self.wait_or_kill(self.program, 10)
         self.program = None
         # A click on what is left of it would go nowhere.
         wait_for("the icon to go", lambda: not self.find_icon())
         return status
 
+    def wait_or_kill(self, process, seconds):
+        try:
+            return process.wait(seconds)
+        except subprocess.TimeoutExpired:
+            process.kill()
+            return process.wait()
+
     def close(self):
         try:
             self.stop()
         finally:
-            self.close_session()
-
-    def close_session(self):
-        for child in reversed(self.children):
-            child.send_signal(signal.SIGTERM)
-        for child in self.children:
-            try:
-                child.wait(5)
-            except subprocess.TimeoutExpired:
-                child.kill()
-        shutil.rmtree(self.home, ignore_errors=True)
+            for child in reversed(self.children):
+                child.send_signal(signal.SIGTERM)
+            for child in self.children:
+                self.wait_or_kill(child, 5)
+            shutil.rmtree(self.home, ignore_errors=True)
 
     # A person's hands
 
@@ -280,34 +247,26 @@ class Desktop:
         self.click(box.x + 8, box.y + box.height // 2)
 
     def clipboard(self, target="UTF8_STRING"):
-        return subprocess.run(["xclip", "-selection", "clipboard", "-o", "-t", target], check=True,
-                              capture_output=True, timeout=10).stdout.decode()
+        return output("xclip", "-selection", "clipboard", "-o", "-t", target)
 
-    # What the program stores and opens
-
-    def preferences(self):
-        """What the user's preference file holds now."""
-        parser = configparser.ConfigParser(interpolation=None)
-        parser.optionxform = str
-        parser.read(os.path.join(self.home, "config/lumivane/lumivane.conf"))
-        return dict(parser["General"]) if "General" in parser else {}
+    # What the program opens and shows
 
     def install_browser(self):
         """A browser for web pages that only notes what it is to open."""
-        self.opened_pages = pathlib.Path(self.home, "opened")
-        browser = pathlib.Path(self.home, "browser")
-        browser.write_text('#!/bin/sh\necho "$@" >> "%s"\n' % self.opened_pages)
-        browser.chmod(0o755)
-        entry = pathlib.Path(self.home, "data/applications/browser.desktop")
-        entry.parent.mkdir(parents=True)
-        entry.write_text("[Desktop Entry]\nType=Application\nName=Browser\nExec=%s %%u\n" % browser)
-        scheme = "x-scheme-handler/https=browser.desktop\n"
-        pathlib.Path(self.home, "config/mimeapps.list").write_text("[Default Applications]\n" + scheme)
+        home = pathlib.Path(self.home)
+        (home / "data/applications").mkdir(parents=True)
+        (home / "browser").write_text('#!/bin/sh\necho "$@" >> "%s/opened"\n' % home)
+        (home / "browser").chmod(0o755)
+        (home / "data/applications/browser.desktop").write_text(
+            "[Desktop Entry]\nType=Application\nName=Browser\nExec=%s/browser %%u\n" % home)
+        (home / "config/mimeapps.list").write_text(
+            "[Default Applications]\nx-scheme-handler/https=browser.desktop\n")
 
     def opened(self):
         """The page that was opened since the last call."""
-        page = wait_for("the page", lambda: self.opened_pages.exists() and self.opened_pages.read_text()).strip()
-        self.opened_pages.unlink()
+        opened = pathlib.Path(self.home, "opened")
+        page = wait_for("the page", lambda: opened.exists() and opened.read_text()).strip()
+        opened.unlink()
         return page
 
     def screenshot(self, path):
@@ -315,57 +274,19 @@ class Desktop:
 
     def titled(self, name):
         """The X windows of that title which are on the screen."""
-        return subprocess.run(["xdotool", "search", "--onlyvisible", "--name", "^" + name + "$"],
-                              capture_output=True, text=True).stdout.split()
+        return output("xdotool", "search", "--onlyvisible", "--name", "^" + name + "$").split()
 
     def rectangle(self, name="Lumivane"):
         """Where the X window of that title is, in the screen's pixels."""
-        window = wait_for("the window", lambda: self.titled(name))[0]
-        shown = subprocess.run(["xwininfo", "-id", window], check=True, capture_output=True, text=True).stdout
+        shown = output("xwininfo", "-id", wait_for("the window", lambda: self.titled(name))[0])
         return rectangle(*(int(re.search(key + r":\s+(-?\d+)", shown).group(1))
                            for key in ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height")))
 
-    # What a screen reader hears
-
-    def atspi(self):
-        import gi
-        gi.require_version("Atspi", "2.0")
-        from gi.repository import Atspi
-        if not hasattr(self, "_atspi"):
-            Atspi.init()
-            Atspi.set_timeout(4000, 4000)
-            self._atspi = Atspi
-        # What changed since is heard of only here.
-        while GLib.MainContext.default().iteration(False):
-            pass
-        return Atspi
-
-    def application(self, name):
-        desktop = self.atspi().get_desktop(0)
-        desktop.clear_cache()
-        for index in range(desktop.get_child_count()):
-            child = desktop.get_child_at_index(index)
-            if child and child.get_name() == name:
-                return child
-        return None
-
-    def walk(self, node):
-        if node is None:
-            return
-        node.clear_cache()  # what was told once may be old: nobody here listens to changes
-        yield node
-        for index in range(node.get_child_count()):
-            yield from self.walk(node.get_child_at_index(index))
-
-    def extents(self, node):
-        Atspi = self.atspi()
-        return Atspi.Component.get_extents(node, Atspi.CoordType.SCREEN)
-
     def find_icon(self):
         """The rectangle of the tray inside the panel while there is one icon in it, and nothing else."""
-        tree = subprocess.run(["xwininfo", "-root", "-tree"], capture_output=True, text=True).stdout
         # Tool tips and menus of the same program are children of the screen, and so no deeper in the tree than that.
-        for place in re.findall(r'^ {6,}.*"Wrapper-2.0"\)\s+(\d+)x(\d+)\S+\s+\+(-?\d+)\+(-?\d+)', tree, re.MULTILINE):
+        for place in re.findall(r'^ {6,}.*"Wrapper-2.0"\)\s+(\d+)x(\d+)\S+\s+\+(-?\d+)\+(-?\d+)',
+                                output("xwininfo", "-root", "-tree"), re.MULTILINE):
             width, height, x, y = map(int, place)
             if min(width, height) >= 20 and max(width, height) < 40:
                 return rectangle(x, y, width, height)
@@ -379,43 +300,60 @@ class Desktop:
         icon = self.icon()
         self.click(icon.x + icon.width // 2, icon.y + icon.height // 2, button)
 
+    # What a screen reader hears
+
+    def application(self, name):
+        if not self.listens:
+            Atspi.init()
+            Atspi.set_timeout(4000, 4000)
+            self.listens = True
+        desktop = Atspi.get_desktop(0)
+        desktop.clear_cache()
+        return next((child for child in self.children_of(desktop) if child.get_name() == name), None)
+
+    def children_of(self, node):
+        for index in range(node.get_child_count() if node else 0):
+            child = node.get_child_at_index(index)
+            if child:
+                yield child
+
+    def walk(self, node):
+        if node:
+            node.clear_cache()  # what was told once may be old: nobody here listens to changes
+            yield node
+            for child in self.children_of(node):
+                yield from self.walk(child)
+
+    def extents(self, node):
+        return Atspi.Component.get_extents(node, Atspi.CoordType.SCREEN)
+
+    def has_state(self, node, state):
+        while GLib.MainContext.default().iteration(False):  # what changed since is heard of only here
+            pass
+        return node.get_state_set().contains(state)
+
+    def shows(self, node):
+        return self.has_state(node, Atspi.StateType.SHOWING)
+
     def window(self, name="Lumivane"):
         """The program's window of that title, or nothing while there is none on the screen."""
-        application = self.application("Lumivane")
-        for index in range(application.get_child_count() if application else 0):
-            child = application.get_child_at_index(index)
-            if child and child.get_name() == name and self.shows(child):
-                return child
-        return None
+        return next((child for child in self.children_of(self.application("Lumivane"))
+                     if child.get_name() == name and self.shows(child)), None)
 
     def dialog(self):
         """The dialog that is open and takes the keys, or nothing."""
-        active = self.atspi().StateType.ACTIVE
-        application = self.application("Lumivane")
-        for index in range(application.get_child_count() if application else 0):
-            child = application.get_child_at_index(index)
-            if child and child.get_role_name() in ("dialog", "alert") and self.shows(child) and (
-                    child.get_state_set().contains(active)):
-                return child
-        return None
+        return next((child for child in self.children_of(self.application("Lumivane"))
+                     if child.get_role_name() in ("dialog", "alert") and self.shows(child)
+                     and self.has_state(child, Atspi.StateType.ACTIVE)), None)
 
     def text(self, node):
         """What an editable field holds."""
-        return self.atspi().Text.get_text(node, 0, -1)
+        return Atspi.Text.get_text(node, 0, -1)
 
     def focus(self, node):
         """Gives a control the keyboard's focus as assistive programs do."""
-        self.atspi().Component.grab_focus(node)
-        wait_for("the focus", lambda: node.get_state_set().contains(self.atspi().StateType.FOCUSED))
-
-    def focused(self):
-        """The control of the panel that has the keyboard's focus."""
-        focused = self.atspi().StateType.FOCUSED
-        return next((node for node in self.walk(self.window()) if node.get_state_set().contains(focused)
-                     and node.get_role_name() != "list item"), None)
-
-    def shows(self, node):
-        return node.get_state_set().contains(self.atspi().StateType.SHOWING)
+        Atspi.Component.grab_focus(node)
+        wait_for("the focus", lambda: self.has_state(node, Atspi.StateType.FOCUSED))
 
     def open_panel(self):
         """Clicks the icon and waits for the panel."""
@@ -425,8 +363,7 @@ class Desktop:
     def open_popup(self, click):
         """Makes a click that opens a menu or a list, and waits until it is there to take keys."""
         def windows():
-            return set(subprocess.run(["xdotool", "search", "--onlyvisible", "--class", "^Lumivane$"],
-                                      capture_output=True, text=True).stdout.split())
+            return set(output("xdotool", "search", "--onlyvisible", "--class", "^Lumivane$").split())
         before = windows()
         click()
         wait_for("the popup", lambda: windows() - before)
@@ -448,10 +385,9 @@ class Desktop:
 
     def find(self, name, root=None):
         """The control of that accessible name."""
-        for node in self.walk(root or self.window()):
-            if node.get_name() == name:
-                return node
-        raise AssertionError("no control " + name)
+        found = next((node for node in self.walk(root or self.window()) if node.get_name() == name), None)
+        assert found, "no control " + name
+        return found
 
     def click_control(self, name, root=None):
         box = self.resting(self.find(name, root))
@@ -476,8 +412,7 @@ class Desktop:
         def painted():
             subprocess.run(["import", "-window", "root", "-crop",
                             "%dx%d+%d+%d" % (side, side, x, box.y), "+repage", path], check=True)
-            return subprocess.run(["convert", path, "-format", "%k", "info:"], check=True,
-                                  capture_output=True).stdout != b"1"
+            return output("convert", path, "-format", "%k", "info:") != "1"
         # A window is there before it is painted.
         wait_for("more than one colour", painted)
 

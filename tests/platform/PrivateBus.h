@@ -26,8 +26,9 @@ public:
         daemon_.waitForFinished();
     }
 
-    PrivateBus(const PrivateBus&) = delete;
-    PrivateBus& operator=(const PrivateBus&) = delete;
+    Q_DISABLE_COPY(PrivateBus)
+
+    QString address() const { return address_; }
 
     QDBusConnection connect() {
         static int count = 0;

@@ -7,6 +7,7 @@
 #include "platform/bundle/Bundle.h"
 #include "platform/richtext/RTFReader.h"
 #include "platform/updates/UpdateAlert.h"
+#include "tests/TestMain.h"
 
 #include <QDialog>
 #include <QDir>
@@ -28,17 +29,11 @@ namespace {
 
 const QString kRoot = QStringLiteral(TESTS_SOURCE_DIR "/..");
 
-struct Message {
-    QString translation;
-    bool unfinished;
-};
-
-/// The messages of a .ts file by their source texts.
-QMap<QString, Message> messagesIn(const QString& path) {
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(path);
-    QXmlStreamReader xml(&file);
-    QMap<QString, Message> messages;
+/// The translations in a .ts file by their source texts; unfinished ones are empty.
+QMap<QString, QString> messagesIn(const QString& path) {
+    const QByteArray bytes = readFile(path);
+    QXmlStreamReader xml(bytes);
+    QMap<QString, QString> messages;
     QString source;
     bool hasForms = false;
     while (!xml.atEnd()) {
@@ -49,10 +44,10 @@ QMap<QString, Message> messagesIn(const QString& path) {
         } else if (xml.name() == u"source") {
             source = xml.readElementText();
         } else if (xml.name() == u"translation") {
-            const bool unfinished = xml.attributes().hasAttribute(QLatin1String("type"));
-            messages.insert(source, {hasForms ? QString() : xml.readElementText(), unfinished});
+            const bool isMissing = hasForms || xml.attributes().hasAttribute(u"type"_s);
+            messages.insert(source, isMissing ? QString() : xml.readElementText());
         } else if (xml.name() == u"numerusform") {
-            messages[source].translation += xml.readElementText();
+            messages[source] += xml.readElementText();
         }
     }
     EXPECT_FALSE(xml.hasError()) << qPrintable(path + xml.errorString());
@@ -62,9 +57,9 @@ QMap<QString, Message> messagesIn(const QString& path) {
 /// The keys that the sources and the layouts hold now.
 QStringList sourceTexts() {
     const QTemporaryDir folder;
-    const QString fresh = folder.filePath(QStringLiteral("fresh.ts"));
+    const QString fresh = folder.filePath(u"fresh.ts"_s);
     QProcess update;
-    update.start(kRoot + QStringLiteral("/tools/update_translations.sh"), {fresh});
+    update.start(kRoot + u"/tools/update_translations.sh"_s, {fresh});
     EXPECT_TRUE(update.waitForFinished() && update.exitCode() == 0);
     return messagesIn(fresh).keys();
 }
@@ -90,40 +85,33 @@ protected:
 TEST_F(TranslationsTest, EveryLanguageHasEveryTextWhole) {
     const QStringList texts = sourceTexts();
     ASSERT_GT(texts.size(), 100);
-    const QDir folder(kRoot + QStringLiteral("/resources/translations"));
-    const QStringList files = folder.entryList({QStringLiteral("lumivane_*.ts")});
+    const QDir folder(kRoot + u"/resources/translations"_s);
+    const QStringList files = folder.entryList({u"lumivane_*.ts"_s});
     EXPECT_EQ(files.size(), 10);
     // What this system has not; the sources' texts were written for one that has.
-    const QRegularExpression untrue(
-        QStringLiteral("Mac OS|Applications folder|[“„«「]Applications|\\.app\\b"));
+    const QRegularExpression untrue(u"Mac OS|Applications folder|[“„«「]Applications|\\.app\\b"_s);
     for (const QString& file : files) {
-        const QMap<QString, Message> messages = messagesIn(folder.filePath(file));
+        const QMap<QString, QString> messages = messagesIn(folder.filePath(file));
         for (const QString& text : texts) {
-            const QString shown = messages.contains(text) ? messages[text].translation : text;
-            EXPECT_FALSE(shown.contains(untrue)) << qPrintable(file + QStringLiteral(": ") + shown);
+            const QString shown = messages.value(text, text);
+            EXPECT_FALSE(shown.contains(untrue)) << qPrintable(file + u": "_s + shown);
         }
-        if (file == u"lumivane_en.ts") {
-            for (const QString& source : messages.keys())
-                EXPECT_TRUE(texts.contains(source)) << qPrintable(source);
+        if (file == u"lumivane_en.ts")
             continue; // the sources speak English but for these
-        }
         EXPECT_EQ(messages.keys().join(u'\n'), texts.join(u'\n')) << qPrintable(file);
-        for (const auto& [source, message] : messages.toStdMap()) {
-            EXPECT_FALSE(message.unfinished || message.translation.trimmed().isEmpty())
-                << qPrintable(file + QStringLiteral(": ") + source);
-            EXPECT_EQ(fixedParts(message.translation), fixedParts(source))
-                << qPrintable(file + QStringLiteral(": ") + message.translation);
+        for (const auto& [source, translation] : messages.toStdMap()) {
+            EXPECT_FALSE(translation.trimmed().isEmpty()) << qPrintable(file + source);
+            EXPECT_EQ(fixedParts(translation), fixedParts(source)) << qPrintable(file + translation);
         }
         // The compiled catalogue tells by its language which one of Qt's goes with it.
         const QString language = file.mid(9).chopped(3);
         use(language.toLatin1().constData());
-        EXPECT_NE(CMoonHelper::stringForMoonName(MoonName::WaxingCrescent),
-                  QStringLiteral("a waxing crescent"))
+        EXPECT_NE(CMoonHelper::stringForMoonName(MoonName::WaxingCrescent), u"a waxing crescent")
             << qPrintable(file);
-        const QString qtCatalogue = QLibraryInfo::path(QLibraryInfo::TranslationsPath) +
-                                    QStringLiteral("/qtbase_%1.qm").arg(language);
+        const QString qtCatalogue =
+            QLibraryInfo::path(QLibraryInfo::TranslationsPath) + u"/qtbase_%1.qm"_s.arg(language);
         if (QFile::exists(qtCatalogue)) {
-            EXPECT_NE(QCoreApplication::translate("QWidgetTextControl", "&Paste"), QStringLiteral("&Paste"))
+            EXPECT_NE(QCoreApplication::translate("QWidgetTextControl", "&Paste"), u"&Paste"_s)
                 << qPrintable(file);
         }
     }
@@ -131,15 +119,13 @@ TEST_F(TranslationsTest, EveryLanguageHasEveryTextWhole) {
 
 TEST_F(TranslationsTest, EveryControlHasALetterOfItsOwnInEveryLanguage) {
     ApplicationDelegate delegate;
-    const auto expectLetters = [](const QStringList& texts, std::size_t count, const char* where) {
-        SCOPED_TRACE(where);
-        EXPECT_EQ(texts.size(), count);
-        QMap<QString, QString> taken;
+    const auto expectLetters = [](const QStringList& texts, std::size_t count) {
+        EXPECT_EQ(texts.size(), count) << qPrintable(texts.join(u' '));
+        QSet<QString> taken;
         for (const QString& text : texts) {
             const QString letter = QKeySequence::mnemonic(text).toString();
-            EXPECT_FALSE(letter.isEmpty()) << qPrintable(text);
-            EXPECT_FALSE(taken.contains(letter)) << qPrintable(text + QStringLiteral(", ") + taken[letter]);
-            taken.insert(letter, text);
+            EXPECT_FALSE(letter.isEmpty() || taken.contains(letter)) << qPrintable(text);
+            taken.insert(letter);
             // Underlining a letter would part it from one that it is joined to.
             const qsizetype mark = text.indexOf(u'&');
             EXPECT_FALSE(mark > 0 && text[mark - 1].joiningType() == QChar::Joining_Dual) << qPrintable(text);
@@ -147,23 +133,19 @@ TEST_F(TranslationsTest, EveryControlHasALetterOfItsOwnInEveryLanguage) {
     };
     const auto commands = [](const QMenu* menu) {
         QStringList texts;
-        for (const QAction* action : menu->actions()) {
-            if (!action->isSeparator())
-                texts.append(action->text());
-        }
+        for (const QAction* action : menu->actions())
+            texts.append(action->text());
+        texts.removeAll(QString()); // separators
         return texts;
     };
     const auto controls = [](const QWidget* window) {
         QStringList texts;
-        for (const auto* button : window->findChildren<QAbstractButton*>()) {
-            // The steps, "+1 d", have keys instead, which their tool tips tell.
-            if (!button->text().isEmpty() && !button->text().contains(u'1'))
-                texts.append(button->text());
-        }
-        for (const auto* label : window->findChildren<QLabel*>()) {
-            if (label->buddy())
-                texts.append(label->text());
-        }
+        for (const auto* button : window->findChildren<QAbstractButton*>())
+            texts.append(button->text());
+        for (const auto* label : window->findChildren<QLabel*>())
+            texts.append(label->buddy() ? label->text() : QString());
+        // The steps, "+1 d", have keys instead, which their tool tips tell.
+        texts.removeIf([](const QString& text) { return text.isEmpty() || text.contains(u'1'); });
         return texts;
     };
     for (const char* language : {"en", "de", "es", "fr", "it", "ja", "pt-BR", "ru", "zh-CN", "ar"}) {
@@ -172,44 +154,41 @@ TEST_F(TranslationsTest, EveryControlHasALetterOfItsOwnInEveryLanguage) {
         PanelCommands panelCommands(delegate);
         const auto panel = LumivaneWindowController::lumivaneWindowController(
             panelCommands, LumivaneWindow::kBorderlessMask);
-        expectLetters(controls(panel->window()), 12, "panel");
+        expectLetters(controls(panel->window()), 12);
         const QStringList show{Bundle::main().localizedString("&Show Lumivane")};
-        expectLetters(commands(panel->gearMenu()) + show, 7, "menu");
-        const auto* place =
-            panel->window()->findChild<QPushButton*>(QStringLiteral("latitudeAndLongitudePopup_"));
+        expectLetters(commands(panel->gearMenu()) + show, 7);
+        const auto* place = panel->window()->findChild<QPushButton*>(u"latitudeAndLongitudePopup_"_s);
         ASSERT_TRUE(place && place->menu());
-        expectLetters(commands(place->menu()), 2, "place");
+        expectLetters(commands(place->menu()), 2);
 
         panel->timeZoneOther(nullptr);
-        expectLetters(controls(panel->window()->findChild<QDialog*>()), 3, "offset");
+        expectLetters(controls(panel->window()->findChild<QDialog*>()), 3);
         AppcastItem item;
-        item.notes = QStringLiteral("Notes");
-        item.page = QUrl(QStringLiteral("https://lumivane.example/"));
-        const std::unique_ptr<UpdateAlert> alert(UpdateAlert::updateAvailable(item, QStringLiteral("1")));
-        expectLetters(controls(alert.get()), 4, "update");
+        item.notes = u"Notes"_s;
+        item.page = QUrl(u"https://lumivane.example/"_s);
+        const std::unique_ptr<UpdateAlert> alert(UpdateAlert::updateAvailable(item, u"1"_s));
+        expectLetters(controls(alert.get()), 4);
     }
 }
 
 TEST_F(TranslationsTest, TheUsersLanguagesReachTheTexts) {
     Bundle& bundle = Bundle::main();
-    bundle.installTranslations({QStringLiteral("nl"), QStringLiteral("de-AT"), QStringLiteral("fr")});
-    EXPECT_EQ(CMoonHelper::stringForMoonName(MoonName::WaxingCrescent),
-              QStringLiteral("Zunehmende Mondsichel"));
-    EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel"), QStringLiteral("&Abbrechen"));
+    bundle.installTranslations({u"nl"_s, u"de-AT"_s, u"fr"_s});
+    EXPECT_EQ(CMoonHelper::stringForMoonName(MoonName::WaxingCrescent), u"Zunehmende Mondsichel"_s);
+    EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel"), u"&Abbrechen"_s);
     EXPECT_EQ(QGuiApplication::layoutDirection(), Qt::LeftToRight);
     use("ar");
     EXPECT_EQ(QGuiApplication::layoutDirection(), Qt::RightToLeft);
-    bundle.installTranslations({QStringLiteral("fi"), QStringLiteral("en-GB"), QStringLiteral("ar")});
-    EXPECT_EQ(CMoonHelper::stringForMoonName(MoonName::WaxingCrescent), QStringLiteral("a waxing crescent"));
+    bundle.installTranslations({u"fi"_s, u"en-GB"_s, u"ar"_s});
+    EXPECT_EQ(CMoonHelper::stringForMoonName(MoonName::WaxingCrescent), u"a waxing crescent"_s);
     EXPECT_EQ(QGuiApplication::layoutDirection(), Qt::LeftToRight);
 }
 
 TEST_F(TranslationsTest, TheCreditsWordsAreAmongTheTexts) {
-    const QStringList untranslated{QStringLiteral("Lumivane"),
-                                   QStringLiteral("Jean Meeus, Astronomical Algorithms"),
-                                   QStringLiteral("Astronomy on the Personal Computer")};
+    const QStringList untranslated{u"Lumivane"_s, u"Jean Meeus, Astronomical Algorithms"_s,
+                                   u"Astronomy on the Personal Computer"_s};
     const Bundle& bundle = Bundle::main();
-    QFile file(bundle.resourcePath() + QStringLiteral("/Credits.rtf"));
+    QFile file(bundle.resourcePath() + u"/Credits.rtf"_s);
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     QString error;
     const auto credits = documentFromRTF(file.readAll(), &error);
@@ -217,6 +196,6 @@ TEST_F(TranslationsTest, TheCreditsWordsAreAmongTheTexts) {
     const QStringList texts = sourceTexts() + untranslated;
     for (const QString& line : credits->toPlainText().split(u'\n', Qt::SkipEmptyParts))
         EXPECT_TRUE(texts.contains(line)) << qPrintable(line);
-    const QString site = QStringLiteral("href=\"https://") + bundle.infoString(QStringLiteral("LVWebHost"));
+    const QString site = u"href=\"https://"_s + bundle.infoString(u"LVWebHost"_s);
     EXPECT_TRUE(credits->toHtml().contains(site + u'/'));
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/engine/CRiseSet.h"
 
+#include <array>
 #include <cmath>
 #include <limits>
 
@@ -8,38 +9,40 @@
 
 namespace {
 
-struct Results {
-    tRiseSetPair moon;
-    tRiseSetPair sun;
-    tRiseSetPair twilight;
-};
-
-Results resultsFor(const tRiseSetCalcParamBlock& block) {
+/// Hour and minute of rise and set, and the state, of Moon, Sun and twilight.
+std::array<std::array<int, 5>, 3> resultsFor(const tRiseSetCalcParamBlock& block) {
     CRiseSet calculator;
     calculator.Calculate(block);
-    Results results{};
-    calculator.GetMoonInfo(results.moon);
-    calculator.GetSunInfo(results.sun);
-    calculator.GetTwilightInfo(results.twilight);
+    std::array<tRiseSetPair, 3> pairs{};
+    calculator.GetMoonInfo(pairs[0]);
+    calculator.GetSunInfo(pairs[1]);
+    calculator.GetTwilightInfo(pairs[2]);
+    std::array<std::array<int, 5>, 3> results{};
+    for (std::size_t i = 0; i < 3; ++i)
+        results[i] = {pairs[i].riseHour, pairs[i].riseMinute, pairs[i].setHour, pairs[i].setMinute,
+                      pairs[i].state};
     return results;
-}
-
-void expectPair(const tRiseSetPair& pair, int riseHour, int riseMinute, int setHour, int setMinute,
-                int state) {
-    EXPECT_EQ(pair.riseHour, riseHour);
-    EXPECT_EQ(pair.riseMinute, riseMinute);
-    EXPECT_EQ(pair.setHour, setHour);
-    EXPECT_EQ(pair.setMinute, setMinute);
-    EXPECT_EQ(pair.state, state);
 }
 
 } // namespace
 
-TEST(CRiseSetTest, NewYork) {
-    const Results newYork = resultsFor({-74.006, 40.7128, -4, 21, 6, 2024});
-    expectPair(newYork.sun, 5, 25, 20, 31, kRiseSetBoth);
-    expectPair(newYork.twilight, 4, 9, 21, 47, kRiseSetBoth);
-    expectPair(newYork.moon, 20, 49, 4, 29, kRiseSetBoth);
+TEST(CRiseSetTest, DaysOfBothCalendars) {
+    const auto newYork = resultsFor({-74.006, 40.7128, -4, 21, 6, 2024});
+    EXPECT_EQ(newYork[0], (std::array<int, 5>{20, 49, 4, 29, kRiseSetBoth}));
+    EXPECT_EQ(newYork[1], (std::array<int, 5>{5, 25, 20, 31, kRiseSetBoth}));
+    EXPECT_EQ(newYork[2], (std::array<int, 5>{4, 9, 21, 47, kRiseSetBoth}));
+    const auto svalbard = resultsFor({10, 78.2, 1, 1, 11, 1500});
+    EXPECT_EQ(svalbard[0], (std::array<int, 5>{16, 53, 0, 0, kRiseSetNoSet}));
+    EXPECT_EQ(svalbard[2], (std::array<int, 5>{7, 46, 16, 21, kRiseSetBoth}));
+    EXPECT_EQ(CRiseSet::MJD(15, 10, 1582, 0) - CRiseSet::MJD(4, 10, 1582, 0), 1.0);
+    EXPECT_EQ(CRiseSet::MJD(1, 1, 2000, 12), 51544.5);
+    // Zone hours move the day, here to 18:30 GMT of the day before.
+    const auto gmt = resultsFor({0.0, 51.0, 0.0, 1, 3, 2026})[1];
+    const auto east = resultsFor({0.0, 51.0, 5.5, 1, 3, 2026})[1];
+    EXPECT_NEAR((east[0] - gmt[0]) * 60 + east[1] - gmt[1], 330, 2);
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    EXPECT_EQ(resultsFor({nan, 10, 0, 1, 1, 2026})[1][4], kRiseSetAlwaysBelow);
+    EXPECT_EQ(resultsFor({10, 1e300, 1e300, 1, 1, 2026})[0][0], 0);
 }
 
 // The short way to the altitude must not lose what the way through right ascension and declination has, least
@@ -63,61 +66,16 @@ TEST(CRiseSetTest, AltitudesFollowFromThePositions) {
     }
 }
 
-TEST(CRiseSetTest, JulianCalendarDate) {
-    const Results svalbard = resultsFor({10, 78.2, 1, 1, 11, 1500});
-    expectPair(svalbard.moon, 16, 53, 0, 0, kRiseSetNoSet);
-    expectPair(svalbard.twilight, 7, 46, 16, 21, kRiseSetBoth);
-    EXPECT_EQ(CRiseSet::MJD(15, 10, 1582, 0) - CRiseSet::MJD(4, 10, 1582, 0), 1.0);
-    EXPECT_EQ(CRiseSet::MJD(1, 1, 2000, 12), 51544.5);
-}
-
-TEST(CRiseSetTest, OnlyAnotherRequestIsComputed) {
+TEST(CRiseSetTest, RequestsAreComparedAndMinutesRoundedUpToMidnight) {
     const tRiseSetCalcParamBlock block{0.0, 51.0, 0.0, 1, 3, 2026};
     tRiseSetCalcParamBlock negativeZero = block;
     negativeZero.longitude = -0.0;
     EXPECT_TRUE(CRiseSet::BlocksAreEqual(block, block));
     EXPECT_FALSE(CRiseSet::BlocksAreEqual(block, negativeZero));
-
-    CRiseSet calculator;
-    tRiseSetPair first{};
-    tRiseSetPair second{};
-    calculator.Calculate(block);
-    calculator.GetSunInfo(first);
-    calculator.Calculate({0.0, 51.0, 5.5, 1, 3, 2026}); // the day from 18:30 GMT of the day before
-    calculator.GetSunInfo(second);
-    const int shift = second.riseHour * 60 + second.riseMinute - first.riseHour * 60 - first.riseMinute;
-    EXPECT_NEAR(shift, 330, 2);
-}
-
-TEST(CRiseSetTest, MinutesAreRoundedAndMayReachMidnight) {
-    int hour = 0;
-    int minute = 0;
-    CRiseSet::WHM(23.995, &hour, &minute);
-    EXPECT_EQ(hour * 60 + minute, 24 * 60);
-    CRiseSet::WHM(6.99, &hour, &minute);
-    EXPECT_EQ(hour * 60 + minute, 6 * 60 + 59);
-    CRiseSet::WHM(0.0, &hour, &minute);
-    EXPECT_EQ(hour * 60 + minute, 0);
-}
-
-TEST(CRiseSetTest, ParabolasAndUnusableNumbers) {
-    double xe = 0;
-    double ye = 0;
-    double root1 = 9;
-    double root2 = 9;
-    std::int32_t roots = -1;
-    CRiseSet::QUAD(1, -1, 1, &xe, &ye, &root1, &root2, &roots); // 2x² - 1
-    EXPECT_EQ(roots, 2);
-    EXPECT_NEAR(root1, -std::sqrt(0.5), 1e-12);
-    EXPECT_NEAR(ye, -1, 1e-12);
-    CRiseSet::QUAD(2, 1, 2, &xe, &ye, &root1, &root2, &roots); // x² + 1
-    EXPECT_EQ(roots, 0);
-    EXPECT_NEAR(root1, -std::sqrt(0.5), 1e-12) << "without real roots the last ones stay";
-    CRiseSet::QUAD(2, -0.5, -1, &xe, &ye, &root1, &root2, &roots); // one root inside
-    EXPECT_EQ(roots, 1);
-    EXPECT_LE(std::abs(root1), 1.0);
-
-    const double nan = std::numeric_limits<double>::quiet_NaN();
-    EXPECT_EQ(resultsFor({nan, 10, 0, 1, 1, 2026}).sun.state, kRiseSetAlwaysBelow);
-    EXPECT_EQ(resultsFor({10, 1e300, 1e300, 1, 1, 2026}).moon.riseHour, 0);
+    for (const auto& [hours, minutes] : {std::pair{23.995, 24 * 60}, {6.99, 6 * 60 + 59}, {0.0, 0}}) {
+        int hour = 0;
+        int minute = 0;
+        CRiseSet::WHM(hours, &hour, &minute);
+        EXPECT_EQ(hour * 60 + minute, minutes);
+    }
 }

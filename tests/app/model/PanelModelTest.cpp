@@ -1,57 +1,24 @@
 // SPDX-License-Identifier: MIT
 #include "app/model/PanelModel.h"
 
-#include "app/engine/CMoon.h"
-#include "platform/preferences/Preferences.h"
-#include "shared/utilities/classes/values/ExtraDateUtilities.h"
-#include "tests/TestMain.h"
-
-#include <gtest/gtest.h>
+#include "tests/app/MoonTest.h"
 
 #include <random>
 
 namespace {
-
-std::uint32_t seconds(const QDateTime& date) {
-    return static_cast<std::uint32_t>(date.toSecsSinceEpoch() - ExtraDateUtilities::kReferenceInstant);
-}
-
-std::uint32_t firstMoment() {
-    return gMoon.FindLunationAtIndex(0)->newMoon;
-}
-
-std::uint32_t lastMoment() {
-    return gMoon.FindLunationAtIndex(kLunationCount - 1)->nextNewMoon - 1;
-}
 
 struct Zone {
     int type;
     float hours;
 };
 
-class PanelModelTest : public testing::Test {
+class PanelModelTest : public MoonTest {
 protected:
-    ~PanelModelTest() override {
-        for (const char* key : {"LVTimeZoneType", "LVTimeZoneCustomGMTOffset", "LVTimeZoneGMTOffsetTitle",
-                                "LVLatitude", "LVLongitude"})
-            defaults()->removeObjectForKey(QLatin1String(key));
-    }
-
-    static Preferences* defaults() { return Preferences::standard(); }
-
-    void setZone(const Zone& zone) {
-        defaults()->setFloat(zone.hours, QStringLiteral("LVTimeZoneCustomGMTOffset"));
-        defaults()->setInteger(zone.type, QStringLiteral("LVTimeZoneType"));
+    void use(const Zone& zone) {
+        setZone(zone.type, zone.hours);
         model_.followZone();
     }
 
-    static bool loadTable() {
-        gMoon.Init();
-        return true;
-    }
-
-    const InZone zone_{"America/New_York"};
-    const bool loaded_ = loadTable();
     PanelModel model_;
 };
 
@@ -67,9 +34,8 @@ TEST_F(PanelModelTest, WhatIsSetComesBackAndStepsAreExactInEveryZone) {
         moments.append(inTable(random));
     for (const QDateTime& now : {gmt(2026, 7, 1), gmt(2026, 12, 1)}) {
         const Clock::Hold present(now);
-        for (const Zone& zone :
-             {Zone{1, 0}, Zone{2, 0}, Zone{3, 5.5F}, Zone{3, -3.75F}, Zone{3, 12.75F}, Zone{3, -1000.0F}}) {
-            setZone(zone);
+        for (const Zone& zone : {Zone{1, 0}, {2, 0}, {3, 5.5F}, {3, -3.75F}, {3, 12.75F}, {3, -1000.0F}}) {
+            use(zone);
             for (const std::uint32_t moment : std::as_const(moments)) {
                 model_.moveTo(moment);
                 ASSERT_EQ(model_.moment(), moment) << zone.type << ' ' << zone.hours;
@@ -85,86 +51,76 @@ TEST_F(PanelModelTest, WhatIsSetComesBackAndStepsAreExactInEveryZone) {
 
 TEST_F(PanelModelTest, EveryMoveStopsAtTheTablesEnds) {
     const Clock::Hold present(gmt(2026, 7, 1));
-    const std::uint32_t first = firstMoment();
-    const std::uint32_t last = lastMoment();
-    const auto fullMoon = [](int index) { return gMoon.FindLunationAtIndex(index)->fullMoon; };
-    for (const Zone& zone : {Zone{1, 0}, Zone{2, 0}, Zone{3, 12.75F}, Zone{3, -3.75F}, Zone{3, 1000.0F},
-                             Zone{3, -1e6F}, Zone{3, 3e38F}}) {
+    const std::int64_t first = firstMoment();
+    const std::int64_t last = lastMoment();
+    for (const Zone& zone :
+         {Zone{1, 0}, {2, 0}, {3, 12.75F}, {3, -3.75F}, {3, 1000.0F}, {3, -1e6F}, {3, 3e38F}}) {
         SCOPED_TRACE(zone.hours);
-        setZone(zone);
-        const auto expectAfter = [this](auto move, auto value, std::uint32_t moment) {
+        use(zone);
+        const auto expectAfter = [this](auto move, auto value, std::int64_t moment) {
             (model_.*move)(value);
             EXPECT_EQ(model_.moment(), moment) << value;
         };
         expectAfter(&PanelModel::moveTo, -1, first);
-        expectAfter(&PanelModel::moveTo, std::int64_t{first} - 1, first);
+        expectAfter(&PanelModel::moveTo, first - 1, first);
         expectAfter(&PanelModel::moveByHours, -1, first);
         expectAfter(&PanelModel::moveByHours, -1000000, first);
-        expectAfter(&PanelModel::moveToPhase, 0, first);
-        expectAfter(&PanelModel::moveByLunations, -1, fullMoon(0));
-        expectAfter(&PanelModel::moveByLunations, -kLunationCount, fullMoon(0));
-
+        expectAfter(&PanelModel::moveByLunations, -1, lunation(0).fullMoon);
         expectAfter(&PanelModel::moveTo, std::int64_t{1} << 33, last);
-        expectAfter(&PanelModel::moveTo, std::int64_t{last} + 1, last);
-        expectAfter(&PanelModel::moveByHours, 24, last);
+        expectAfter(&PanelModel::moveTo, last + 1, last);
         expectAfter(&PanelModel::moveByHours, 1000000, last);
         expectAfter(&PanelModel::moveToPhase, 4, last); // it belongs to no lunation of the table
-        expectAfter(&PanelModel::moveByLunations, 1, fullMoon(kLunationCount - 1));
-        expectAfter(&PanelModel::moveByLunations, kLunationCount, fullMoon(kLunationCount - 1));
-        EXPECT_EQ(model_.lines().lunation, u"Lunation 1447");
+        expectAfter(&PanelModel::moveByLunations, kLunationCount, lunation(1447).fullMoon);
     }
 }
 
 TEST_F(PanelModelTest, QuartersAndLunationsAreThoseOfTheMoment) {
-    const tLunation* lunation = gMoon.FindLunationAtIndex(1076);
-    const std::pair<int, std::uint32_t> phases[]{{0, lunation->newMoon},     {1, lunation->firstQuarter},
-                                                 {2, lunation->fullMoon},    {3, lunation->lastQuarter},
-                                                 {4, lunation->nextNewMoon}, {7, lunation->newMoon},
-                                                 {-1, lunation->newMoon}};
-    for (const auto& [phase, instant] : phases) {
-        model_.moveTo(lunation->lastQuarter + 1);
+    const tLunation& blue = lunation(1076);
+    using Row = std::tuple<int, std::uint32_t>;
+    for (const auto& [phase, instant] :
+         {Row{0, blue.newMoon}, Row{1, blue.firstQuarter}, Row{2, blue.fullMoon}, Row{3, blue.lastQuarter},
+          Row{4, blue.nextNewMoon}, Row{7, blue.newMoon}, Row{-1, blue.newMoon}}) {
+        model_.moveTo(blue.lastQuarter + 1);
         model_.moveToPhase(phase);
         EXPECT_EQ(model_.moment(), instant) << phase;
     }
     for (const auto& [from, count, index] :
-         {std::tuple{lunation->fullMoon + 100000, 0, 1076}, std::tuple{lunation->newMoon, -1, 1075},
-          std::tuple{lunation->newMoon, 12, 1088}}) {
+         {std::tuple{blue.fullMoon + 100000, 0, 1076}, {blue.newMoon, -1, 1075}, {blue.newMoon, 12, 1088}}) {
         model_.moveTo(from);
         model_.moveByLunations(count);
-        EXPECT_EQ(model_.moment(), gMoon.FindLunationAtIndex(index)->fullMoon);
-        EXPECT_NEAR(PanelModel::fractionOf(model_.moment()), 0.5, 0.04);
+        EXPECT_EQ(model_.moment(), lunation(index).fullMoon);
     }
-    model_.moveTo(lunation->fullMoon);
+    model_.moveTo(blue.fullMoon);
     for (const double fraction : {0.025, 0.5, 0.975}) {
         model_.moveTo(model_.momentAtFraction(fraction));
         EXPECT_NEAR(PanelModel::fractionOf(model_.moment()), fraction, 1e-6);
         EXPECT_EQ(gMoon.GetLunation(model_.moment()), 1076);
     }
-    model_.moveTo(lunation->nextNewMoon - 9);
+    model_.moveTo(blue.nextNewMoon - 9);
     EXPECT_EQ(model_.lines().age, u"0d 0h 0m since new moon");
     EXPECT_EQ(model_.lines().lunation, u"Lunation 1076");
 }
 
 TEST_F(PanelModelTest, AnotherZoneKeepsThePickerAndMovesTheMoment) {
     const Clock::Hold present(gmt(2026, 7, 1));
-    setZone({2, 0});
     const std::uint32_t moment = seconds(gmt(2026, 2, 1, 12));
+    use({2, 0});
     model_.moveTo(moment);
     const QDateTime shown = model_.pickerDate();
-    for (const auto& [zone, moved] :
-         {std::pair{Zone{1, 0}, -4 * 3600}, std::pair{Zone{3, 5.5F}, -4 * 3600 - 19800},
-          std::pair{Zone{3, -3.75F}, -900}, std::pair{Zone{2, 0}, 0}}) {
-        setZone(zone);
+    using Row = std::tuple<Zone, int>;
+    for (const auto& [zone, moved] : {Row{Zone{1, 0}, -4 * 3600}, Row{Zone{3, 5.5F}, -4 * 3600 - 19800},
+                                      Row{Zone{3, -3.75F}, -900}, Row{Zone{2, 0}, 0}}) {
+        use(zone);
         EXPECT_EQ(model_.pickerDate(), shown);
         EXPECT_EQ(static_cast<std::int32_t>(model_.moment() - moment), moved) << zone.hours;
     }
     // Where that would lead out of the table the picker gives way.
     for (const auto& [zone, end] :
-         {std::pair{Zone{3, -12.0F}, lastMoment()}, std::pair{Zone{3, 12.0F}, firstMoment()}}) {
-        setZone({2, 0});
+         {std::pair{Zone{3, -12.0F}, lastMoment()}, {Zone{3, 12.0F}, firstMoment()}}) {
+        use({2, 0});
         model_.moveTo(end);
         const QDateTime before = model_.pickerDate();
-        setZone(zone);
+        use(zone);
         EXPECT_EQ(model_.moment(), end);
         EXPECT_NE(model_.pickerDate(), before);
     }
@@ -172,7 +128,7 @@ TEST_F(PanelModelTest, AnotherZoneKeepsThePickerAndMovesTheMoment) {
 
 TEST_F(PanelModelTest, AClockOutsideTheTableIsToldUntilTheNextMove) {
     for (const auto& [clock, end] :
-         {std::pair{gmt(2045, 6, 1), lastMoment()}, std::pair{gmt(1910, 1, 1), firstMoment()}}) {
+         {std::pair{gmt(2045, 6, 1), lastMoment()}, {gmt(1910, 1, 1), firstMoment()}}) {
         const Clock::Hold present(clock);
         PanelModel model;
         EXPECT_EQ(model.moment(), end);
@@ -190,11 +146,10 @@ TEST_F(PanelModelTest, AClockOutsideTheTableIsToldUntilTheNextMove) {
 
 TEST_F(PanelModelTest, TheClipboardHasAllThatThePanelShows) {
     const Clock::Hold present(gmt(2009, 12, 20, 17));
-    defaults()->setFloat(40.71417F, QStringLiteral("LVLatitude"));
-    defaults()->setFloat(-74.006386F, QStringLiteral("LVLongitude"));
-    defaults()->setObject(QStringLiteral("GMT +5.5"), QStringLiteral("LVTimeZoneGMTOffsetTitle"));
-    setZone({3, 5.5F});
-    model_.moveTo(gMoon.FindLunationAtIndex(1076)->newMoon);
+    setPlace(40.71417F, -74.006386F);
+    defaults()->set(PreferenceKeys::customOffsetTitle, u"GMT +5.5"_s);
+    use({3, 5.5F});
+    model_.moveTo(lunation(1076).newMoon);
     EXPECT_EQ(model_.clipboardText().replace(QChar(0x202F), u' ').toStdString(), R"(December 16, 2009
 5:33:18 PM
 GMT +5.5
@@ -215,8 +170,8 @@ Full 1/1/10, 12:43 AM
 Q3 1/7/10, 4:10 PM
 
 Longitude/Latitude -74.006386/40.71417)");
-    for (const auto& [type, title] : {std::pair{1, "GMT"}, std::pair{2, "System"}, std::pair{7, "GMT"}}) {
-        setZone({type, 0});
-        EXPECT_EQ(model_.clipboardText().section(u'\n', 2, 2), QLatin1String(title));
+    for (const auto& [type, title] : {std::pair{1, u"GMT"}, {2, u"System"}, {7, u"GMT"}}) {
+        use({type, 0});
+        EXPECT_EQ(model_.clipboardText().section(u'\n', 2, 2), QStringView(title));
     }
 }

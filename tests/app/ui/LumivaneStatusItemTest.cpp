@@ -54,26 +54,23 @@ TEST(LumivaneStatusItemTest, WithoutAKnownIconItOpensInTheTraysCorner) {
     EXPECT_EQ(frame(std::nullopt, screen, {0, 28, 0, 0}).topRight(), QPoint(1279, 28));
     EXPECT_EQ(frame(std::nullopt, screen, {0, 0, 0, 28}).bottomRight(), QPoint(1279, 771));
     EXPECT_EQ(frame(std::nullopt, screen, {}).bottomRight(), QPoint(1279, 799));
+    // One that is larger than the screen shows its top.
+    for (const int y : {0, 452})
+        EXPECT_EQ(frame(QRect(290, y, 28, 28), QRect(0, 0, 320, 480), {0, 28, 0, 0}).topLeft(), QPoint(0, 28))
+            << y;
 }
 
 TEST(LumivaneStatusItemTest, ADialogGoesBesideTheDropDown) {
     const QRect available(0, 28, 1024, 740);
     const QRect atRight(634, 28, 390, 650);
-    for (const auto& [panel, width, x] : {std::tuple{atRight, 540, 47}, std::tuple{atRight, 700, 0},
-                                          std::tuple{atRight.translated(-634, 0), 540, 437},
-                                          std::tuple{atRight.translated(-634, 0), 700, 324}}) {
+    using Row = std::tuple<QRect, int, int>;
+    for (const auto& [panel, width, x] :
+         {Row{atRight, 540, 47}, Row{atRight, 700, 0}, Row{atRight.translated(-634, 0), 540, 437},
+          Row{atRight.translated(-634, 0), 700, 324}}) {
         const QRect dialog(LumivaneWindow::besidePanel(panel, QSize(width, 380), 200, available),
                            QSize(width, 380));
         EXPECT_EQ(dialog.topLeft(), QPoint(x, 200));
         EXPECT_TRUE(available.contains(dialog));
         EXPECT_EQ(dialog.intersects(panel), width > 634);
-    }
-}
-
-TEST(LumivaneStatusItemTest, APanelLargerThanTheScreenShowsItsTop) {
-    const QRect screen(0, 0, 320, 480);
-    for (const int y : {0, 452}) {
-        const QRect panel = frame(QRect(290, y, 28, 28), screen, {0, 28, 0, 0});
-        EXPECT_EQ(panel.topLeft(), QPoint(0, 28)) << y;
     }
 }

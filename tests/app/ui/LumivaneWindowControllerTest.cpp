@@ -1,20 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "app/ui/LumivaneWindowController.h"
 
-#include "app/engine/CMoon.h"
-#include "app/engine/CMoonHelper.h"
 #include "app/shell/ApplicationDelegate.h"
 #include "app/ui/LumivaneStatusItem.h"
 #include "app/ui/LumivaneWindow.h"
 #include "app/ui/PanelCommands.h"
 #include "platform/layouts/DatePicker.h"
 #include "platform/layouts/Slider.h"
-#include "platform/preferences/Preferences.h"
 #include "shared/utilities/classes/ExtraSliderUtilities.h"
 #include "shared/utilities/classes/InternetConfig.h"
-#include "shared/utilities/classes/values/ExtraDateUtilities.h"
 #include "tests/FakeDesktop.h"
-#include "tests/TestMain.h"
+#include "tests/app/MoonTest.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -25,196 +21,37 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QPushButton>
-
-#include <gtest/gtest.h>
 
 namespace {
 
-std::uint32_t seconds(const QDateTime& date) {
-    return static_cast<std::uint32_t>(date.toSecsSinceEpoch() - ExtraDateUtilities::kReferenceInstant);
-}
-
-std::uint32_t firstMoment() {
-    return gMoon.FindLunationAtIndex(0)->newMoon;
-}
-
-std::uint32_t lastMoment() {
-    return gMoon.FindLunationAtIndex(kLunationCount - 1)->nextNewMoon - 1;
-}
-
-struct Zone {
-    int type;
-    float hours;
-};
-
-class LumivaneWindowControllerTest : public testing::Test {
+class Panel : public MoonTest {
 protected:
-    LumivaneWindowControllerTest() { load(); }
-    ~LumivaneWindowControllerTest() override {
-        for (const char* key : {"LVTimeZoneType", "LVTimeZoneCustomGMTOffset", "LVTimeZoneGMTOffsetTitle",
-                                "LVLatitude", "LVLongitude"})
-            defaults()->removeObjectForKey(QLatin1String(key));
+    Panel() { load(); }
+
+    void load(std::uint32_t style = LumivaneWindow::kBorderlessMask) {
+        controller_ = LumivaneWindowController::lumivaneWindowController(commands_, style);
     }
 
-    static Preferences* defaults() { return Preferences::standard(); }
-
-    void load() {
-        controller_ =
-            LumivaneWindowController::lumivaneWindowController(commands_, LumivaneWindow::kBorderlessMask);
-        picker_ = controller_->window()->findChild<DatePicker*>();
-        slider_ = controller_->window()->findChild<Slider*>(QStringLiteral("lunationSlider_"));
+    template <typename T = QLabel>
+    T* get(const char* name) const {
+        return controller_->window()->findChild<T*>(QLatin1String(name));
     }
 
-    void setZone(const Zone& zone) {
-        defaults()->setFloat(zone.hours, QStringLiteral("LVTimeZoneCustomGMTOffset"));
-        defaults()->setInteger(zone.type, QStringLiteral("LVTimeZoneType"));
-        controller_->timeZoneChanged(nullptr);
-    }
-
-    /// The moment after an action of a control with `tag`.
-    std::uint32_t after(void (LumivaneWindowController::*action)(QObject*), int tag = 0) {
-        QObject sender;
-        sender.setProperty("tag", tag);
-        (controller_.get()->*action)(&sender);
-        return controller_->datePickerGMTSeconds();
-    }
-    std::uint32_t afterHours(int hours) {
-        return after(&LumivaneWindowController::addTagToDatePicker, hours);
-    }
-    std::uint32_t afterLunations(int count) {
-        return after(&LumivaneWindowController::addTagToLunation, count);
-    }
-    std::uint32_t afterPhase(int tag) { return after(&LumivaneWindowController::phaseWithTag, tag); }
-
-    QLabel* field(const char* name) const {
-        return controller_->window()->findChild<QLabel*>(QLatin1String(name));
-    }
-
-    const InZone zone_{"America/New_York"};
     ApplicationDelegate delegate_;
     PanelCommands commands_{delegate_};
     std::unique_ptr<LumivaneWindowController> controller_;
-    DatePicker* picker_ = nullptr;
-    Slider* slider_ = nullptr;
 };
 
-} // namespace
-
-TEST_F(LumivaneWindowControllerTest, PickerSliderAndLinesGoTogether) {
-    const Clock::Hold present(gmt(2026, 7, 1));
-    const auto expectShown = [this](std::uint32_t moment) {
-        EXPECT_EQ(controller_->datePickerGMTSeconds(), moment);
-        EXPECT_NEAR(controller_->lunationSliderGMTSeconds(), moment, 1);
-        EXPECT_EQ(picker_->dateValue(), controller_->model().pickerDate());
-        const PanelModel::Lines lines = controller_->model().lines();
-        EXPECT_EQ(field("illumination_")->text(), lines.illumination);
-        EXPECT_EQ(field("timeLastQuarter_")->text(), lines.quarters[3]);
-        EXPECT_EQ(field("moonRiseSet_")->text(), lines.moon);
-    };
-    setZone({2, 0});
-    picker_->setDateTime(gmt(2026, 2, 7, 12)); // as the fields are typed, in New York
-    expectShown(seconds(gmt(2026, 2, 7, 17)));
-    setZone({3, -3.75F});
-    expectShown(seconds(gmt(2026, 2, 7, 17)) - 900);
-    slider_->setValue(slider_->maximum() / 2);
-    expectShown(controller_->lunationSliderGMTSeconds());
-    afterHours(24);
-    expectShown(seconds(picker_->dateValue()) - 900);
-    afterLunations(1);
-    expectShown(gMoon.FindLunationAtIndex(gMoon.GetLunation(seconds(gmt(2026, 3, 5))))->fullMoon);
-    afterPhase(3);
-    expectShown(gMoon.FindLunationAtIndex(gMoon.GetLunation(seconds(gmt(2026, 3, 5))))->lastQuarter);
-}
-
-TEST_F(LumivaneWindowControllerTest, NoControlLeavesTheTable) {
-    const Clock::Hold present(gmt(2026, 7, 1));
-    for (const Zone& zone : {Zone{3, 12.75F}, Zone{3, -1e6F}, Zone{2, 0}}) {
-        setZone(zone);
-        for (const std::uint32_t end : {firstMoment(), lastMoment()}) {
-            const tLunation* lunation = gMoon.FindLunationForGMTSeconds(end);
-            controller_->moveTo(end);
-            for (const double fraction : {0.0, 1.0}) {
-                ExtraSliderUtilities::setReverseDoubleValue(slider_, fraction);
-                const std::uint32_t moment = after(&LumivaneWindowController::lunationSliderChanged);
-                EXPECT_EQ(gMoon.FindLunationForGMTSeconds(moment), lunation);
-                EXPECT_EQ(moment, controller_->lunationSliderGMTSeconds());
-            }
-        }
-    }
-    // The picker lets nobody out, whatever is typed.
-    for (const auto& [typed, end] :
-         {std::pair{gmt(1900, 1, 1), firstMoment()}, std::pair{gmt(2200, 1, 1), lastMoment()}}) {
-        picker_->setDateTime(typed);
-        EXPECT_EQ(controller_->datePickerGMTSeconds(), end);
-        EXPECT_EQ(seconds(picker_->dateValue()), end);
-    }
-}
-
-TEST_F(LumivaneWindowControllerTest, OnlyTheDropDownHasItsTitleInside) {
-    for (const std::uint32_t style : {LumivaneWindow::kBorderlessMask, LumivaneWindow::kWindoidMask}) {
-        const auto panel = LumivaneWindowController::lumivaneWindowController(commands_, style);
-        EXPECT_EQ(panel->window()->findChild<QLabel*>(QStringLiteral("title_"))->isHidden(),
-                  style == LumivaneWindow::kWindoidMask);
-    }
-}
-
-TEST_F(LumivaneWindowControllerTest, AChangedLineIsDarkRedForOneUpdate) {
-    const Clock::Hold present(gmt(2026, 7, 1));
-    load();
-    const auto isRed = [this](const char* name) {
-        const QLabel* label = field(name);
-        return label->palette().color(label->foregroundRole()) == QColor::fromRgbF(0.5F, 0.0F, 0.0F);
-    };
-    controller_->showNow(nullptr);
-    for (const QLabel* label : controller_->window()->findChildren<QLabel*>())
-        EXPECT_FALSE(isRed(label->objectName().toLatin1())) << label->objectName().toStdString();
-    afterHours(1);
-    EXPECT_TRUE(isRed("illumination_") && isRed("daysSinceNewMoon_"));
-    EXPECT_FALSE(isRed("lunation_") || isRed("timeFull_"));
-    afterHours(24 * 30);
-    EXPECT_TRUE(isRed("lunation_") && isRed("timeFull_") && isRed("moonRiseSet_"));
-    controller_->updateStaticMoonInfo();
-    EXPECT_FALSE(isRed("illumination_") || isRed("lunation_") || isRed("timeFull_") || isRed("moonRiseSet_"));
-}
-
-TEST_F(LumivaneWindowControllerTest, NumbersAreShownAndReadInTheLocale) {
-    QLocale::setDefault(QLocale(QLocale::German));
-    defaults()->setObject(QStringLiteral("GMT +5.5"), QStringLiteral("LVTimeZoneGMTOffsetTitle"));
-    load();
-    const auto* zones = controller_->window()->findChild<QComboBox*>(QStringLiteral("timeZonePopup_"));
-    EXPECT_EQ(zones->itemText(2), u"GMT +5,5") << "which an earlier run may have stored";
-    controller_->setDatePickerGMTSeconds(seconds(gmt(2026, 7, 1)));
-    controller_->updateStaticMoonInfo();
-    EXPECT_EQ(field("illumination_")->text().indexOf(u','), 2)
-        << field("illumination_")->text().toStdString();
-
-    controller_->timeZoneOther(nullptr);
-    const auto* dialog = controller_->window()->findChild<QDialog*>();
-    EXPECT_EQ(dialog->findChild<QLabel*>(QStringLiteral("smallMessage_"))->text(),
-              u"For Example: -5; +1,5; 12; 0");
-    dialog->findChild<QLineEdit*>()->setText(QStringLiteral("\u22123,5 hours"));
-    dialog->findChild<QPushButton*>(QStringLiteral("okButton_"))->click();
-    EXPECT_EQ(defaults()->floatForKey(QStringLiteral("LVTimeZoneCustomGMTOffset")), -3.5F);
-    EXPECT_EQ(defaults()->stringForKey(QStringLiteral("LVTimeZoneGMTOffsetTitle")), u"GMT -3.5");
-    EXPECT_EQ(zones->currentText(), u"GMT -3,5");
-
-    const auto* latitude = controller_->window()->findChild<QLineEdit*>(QStringLiteral("latitude_"));
-    controller_->latitudeAndLongitudeFromSystemSettings(nullptr);
-    const QString shown = latitude->text();
-    EXPECT_EQ(shown.left(6), u"40,714");
-    EXPECT_EQ(latitude->cursorPosition(), 0);
-    load();
-    EXPECT_EQ(controller_->window()->findChild<QLineEdit*>(QStringLiteral("latitude_"))->text(), shown);
-    QLocale::setDefault(QLocale::system());
-}
-
-namespace {
-
 /// The program's item without a tray around it, and the panel that it has now.
-class PanelOfTheItem : public LumivaneWindowControllerTest {
+class PanelOfTheItem : public Panel {
 protected:
     PanelOfTheItem() { item_.awakeFromNib(); }
+
+    /// The panel that was hidden goes, the next one comes.
+    static void takeTurns() {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
+    }
 
     LumivaneWindow* window() const {
         takeTurns();
@@ -228,47 +65,199 @@ protected:
 
     bool isShown() const { return window() && window()->isVisible(); }
 
-    void choose(const char* command) const {
-        auto* action = item_.findChild<QAction*>(QLatin1String(command));
-        ASSERT_NE(action, nullptr);
-        action->trigger();
-    }
-
     static QList<QDialog*> dialogs() {
         takeTurns();
-        QList<QDialog*> shown;
-        for (QWidget* widget : QApplication::topLevelWidgets()) {
-            auto* dialog = qobject_cast<QDialog*>(widget);
-            if (dialog && dialog->isVisible())
-                shown.append(dialog);
-        }
-        return shown;
+        return shownWindows<QDialog>();
     }
 
-    /// The panel that was hidden goes, the next one comes.
-    static void takeTurns() {
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
-    }
+    void choose(const char* command) { item_.findChild<QAction*>(QLatin1String(command))->trigger(); }
 
     LumivaneStatusItem item_{delegate_};
 };
 
 } // namespace
 
+TEST_F(Panel, EveryControlMovesPickerSliderAndLines) {
+    const Clock::Hold present(gmt(2009, 12, 20, 17));
+    load();
+    auto* picker = get<DatePicker>("datePicker_");
+    auto* slider = get<Slider>("lunationSlider_");
+    const auto expectShown = [&](std::uint32_t moment) {
+        const PanelModel& model = controller_->model();
+        EXPECT_EQ(model.moment(), moment);
+        EXPECT_NEAR(ExtraSliderUtilities::reverseDoubleValue(slider),
+                    std::clamp(PanelModel::fractionOf(moment), 0.025, 0.975), 1e-6);
+        EXPECT_EQ(picker->dateValue(), model.pickerDate());
+        EXPECT_EQ(slider->accessibleDescription(), model.spokenDate());
+        EXPECT_EQ(get("illumination_")->text(), model.lines().illumination);
+        EXPECT_EQ(get("timeLastQuarter_")->text(), model.lines().quarters[3]);
+        EXPECT_EQ(get("moonRiseSet_")->text(), model.lines().moon);
+    };
+    const std::uint32_t now = seconds(Clock::now());
+    const tLunation& blue = lunation(1076);
+    using Row = std::tuple<const char*, std::uint32_t>;
+    for (const auto& [button, moment] :
+         {Row{"hourOn_", now + 3600}, Row{"hourBack_", now}, Row{"dayBack_", now - 86400}, Row{"dayOn_", now},
+          Row{"lunationOn_", lunation(1077).fullMoon}, Row{"lunationBack_", blue.fullMoon},
+          Row{"showNew_", blue.newMoon}, Row{"showQ1_", blue.firstQuarter}, Row{"showFull_", blue.fullMoon},
+          Row{"showQ3_", blue.lastQuarter}, Row{"nowButton_", now}}) {
+        SCOPED_TRACE(button);
+        get<QAbstractButton>(button)->click();
+        expectShown(moment);
+    }
+    picker->setDateTime(gmt(2026, 2, 7, 12)); // as the fields are typed, in New York
+    expectShown(seconds(gmt(2026, 2, 7, 17)));
+    press(get<QWidget>("timeZonePopup_"), Qt::Key_Home);
+    expectShown(seconds(gmt(2026, 2, 7, 12)));
+    for (const auto& [key, fraction] :
+         {std::pair{Qt::Key_Home, 0.025}, {Qt::Key_End, 0.975}, {Qt::Key_Left, 0.968}}) {
+        press(slider, key);
+        expectShown(controller_->lunationSliderGMTSeconds());
+        EXPECT_NEAR(PanelModel::fractionOf(controller_->model().moment()), fraction, 0.005);
+    }
+    // The picker lets nobody out of the table, whatever is typed, nor the slider out of its lunation.
+    for (const auto& [typed, end] :
+         {std::pair{gmt(1900, 1, 1), firstMoment()}, {gmt(2200, 1, 1), lastMoment()}}) {
+        picker->setDateTime(typed);
+        expectShown(end);
+        const auto [first, last] = PanelModel::pickerRange();
+        EXPECT_EQ(picker->dateValue(), end == firstMoment() ? first : last);
+        press(slider, Qt::Key_Home);
+        EXPECT_EQ(gMoon.GetLunation(controller_->model().moment()), gMoon.GetLunation(end));
+    }
+}
+
+TEST_F(Panel, ThePictureIsBlueAndSouthOfTheEquatorTurned) {
+    const auto picture = [](int index) {
+        return LumivaneWindowController::moonImageFor(lunation(index).firstQuarter);
+    };
+    const QImage grey = picture(1075);
+    const QRgb lit = grey.pixel(grey.width() * 3 / 4, grey.height() / 2);
+    EXPECT_TRUE(qIsGray(lit) && qRed(lit) > 60);
+    const QRgb blue = picture(1076).pixel(grey.width() * 3 / 4, grey.height() / 2);
+    EXPECT_GT(qBlue(blue), qRed(blue));
+    setPlace(-33.9F, 151.2F);
+    EXPECT_EQ(picture(1075), grey.mirrored(true, true).convertToFormat(picture(1075).format()));
+}
+
+TEST_F(Panel, OnlyTheDropDownHasItsTitleInside) {
+    EXPECT_FALSE(get("title_")->isHidden());
+    load(LumivaneWindow::kWindoidMask);
+    EXPECT_TRUE(get("title_")->isHidden());
+}
+
+TEST_F(Panel, AChangedLineIsDarkRedForOneUpdate) {
+    const Clock::Hold present(gmt(2026, 7, 1));
+    load();
+    const auto red = [this] {
+        QStringList names;
+        for (const QLabel* label : controller_->window()->findChildren<QLabel*>()) {
+            if (label->palette().color(label->foregroundRole()) == QColor::fromRgbF(0.5F, 0.0F, 0.0F))
+                names.append(label->objectName());
+        }
+        names.sort();
+        return names.join(u' ');
+    };
+    controller_->showNow(nullptr);
+    EXPECT_EQ(red(), QString());
+    get<QAbstractButton>("hourOn_")->click();
+    EXPECT_EQ(red(), u"daysSinceNewMoon_ illumination_");
+    get<QAbstractButton>("lunationOn_")->click();
+    EXPECT_TRUE(red().contains(u"lunation_") && red().contains(u"timeFull_"));
+    controller_->updateStaticMoonInfo();
+    EXPECT_EQ(red(), QString());
+}
+
+TEST_F(Panel, TheSettingsSpeakTheLocaleAndAreKept) {
+    const InLocale german("de_DE");
+    defaults()->set(PreferenceKeys::customOffsetTitle, u"GMT +5.5"_s);
+    load();
+    auto* zones = get<QComboBox>("timeZonePopup_");
+    EXPECT_EQ(zones->itemText(2), u"GMT +5,5") << "which an earlier run may have stored";
+    controller_->setDatePickerGMTSeconds(seconds(gmt(2026, 7, 1)));
+    controller_->updateStaticMoonInfo();
+    EXPECT_EQ(get("illumination_")->text().indexOf(u','), 2) << get("illumination_")->text().toStdString();
+
+    for (const auto& [button, title] : {std::pair{"cancelButton_", u"System"}, {"okButton_", u"GMT -3,5"}}) {
+        press(zones, Qt::Key_End);
+        auto* dialog = controller_->window()->findChild<QDialog*>();
+        ASSERT_NE(dialog, nullptr);
+        EXPECT_EQ(dialog->findChild<QLabel*>(u"smallMessage_"_s)->text(), u"For Example: -5; +1,5; 12; 0");
+        dialog->findChild<QLineEdit*>()->setText(u"\u22123,5 hours"_s);
+        dialog->findChild<QAbstractButton*>(QLatin1String(button))->click();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        EXPECT_EQ(zones->currentText(), QStringView(title));
+    }
+    EXPECT_EQ(defaults()->value(PreferenceKeys::timeZoneType), kTimeZoneCustom);
+    EXPECT_EQ(defaults()->value(PreferenceKeys::customOffset), -3.5F);
+    EXPECT_EQ(defaults()->value(PreferenceKeys::customOffsetTitle), u"GMT -3.5");
+
+    auto* latitude = get<QLineEdit>("latitude_");
+    const QString sun = get("sunRiseSet_")->text();
+    latitude->selectAll();
+    press(latitude, Qt::Key_5, u"5"_s);
+    press(latitude, Qt::Key_Return);
+    EXPECT_EQ(defaults()->value(PreferenceKeys::latitude), 5.0F);
+    EXPECT_NE(get("sunRiseSet_")->text(), sun);
+    get<QAction>("placeFromSystemSettings_")->trigger();
+    const QString shown = latitude->text();
+    EXPECT_EQ(shown.left(6), u"40,714");
+    EXPECT_EQ(latitude->cursorPosition(), 0);
+    load();
+    EXPECT_EQ(get<QLineEdit>("latitude_")->text(), shown);
+
+    const QImage before = get("moonImageView_")->pixmap().toImage();
+    press(get<Slider>("brightness_"), Qt::Key_Home);
+    EXPECT_EQ(defaults()->value(PreferenceKeys::brightness), 1.0F) << "what becomes grey: a dark picture";
+    EXPECT_NE(get("moonImageView_")->pixmap().toImage(), before);
+    defaults()->remove(PreferenceKeys::brightness);
+}
+
+TEST_F(Panel, TheTabKeyReachesEveryControlFromTopToBottom) {
+    LumivaneWindow* window = controller_->window();
+    window->show();
+    window->activateWindow();
+    QApplication::processEvents();
+    QSet<QWidget*> expected;
+    for (QWidget* each : window->findChildren<QWidget*>()) {
+        if (each->isVisible() && each->focusPolicy() & Qt::TabFocus && !each->focusProxy())
+            expected.insert(each);
+    }
+    EXPECT_GE(expected.size(), 24);
+    QList<QWidget*> reached;
+    for (int i = 0; i < 50; ++i) {
+        QWidget* focused = QApplication::focusWidget();
+        ASSERT_NE(focused, nullptr);
+        if (reached.isEmpty() || reached.last() != focused)
+            reached.append(focused);
+        press(focused, Qt::Key_Tab);
+    }
+    const qsizetype round = expected.size();
+    ASSERT_GT(reached.size(), round);
+    EXPECT_EQ(reached[round], reached[0]);
+    reached.resize(round);
+    EXPECT_EQ(QSet<QWidget*>(reached.cbegin(), reached.cend()), expected);
+    const auto place = [&](QWidget* each) {
+        const QPoint corner = each->mapTo(window, QPoint());
+        return std::pair(corner.y() / 20, corner.x());
+    };
+    std::ranges::rotate(reached, std::ranges::min_element(reached, {}, place));
+    EXPECT_TRUE(std::ranges::is_sorted(reached, {}, place));
+}
+
 TEST_F(PanelOfTheItem, CopiesWhatItShowsAndThePresentWithoutIt) {
     const auto expectCopied = [this](const QDateTime& moment) {
         choose("copyAction_");
-        const QString lunation = QStringLiteral("Lunation %1\n").arg(gMoon.GetLunation(seconds(moment)));
-        EXPECT_TRUE(QApplication::clipboard()->text().contains(lunation))
-            << QApplication::clipboard()->text().toStdString();
+        const QString text = QApplication::clipboard()->text();
+        EXPECT_TRUE(text.contains(u"Lunation %1\n"_s.arg(gMoon.GetLunation(seconds(moment)))))
+            << qPrintable(text);
     };
     {
         const Clock::Hold present(gmt(2026, 7, 1));
         expectCopied(Clock::now());
         EXPECT_EQ(window(), nullptr) << "a copy needs no panel";
         item_.showPanel();
-        window()->findChild<QAbstractButton*>(QStringLiteral("lunationOn_"))->click();
+        window()->findChild<QAbstractButton*>(u"lunationOn_"_s)->click();
         expectCopied(gmt(2026, 8, 1));
         EXPECT_FALSE(isShown()) << "a copy puts the drop-down away";
         EXPECT_NE(window(), nullptr) << "the next one is ready, made on this day";
@@ -279,7 +268,7 @@ TEST_F(PanelOfTheItem, CopiesWhatItShowsAndThePresentWithoutIt) {
 
 TEST_F(PanelOfTheItem, MayGoWhileAnAlertStandsInItsCommand) {
     FakeDesktop& desktop = FakeDesktop::shared();
-    QFile::remove(desktop.program(QStringLiteral("browser")));
+    QFile::remove(desktop.program(u"browser"_s));
     item_.statusItemClicked();
     const auto showAlert = InternetConfig::showAlert;
     InternetConfig::showAlert = [&](const QString&, const QString&) {
@@ -289,7 +278,7 @@ TEST_F(PanelOfTheItem, MayGoWhileAnAlertStandsInItsCommand) {
     };
     choose("homePageAction_");
     InternetConfig::showAlert = showAlert;
-    desktop.writeProgram(QStringLiteral("browser"));
+    desktop.writeProgram(u"browser"_s);
     EXPECT_TRUE(isShown()) << "the panel that is gone hides no other";
 }
 
@@ -312,7 +301,7 @@ TEST_F(PanelOfTheItem, ShowsItsCreditsOnceAndBlocksNothingWhileItIsHidden) {
     EXPECT_TRUE(dialogs().isEmpty());
     choose("aboutAction_");
     item_.statusItemClicked();
-    EXPECT_TRUE(window()->isVisible());
+    EXPECT_TRUE(isShown());
     ASSERT_EQ(dialogs().size(), 1);
     EXPECT_FALSE(dialogs().first()->frameGeometry().intersects(window()->geometry()));
     dialogs().first()->close();
@@ -333,28 +322,22 @@ TEST_F(PanelOfTheItem, GivesWayToAnAlertThatWaits) {
     EXPECT_TRUE(isShown());
 }
 
-TEST_F(PanelOfTheItem, WithoutATrayHidingIsQuitting) {
-    item_.showPanel();
-    const auto* button = window()->findChild<QAbstractButton*>(QStringLiteral("hideButton_"));
-    EXPECT_EQ(button->toolTip(), u"Quit (Ctrl+W)");
-    EXPECT_EQ(button->accessibleName(), u"Quit");
-}
-
-TEST_F(PanelOfTheItem, StaysAWindowWhereNoTrayWouldTakeItIn) {
+TEST_F(PanelOfTheItem, WithoutATrayIsAWindowWhoseHidingQuits) {
     item_.makeAsWindoid();
-    auto* button = window()->findChild<QAbstractButton*>(QStringLiteral("windoidButton_"));
-    EXPECT_TRUE(button->isHidden());
-    button->click();
-    EXPECT_TRUE(window()->isVisible());
-}
+    const auto* hide = window()->findChild<QAbstractButton*>(u"hideButton_"_s);
+    EXPECT_EQ(hide->toolTip(), u"Quit (Ctrl+W)");
+    EXPECT_EQ(hide->accessibleName(), u"Quit");
+    auto* back = window()->findChild<QAbstractButton*>(u"windoidButton_"_s);
+    EXPECT_TRUE(back->isHidden());
+    back->click();
+    EXPECT_TRUE(isShown());
 
-TEST_F(PanelOfTheItem, EscapeBringsTheStoredPlaceBack) {
-    item_.makeAsWindoid(); // which stays
-    auto* latitude = window()->findChild<QLineEdit*>(QStringLiteral("latitude_"));
-    auto* longitude = window()->findChild<QLineEdit*>(QStringLiteral("longitude_"));
+    auto* latitude = window()->findChild<QLineEdit*>(u"latitude_"_s);
+    auto* longitude = window()->findChild<QLineEdit*>(u"longitude_"_s);
     const std::pair stored{latitude->text(), longitude->text()};
-    latitude->setText(QStringLiteral("51"));
-    longitude->setText(QStringLiteral("7"));
-    QMetaObject::invokeMethod(window(), &LumivaneWindow::cancelOperation);
+    latitude->setText(u"51"_s);
+    longitude->setText(u"7"_s);
+    press(window(), Qt::Key_Escape);
     EXPECT_EQ(std::pair(latitude->text(), longitude->text()), stored);
+    EXPECT_TRUE(isShown());
 }

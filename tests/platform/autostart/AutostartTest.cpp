@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "platform/autostart/Autostart.h"
-
 #include "platform/desktop_entry/DesktopEntry.h"
 #include "tests/Interaction.h"
 #include "tests/platform/autostart/TestAutostart.h"
@@ -15,7 +13,14 @@
 
 namespace {
 
-class AutostartTest : public TestAutostart {};
+class AutostartTest : public TestAutostart {
+protected:
+    QString value(const QString& file, const char* key) const {
+        QString error;
+        const auto entry = DesktopEntry::fromFile(entryPath(file), &error);
+        return entry ? entry->text(key) : error;
+    }
+};
 
 /// A user whom the permissions of files bind, even where the tests run as root.
 class AsOrdinaryUser {
@@ -57,225 +62,175 @@ QByteArray application(const QByteArray& exec, const QByteArray& more = {}) {
 
 /// Names that a shell, a desktop entry, a keyfile or a terminal would take for something else.
 const QString kHostileNames[] = {
-    QStringLiteral("plain"),
-    QStringLiteral("my \"quoted\" app %f Möon"),
-    QStringLiteral("$HOME `id` $(id) ; & | > <"),
-    QStringLiteral("back\\slash \\n \\\\ end\\"),
-    QStringLiteral("new\nline\tand\rtab"),
-    QStringLiteral("it's #1 (x) * ? ~ 100%% %U"),
-    QStringLiteral(" blanks at both ends "),
-    QStringLiteral("Hidden=true"),
+    u"plain"_s,
+    u"my \"quoted\" app %f Möon"_s,
+    u"$HOME `id` $(id) ; & | > <"_s,
+    u"back\\slash \\n \\\\ end\\"_s,
+    u"new\nline\tand\rtab"_s,
+    u"it's #1 (x) * ? ~ 100%% %U"_s,
+    u" blanks at both ends "_s,
+    u"Hidden=true"_s,
 };
 
 } // namespace
 
 TEST_F(AutostartTest, WhatIsAddedIsListedAndLaunchedByGLib) {
-    const QString result = path(QStringLiteral("result"));
+    const QString result = path(u"result"_s);
     QStringList added;
     for (const QString& name : kHostileNames) {
-        const QString program =
-            makeProgram(QStringLiteral("programs/") + name,
-                        "#!/bin/sh\nprintf '%s|%s' \"$0\" $# > '" + result.toUtf8() + "'\n");
-        added.append(program);
-        ASSERT_EQ(Autostart::append(program, false), std::error_code()) << qPrintable(name);
+        added.append(makeProgram(u"programs/"_s + name,
+                                 "#!/bin/sh\nprintf '%s|%s' \"$0\" $# > '" + result.toUtf8() + "'\n"));
+        ASSERT_EQ(Autostart::append(added.constLast(), false), std::error_code()) << qPrintable(name);
         EXPECT_EQ(paths(), added);
-
         QFile::remove(result);
         const QString entry = entryPath(Autostart::items().constLast().file);
-        ASSERT_EQ(QProcess::execute(QStringLiteral("gio"), {QStringLiteral("launch"), entry}), 0)
-            << read(entry).constData();
-        ASSERT_TRUE(waitFor([&] { return QFileInfo(result).size() > 0; })) << read(entry).constData();
-        EXPECT_EQ(QString::fromUtf8(read(result)), program + QStringLiteral("|0")) << read(entry).constData();
+        ASSERT_EQ(QProcess::execute(u"gio"_s, {u"launch"_s, entry}), 0) << readFile(entry).constData();
+        ASSERT_TRUE(waitFor([&] { return QFileInfo(result).size() > 0; })) << readFile(entry).constData();
+        EXPECT_EQ(QString::fromUtf8(readFile(result)), added.constLast() + u"|0"_s);
     }
 }
 
-TEST_F(AutostartTest, ADesktopEntryIsCopiedForTheSession) {
-    const QString source = path(QStringLiteral("org.example.Moon.desktop"));
-    write(source,
-          application("\"/opt/My Moon/moon\" --quiet %U",
-                      "Icon=moon\nTryExec=/opt/My Moon/moon\nName[de]=Mond\nMimeType=text/x-moon;\n"));
-    ASSERT_EQ(Autostart::append(source, true), std::error_code());
-    EXPECT_EQ(Autostart::items(),
-              (QList<Autostart::Item>{{QStringLiteral("org.example.Moon.desktop"), source, true}}));
-    QString error;
-    const QString copied = entryPath(QStringLiteral("org.example.Moon.desktop"));
-    const auto entry = DesktopEntry::fromFile(copied, &error);
-    ASSERT_TRUE(entry) << qPrintable(error);
-    EXPECT_EQ(entry->text("Exec"), QStringLiteral("\"/opt/My Moon/moon\" --quiet %U"));
-    EXPECT_EQ(entry->text("Icon"), QStringLiteral("moon"));
-    EXPECT_EQ(entry->text("TryExec"), QStringLiteral("/opt/My Moon/moon"));
-    EXPECT_EQ(entry->text("X-LXQt-Need-Tray"), QStringLiteral("true"));
-    EXPECT_EQ(entry->text("X-KDE-autostart-after"), QStringLiteral("panel"));
-    EXPECT_EQ(entry->text("X-GNOME-Autostart-Delay"), QStringLiteral("2"));
-    EXPECT_EQ(QProcess::execute(QStringLiteral("desktop-file-validate"), {copied}), 0);
+TEST_F(AutostartTest, ADesktopEntryIsCopiedSoThatALoginFindsItsProgram) {
+    const QString program = makeProgram(u"my bin/moon"_s);
+    const WithEnvironment programs("PATH", path(u"my bin"_s).toUtf8() + ":/usr/bin:/bin");
+    const QString file = u"org.example.Moon.desktop"_s;
+    using Row = std::tuple<const char*, const char*>;
+    for (const auto& [exec, command] :
+         {Row{"moon", "\"PROGRAM\""}, Row{" moon  --quiet \"a b\" %U", "\"PROGRAM\"  --quiet \"a b\" %U"},
+          Row{"\"mo\"on x", "\"PROGRAM\" x"}, Row{"/bin/sh -c moon", "/bin/sh -c moon"},
+          Row{"no-such-program-anywhere -x", "no-such-program-anywhere -x"}}) {
+        SCOPED_TRACE(exec);
+        const QString expected = QString::fromLatin1(command).replace(u"PROGRAM"_s, program);
+        writeFile(path(file), application(exec, "Icon=moon\nTryExec=moon\nName[de]=Mond\n"));
+        ASSERT_EQ(Autostart::append(path(file), true), std::error_code());
+        EXPECT_EQ(Autostart::items(), (QList<Autostart::Item>{{file, path(file), true}}));
+        using Key = std::pair<const char*, QString>;
+        for (const auto& [key, text] :
+             {Key{"Exec", expected}, Key{"TryExec", expected.startsWith(u"no") ? u"moon"_s : program},
+              Key{"Icon", u"moon"_s}, Key{"X-LXQt-Need-Tray", u"true"_s},
+              Key{"X-KDE-autostart-after", u"panel"_s}, Key{"X-GNOME-Autostart-Delay", u"2"_s}})
+            EXPECT_EQ(value(file, key), text);
+        EXPECT_EQ(QProcess::execute(u"desktop-file-validate"_s, {entryPath(file)}), 0);
 
+        // As version 1.0.0 wrote it, switched off since.
+        const QByteArray before = application(exec, "Name[de]=Mond\nTryExec=moon\nHidden=true\n"
+                                                    "X-LoginItem-Position=1\nX-LoginItem-Path=" +
+                                                        path(file).toUtf8() + "\n# mine\n");
+        writeEntry(file, before);
+        const CaughtLog log;
+        for (int i = 0; i < 2; ++i)
+            Autostart::mend(path(file));
+        const QByteArray after = readFile(entryPath(file));
+        EXPECT_EQ(value(file, "Exec").simplified(), expected.simplified());
+        EXPECT_EQ(log.lines().size(), after == before ? 0 : 1);
+        EXPECT_TRUE(after.contains("Name[de]=Mond\n") && after.contains("\n# mine\n"));
+        EXPECT_TRUE(value(file, "Hidden") == u"true" && value(file, "X-LoginItem-Position") == u"1");
+        QFile::remove(entryPath(file));
+    }
     const CaughtLog log;
     for (const QByteArray& bytes :
          {QByteArray("[Desktop Entry]\nType=Link\nURL=/\n"), QByteArray("\0\1", 2)}) {
-        write(source, bytes);
-        EXPECT_EQ(Autostart::append(source, false), std::errc::invalid_argument);
+        writeFile(path(file), bytes);
+        EXPECT_EQ(Autostart::append(path(file), false), std::errc::invalid_argument);
     }
     EXPECT_EQ(log.lines().size(), 2);
-    EXPECT_EQ(files().size(), 1);
+    EXPECT_TRUE(files().isEmpty());
 }
 
-TEST_F(AutostartTest, ALoginFindsTheProgramWithoutASearch) {
-    const QString program = makeProgram(QStringLiteral("my bin/moon"));
-    const WithEnvironment programs("PATH", path(QStringLiteral("my bin")).toUtf8() + ":/usr/bin:/bin");
-    const QString source = path(QStringLiteral("org.example.Moon.desktop"));
-    const QString added = entryPath(QStringLiteral("org.example.Moon.desktop"));
-    const auto value = [&](const char* key) {
-        QString error;
-        const auto entry = DesktopEntry::fromFile(added, &error);
-        return entry ? entry->text(key) : error;
-    };
-    const struct {
-        const char* exec;
-        const char* command; ///< PROGRAM stands for the program
-    } cases[] = {
-        {"moon", "\"PROGRAM\""},
-        {" moon  --quiet \"a b\" %U", "\"PROGRAM\"  --quiet \"a b\" %U"},
-        {"\"mo\"on 'x y'", "\"PROGRAM\" 'x y'"},
-        {"/bin/sh -c moon", "/bin/sh -c moon"},
-        {"no-such-program-anywhere -x", "no-such-program-anywhere -x"},
-    };
-    for (const auto& each : cases) {
-        const QString command = QString::fromLatin1(each.command).replace(QStringLiteral("PROGRAM"), program);
-        write(source, application(each.exec, "TryExec=moon\n"));
-        ASSERT_EQ(Autostart::append(source, false), std::error_code());
-        EXPECT_EQ(value("Exec"), command);
-        EXPECT_EQ(value("TryExec"), command.startsWith(u"no") ? QStringLiteral("moon") : program)
-            << each.exec;
-
-        // As version 1.0.0 wrote it, switched off since.
-        const QByteArray before = application(each.exec, "Name[de]=Mond\nTryExec=moon\nHidden=true\n"
-                                                         "X-LoginItem-Position=1\nX-LoginItem-Path=" +
-                                                             source.toUtf8() + "\n# mine\n");
-        write(added, before);
-        const CaughtLog log;
-        Autostart::mend(source);
-        Autostart::mend(source);
-        EXPECT_EQ(value("Exec").simplified(), command.simplified());
-        EXPECT_EQ(log.lines().size(), read(added) == before ? 0 : 1);
-        EXPECT_TRUE(read(added).contains("Name[de]=Mond\n") && read(added).contains("\n# mine\n"));
-        EXPECT_TRUE(value("Hidden") == u"true" && value("X-LoginItem-Position") == u"1");
-        QFile::remove(added);
-    }
-}
-
-TEST_F(AutostartTest, OtherProgramsEntriesAreReadAndNeverWritten) {
+TEST_F(AutostartTest, OthersEntriesAreReadAndKeptAndTheOrderIsTheOneOfAdding) {
     const QByteArray foreign = "# mine\r\n[Desktop Entry]\nExec=env  FOO=1\nType=Application\n\n[Other]\nx=y";
-    writeEntry(QStringLiteral("m.desktop"), foreign);
-    writeEntry(QStringLiteral("Moon.desktop"), application("'/no such/ program' %f"));
-    writeEntry(QStringLiteral("lost.desktop"), application("no-such-program-anywhere"));
-    const QString program = makeProgram(QStringLiteral("Moon"));
-    EXPECT_EQ(Autostart::append(program, false), std::error_code());
-    EXPECT_EQ(paths(),
-              (QStringList{QStringLiteral("/no such/ program"), entryPath(QStringLiteral("lost.desktop")),
-                           QStringLiteral("/usr/bin/env"), program}));
-    EXPECT_TRUE(files().contains(QStringLiteral("Moon-2.desktop"))) << "a name that is taken stays another's";
-
-    EXPECT_EQ(Autostart::remove(Autostart::items()[0]), std::error_code());
-    EXPECT_EQ(Autostart::append(program, true), std::error_code());
-    EXPECT_EQ(files(), (QStringList{QStringLiteral("Moon-2.desktop"), QStringLiteral("lost.desktop"),
-                                    QStringLiteral("m.desktop")}));
-    EXPECT_EQ(read(entryPath(QStringLiteral("m.desktop"))), foreign);
-}
-
-TEST_F(AutostartTest, TheOrderIsTheOneOfAdding) {
-    QStringList added;
-    for (const char* name : {"c", "a", "b"}) {
-        added.append(makeProgram(QString::fromLatin1(name)));
-        Autostart::append(added.constLast(), false);
+    writeEntry(u"m.desktop"_s, foreign);
+    writeEntry(u"c.desktop"_s, application("'/no such/ program' %f"));
+    writeEntry(u"lost.desktop"_s, application("no-such-program-anywhere"));
+    QStringList expected{u"/no such/ program"_s, entryPath(u"lost.desktop"_s), u"/usr/bin/env"_s};
+    for (const QString& name : {u"c"_s, u"a"_s, u"b"_s}) {
+        expected.append(makeProgram(name));
+        EXPECT_EQ(Autostart::append(expected.constLast(), false), std::error_code());
     }
-    EXPECT_EQ(paths(), added);
-    Autostart::append(added[0], true); // once more: it moves, and does not start twice
-    added.append(added.takeFirst());
-    EXPECT_EQ(paths(), added);
-    EXPECT_EQ(files().size(), 3);
-
-    // The desktop's own settings switch an entry off by a key in it.
-    const QString first = entryPath(QStringLiteral("a.desktop"));
-    write(first, read(first) + "Hidden=true\nX-LoginItem-Position=99999999999999999999\n");
-    added.removeFirst();
-    EXPECT_EQ(paths(), added);
-    added.append(path(QStringLiteral("a")));
-    EXPECT_EQ(Autostart::append(added.constLast(), false), std::error_code());
-    EXPECT_EQ(paths(), added);
-    EXPECT_EQ(files().size(), 3);
+    EXPECT_EQ(paths(), expected);
+    EXPECT_TRUE(files().contains(u"c-2.desktop"_s)) << "a name that is taken stays another's";
+    Autostart::append(path(u"c"_s), true); // once more: it moves, and does not start twice
+    expected.move(3, 5);
+    EXPECT_EQ(paths(), expected);
+    // The desktop's own settings switch an entry off by a key in it, and adding it switches it on again.
+    const QString off = entryPath(u"a.desktop"_s);
+    writeFile(off, readFile(off) + "Hidden=true\nX-LoginItem-Position=99999999999999999999\n");
+    expected.removeOne(path(u"a"_s));
+    EXPECT_EQ(paths(), expected);
+    Autostart::append(path(u"a"_s), false);
+    EXPECT_EQ(paths(), expected << path(u"a"_s));
+    EXPECT_EQ(Autostart::remove(Autostart::items()[0]), std::error_code());
+    EXPECT_EQ(files().size(), 5);
+    EXPECT_EQ(readFile(entryPath(u"m.desktop"_s)), foreign);
 }
 
 TEST_F(AutostartTest, WhatTheDesktopDoesNotStartIsNoLoginItem) {
-    const QByteArray off[] = {"Hidden=true", "X-GNOME-Autostart-enabled=false", "OnlyShowIn=KDE;GNOME;",
-                              "NotShowIn=KDE;XFCE;", "X-MATE-Autostart-enabled=false"};
-    for (std::size_t i = 0; i < std::size(off); ++i)
-        writeEntry(QStringLiteral("off%1.desktop").arg(i), application("/bin/off", off[i] + '\n'));
-    writeEntry(QStringLiteral("link.desktop"), "[Desktop Entry]\nType=Link\nURL=/\n");
-    writeEntry(QStringLiteral("none.desktop"), "[Desktop Entry]\nType=Application\nName=No program\n");
-    writeEntry(QStringLiteral(".hidden.desktop"), application("/bin/off"));
-    writeEntry(QStringLiteral("notes.txt"), application("/bin/off"));
-    writeEntry(QStringLiteral("on1.desktop"),
-               application("/bin/on1", "OnlyShowIn=KDE;XFCE;\nHidden=false\n"));
-    writeEntry(QStringLiteral("on2.desktop"), application("/bin/on2", "NotShowIn=KDE;\n"));
-    EXPECT_EQ(paths(), (QStringList{QStringLiteral("/bin/on1"), QStringLiteral("/bin/on2")}));
+    using Row = std::tuple<QString, const char*>;
+    for (const auto& [file, keys] :
+         {Row{u"off1.desktop"_s, "Hidden=true"}, Row{u"off2.desktop"_s, "X-GNOME-Autostart-enabled=false"},
+          Row{u"off3.desktop"_s, "OnlyShowIn=KDE;GNOME;"}, Row{u"off4.desktop"_s, "NotShowIn=KDE;XFCE;"},
+          Row{u"off5.desktop"_s, "X-MATE-Autostart-enabled=false"}, Row{u".hidden.desktop"_s, ""},
+          Row{u"notes.txt"_s, ""}, Row{u"on1.desktop"_s, "OnlyShowIn=KDE;XFCE;\nHidden=false"},
+          Row{u"on2.desktop"_s, "NotShowIn=KDE;"}})
+        writeEntry(file, application("/bin/" + file.left(3).toUtf8(), keys));
+    writeEntry(u"link.desktop"_s, "[Desktop Entry]\nType=Link\nURL=/\n");
+    writeEntry(u"none.desktop"_s, "[Desktop Entry]\nType=Application\nName=No program\n");
+    EXPECT_EQ(paths(), (QStringList{u"/bin/on1"_s, u"/bin/on2"_s}));
     const WithEnvironment desktop("XDG_CURRENT_DESKTOP", "X-Other:KDE");
-    EXPECT_EQ(paths().filter(QStringLiteral("/bin/on")), QStringList{QStringLiteral("/bin/on1")});
+    EXPECT_EQ(paths().filter(u"/bin/on"_s), QStringList{u"/bin/on1"_s});
 }
 
 TEST_F(AutostartTest, DamagedEntriesAreLeftOutWithOneLine) {
-    writeEntry(QStringLiteral("huge.desktop"), application("/bin/huge", QByteArray(300 * 1024, '#')));
-    writeEntry(QStringLiteral("binary.desktop"), QByteArray("\x7F"
-                                                            "ELF\0\0\xFF\xFE",
-                                                            8));
-    writeEntry(QStringLiteral("empty.desktop"), {});
-    writeEntry(QStringLiteral("headless.desktop"), "[Other]\nExec=/bin/x\n");
-    QDir().mkpath(entryPath(QStringLiteral("folder.desktop")));
-    QFile::link(QStringLiteral("loop.desktop"), entryPath(QStringLiteral("loop.desktop")));
-    QFile::link(QStringLiteral("/dev/zero"), entryPath(QStringLiteral("zero.desktop")));
-    ASSERT_EQ(mkfifo(qPrintable(entryPath(QStringLiteral("pipe.desktop"))), 0600), 0);
+    writeEntry(u"huge.desktop"_s, application("/bin/huge", QByteArray(300 * 1024, '#')));
+    writeEntry(u"binary.desktop"_s, QByteArray("\x7F"
+                                               "ELF\0\0\xFF\xFE",
+                                               8));
+    writeEntry(u"empty.desktop"_s, {});
+    QFile::link(u"loop.desktop"_s, entryPath(u"loop.desktop"_s));
+    ASSERT_EQ(mkfifo(qPrintable(entryPath(u"pipe.desktop"_s)), 0600), 0);
     const QStringList damaged = files();
-    writeEntry(QStringLiteral("good.desktop"), application("/bin/good"));
-
+    writeEntry(u"good.desktop"_s, application("/bin/good"));
     const CaughtLog log;
-    EXPECT_EQ(paths(), QStringList{QStringLiteral("/bin/good")});
-    EXPECT_EQ(paths(), QStringList{QStringLiteral("/bin/good")});
+    for (int i = 0; i < 2; ++i)
+        EXPECT_EQ(paths(), QStringList{u"/bin/good"_s});
     EXPECT_EQ(log.lines().size(), damaged.size()) << qPrintable(log.lines().join(u'\n'));
     for (const QString& file : damaged)
         EXPECT_EQ(log.lines().filter(entryPath(file)).size(), 1) << qPrintable(file);
-
     // Nor does adding one of these names follow a link or replace what is there.
-    EXPECT_EQ(Autostart::append(makeProgram(QStringLiteral("loop")), false), std::error_code());
-    EXPECT_TRUE(files().contains(QStringLiteral("loop-2.desktop")));
-    EXPECT_EQ(files().size(), damaged.size() + 2);
+    EXPECT_EQ(Autostart::append(makeProgram(u"loop"_s), false), std::error_code());
+    EXPECT_TRUE(files().contains(u"loop-2.desktop"_s));
 }
 
-TEST_F(AutostartTest, ARefusingDiskLosesNothing) {
-    const auto setModes = [this](mode_t ofFolders, mode_t ofEntry) {
-        chmod(qPrintable(entryPath(QStringLiteral("Moon.desktop"))), ofEntry);
-        for (const char* folder : {"config/autostart", "config", ""})
-            chmod(qPrintable(path(QString::fromLatin1(folder))), ofFolders);
-    };
-    const QString program = makeProgram(QStringLiteral("Moon"));
-    const QString other = makeProgram(QStringLiteral("Other"));
+TEST_F(AutostartTest, ARefusingDiskLosesNothingAndAKilledCopysDraftsGo) {
+    const QString program = makeProgram(u"Moon"_s);
+    const QString other = makeProgram(u"Other"_s);
+    writeEntry(u".login-item-young1"_s, {});
+    writeEntry(u".login-item-older1"_s, {});
+    QFile old(entryPath(u".login-item-older1"_s));
+    ASSERT_TRUE(old.open(QIODevice::ReadWrite));
+    old.setFileTime(QDateTime::currentDateTime().addSecs(-3600), QFileDevice::FileModificationTime);
     ASSERT_EQ(Autostart::append(program, false), std::error_code());
-    const auto items = Autostart::items();
-    const QByteArray before = read(entryPath(QStringLiteral("Moon.desktop")));
+    const QStringList before = files();
+    EXPECT_EQ(before, (QStringList{u".login-item-young1"_s, u"Moon.desktop"_s}));
+    const QByteArray bytes = readFile(entryPath(u"Moon.desktop"_s));
     {
         const FullDisk full;
         EXPECT_EQ(Autostart::append(program, true), std::errc::io_error);
         EXPECT_EQ(Autostart::append(other, false), std::errc::io_error);
     }
+    const auto setModes = [this](mode_t mode) {
+        for (const QString& folder : {u"config/autostart"_s, u"config"_s, u""_s})
+            chmod(qPrintable(path(folder)), mode);
+    };
+    setModes(0555);
     {
-        setModes(0555, 0444);
         const AsOrdinaryUser user;
         EXPECT_EQ(Autostart::append(other, false), std::errc::permission_denied);
-        EXPECT_EQ(Autostart::remove(items[0]), std::errc::permission_denied);
-        EXPECT_EQ(Autostart::items(), items);
+        EXPECT_EQ(Autostart::remove({u"Moon.desktop"_s, program, false}), std::errc::permission_denied);
     }
-    setModes(0755, 0600);
-    EXPECT_EQ(files(), QStringList{QStringLiteral("Moon.desktop")});
-    EXPECT_EQ(read(entryPath(QStringLiteral("Moon.desktop"))), before);
-
+    setModes(0755);
+    EXPECT_EQ(files(), before);
+    EXPECT_EQ(readFile(entryPath(u"Moon.desktop"_s)), bytes);
     // A file where the folder should be.
     const WithEnvironment config("XDG_CONFIG_HOME", program.toUtf8());
     EXPECT_EQ(Autostart::append(program, false), std::errc::not_a_directory);

@@ -6,45 +6,30 @@
 
 #include <QDir>
 #include <QFile>
-#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
 /// An autostart folder, and a folder for programs, of a test's own.
 class TestAutostart : public testing::Test {
 protected:
-    TestAutostart() { QDir(home_.path()).mkpath(QStringLiteral("config/autostart")); }
+    TestAutostart() { QDir().mkpath(entryPath(QString())); }
 
     QString path(const QString& file) const { return home_.filePath(file); }
-    QString entryPath(const QString& file) const { return path(QStringLiteral("config/autostart/") + file); }
+    QString entryPath(const QString& file) const { return path(u"config/autostart/"_s + file); }
 
     /// Writes an entry of another program's into the autostart folder.
-    void writeEntry(const QString& file, const QByteArray& bytes) const { write(entryPath(file), bytes); }
+    void writeEntry(const QString& file, const QByteArray& bytes) const { writeFile(entryPath(file), bytes); }
 
     /// A program in the programs' folder that can be run.
     QString makeProgram(const QString& name, const QByteArray& script = "#!/bin/sh\n") const {
-        const QString program = path(name);
-        QDir().mkpath(QFileInfo(program).path());
-        write(program, script);
-        QFile::setPermissions(program, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-        return program;
-    }
-
-    static void write(const QString& path, const QByteArray& bytes) {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << qPrintable(path);
-        ASSERT_EQ(file.write(bytes), bytes.size());
-    }
-
-    static QByteArray read(const QString& path) {
-        QFile file(path);
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(path);
-        return file.readAll();
+        writeFile(path(name), script);
+        QFile::setPermissions(path(name), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        return path(name);
     }
 
     /// Every name in the folder, drafts and all.
     QStringList files() const {
-        return QDir(path(QStringLiteral("config/autostart")))
+        return QDir(entryPath(QString()))
             .entryList(QDir::AllEntries | QDir::System | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
     }
 
@@ -57,7 +42,7 @@ protected:
 
 private:
     // A path without the program's name in it.
-    QTemporaryDir home_{QDir::tempPath() + QStringLiteral("/home-XXXXXX")};
-    WithEnvironment config_{"XDG_CONFIG_HOME", home_.filePath(QStringLiteral("config")).toUtf8()};
+    QTemporaryDir home_{QDir::tempPath() + u"/home-XXXXXX"_s};
+    WithEnvironment config_{"XDG_CONFIG_HOME", home_.filePath(u"config"_s).toUtf8()};
     WithEnvironment desktop_{"XDG_CURRENT_DESKTOP", "XFCE"};
 };

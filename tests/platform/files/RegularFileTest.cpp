@@ -18,13 +18,10 @@
 TEST(RegularFile, ReadsNothingThatOnlyStandsInAFilesPlace) {
     const QTemporaryDir folder;
     const auto path = [&](const char* name) { return folder.filePath(QLatin1String(name)); };
-    QFile file(path("file"));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("moon");
-    file.close();
+    writeFile(path("file"), "moon");
     QFile::link(path("file"), path("link"));
     QFile::link(path("none"), path("dangling"));
-    QFile::link(QStringLiteral("/dev/zero"), path("device"));
+    QFile::link(u"/dev/zero"_s, path("device"));
     QDir().mkpath(path("folder"));
     ASSERT_EQ(mkfifo(qPrintable(path("pipe")), 0600), 0);
 
@@ -46,25 +43,24 @@ TEST(RegularFile, ReadsNothingThatOnlyStandsInAFilesPlace) {
 }
 
 TEST(RegularFile, NoResourceIsWaitedFor) {
-    const QTemporaryDir folder;
+    const OtherResources resources;
     for (const char* name : {"Lunations.plist", "M07.png", "AskNumber.ui"})
-        ASSERT_EQ(mkfifo(qPrintable(folder.filePath(QLatin1String(name))), 0600), 0);
-    const WithEnvironment resources("LUMIVANE_RESOURCES", folder.path().toUtf8());
+        ASSERT_EQ(mkfifo(qPrintable(resources.path(QLatin1String(name))), 0600), 0);
     const CaughtLog log;
     CMoon moon;
     moon.Init();
-    EXPECT_TRUE(NSImageUtilities::imageNamed(QStringLiteral("M07")).isNull());
+    EXPECT_TRUE(NSImageUtilities::imageNamed(u"M07"_s).isNull());
     ASSERT_EQ(log.lines().size(), 2);
     for (const QString& line : log.lines())
         EXPECT_TRUE(line.contains(u"no regular file")) << qPrintable(line);
     QString error;
-    EXPECT_FALSE(Layout::load(QStringLiteral("AskNumber"), nullptr, &error));
+    EXPECT_FALSE(Layout::load(u"AskNumber"_s, nullptr, &error));
     EXPECT_TRUE(error.contains(u"no regular file")) << qPrintable(error);
 }
 
 TEST(LogTest, AForeignTextIsOneVisibleLine) {
     const CaughtLog log;
-    logLine(QStringLiteral("a\nb\x1b[31mc\u202ed\u2028\u0085 \u00e9 \u6708 \U0001F319"));
+    logLine(u"a\nb\x1b[31mc\u202ed\u2028\u0085 \u00e9 \u6708 \U0001F319"_s);
     EXPECT_EQ(log.lines(), QStringList(QStringLiteral("a\\nb\\u001b[31mc\\u202ed\\u2028\\u0085 \u00e9 \u6708 "
                                                       "\U0001F319")));
 }

@@ -8,22 +8,26 @@
 #include "tests/TestMain.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDateTimeEdit>
 #include <QDoubleSpinBox>
-#include <QFile>
 #include <QLineEdit>
 #include <QMetaProperty>
 #include <QPushButton>
-#include <QSlider>
-#include <QTemporaryDir>
 #include <QWheelEvent>
 
 #include <gtest/gtest.h>
 
 namespace {
+
+constexpr PreferenceKey<float> kFloat{QLatin1String("LayoutFloat"), 1.5F, {-90.0F, 90.0F}};
+constexpr PreferenceKey<bool> kBool{QLatin1String("LayoutBool"), true};
+constexpr PreferenceKey<int> kType{QLatin1String("LayoutType"), 2};
+
+Preferences* defaults() {
+    return Preferences::standard();
+}
 
 class Owner : public QObject {
     Q_OBJECT
@@ -36,179 +40,150 @@ public:
 public Q_SLOTS:
     void pushed(QObject* sender) {
         senders.append(sender);
-        seen.append(Preferences::standard()->floatForKey(QStringLiteral("NibFloat")));
+        seen.append(defaults()->value(kFloat));
     }
     void withoutSender() {}
 };
 
-QString control(const char* type, const char* name, const char* action, const char* binding = nullptr,
+/// A control in a layout; `more` is its other properties.
+QString control(const char* type, const char* name, const char* action = "", const char* binding = "",
                 const char* more = "") {
-    QString xml =
-        QStringLiteral("<widget class=\"%1\" name=\"%2\">").arg(QLatin1String(type), QLatin1String(name));
-    const auto add = [&xml](const char* key, const char* value) {
-        if (value)
-            xml += QStringLiteral(
-                       "<property name=\"%1\" stdset=\"0\"><string notr=\"true\">%2</string></property>")
-                       .arg(QLatin1String(key), QLatin1String(value));
-    };
-    add("action", action);
-    add("binding", binding);
-    return xml + QLatin1String(more) + QStringLiteral("</widget>");
+    QString xml = u"<widget class=\"%1\" name=\"%2\">%3"_s.arg(QLatin1String(type), QLatin1String(name),
+                                                               QLatin1String(more));
+    for (const auto& [key, value] : {std::pair{"action", action}, {"binding", binding}}) {
+        if (*value)
+            xml += u"<property name=\"%1\" stdset=\"0\"><string notr=\"true\">%2</string></property>"_s.arg(
+                QLatin1String(key), QLatin1String(value));
+    }
+    return xml + u"</widget>"_s;
 }
 
 class LayoutTest : public testing::Test {
 protected:
     LayoutTest() {
-        Layout::registerClass(QStringLiteral("Slider"), [](QWidget* parent) { return new Slider(parent); });
-        defaults()->registerKey(PreferenceKey<float>{QLatin1String("NibFloat"), 1.5F});
-        defaults()->registerKey(PreferenceKey<bool>{QLatin1String("NibBool"), true});
-        defaults()->registerKey(PreferenceKey<int>{QLatin1String("NibType"), 2});
+        Layout::registerClass(u"Slider"_s, [](QWidget* parent) { return new Slider(parent); });
+        defaults()->registerKey(kFloat);
+        defaults()->registerKey(kBool);
+        defaults()->registerKey(kType);
     }
     ~LayoutTest() override {
-        for (const QString& key :
-             {QStringLiteral("NibFloat"), QStringLiteral("NibBool"), QStringLiteral("NibType")})
-            defaults()->removeObjectForKey(key);
+        defaults()->remove(kFloat);
+        defaults()->remove(kBool);
+        defaults()->remove(kType);
     }
 
-    static Preferences* defaults() { return Preferences::standard(); }
-
-    void write(const QByteArray& text) {
-        QFile file(folder_.filePath(QStringLiteral("Trial.ui")));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(text);
+    /// Loads a layout of these controls; why that can't be done.
+    QString load(const QString& children, const char* start = "<ui version=\"4.0\">") {
+        writeFile(resources_.path(u"Trial.ui"_s),
+                  start + ("<class>Trial</class><widget class=\"QWidget\" name=\"Trial\">" +
+                           children.toUtf8() + "</widget></ui>"));
+        QString error;
+        root_ = Layout::load(u"Trial"_s, &owner_, &error);
+        EXPECT_EQ(root_ == nullptr, !error.isEmpty());
+        return error;
     }
 
-    bool load(const QString& children) {
-        write("<?xml version=\"1.0\"?><ui version=\"4.0\"><class>Trial</class>"
-              "<widget class=\"QWidget\" name=\"Trial\">" +
-              children.toUtf8() + "</widget></ui>");
-        error_.clear();
-        root_ = Layout::load(QStringLiteral("Trial"), &owner_, &error_);
-        return root_ != nullptr;
-    }
-
-    template <typename T>
-    T* get(const char* name) {
+    template <typename T = QWidget>
+    T* get(const char* name, const char* complaint = "") {
         T* object = nullptr;
-        EXPECT_TRUE(Layout::connectOutlet(root_.get(), name, object, &error_)) << error_.toStdString();
+        QString error;
+        EXPECT_EQ(Layout::connectOutlet(root_.get(), name, object, &error), !*complaint);
+        EXPECT_TRUE(error.contains(QLatin1String(complaint))) << error.toStdString();
         return object;
     }
 
-    bool reasonHolds(const char* part) const { return error_.contains(QLatin1String(part)); }
-
-    const QTemporaryDir folder_;
-    const WithEnvironment resources_{"LUMIVANE_RESOURCES", folder_.path().toLocal8Bit()};
+    const OtherResources resources_;
     Owner owner_;
-    QString error_;
     std::unique_ptr<QWidget> root_;
 };
 
 } // namespace
 
 TEST_F(LayoutTest, TellsWhyALayoutCannotBeLoaded) {
-    EXPECT_EQ(Layout::load(QStringLiteral("Absent"), &owner_, &error_), nullptr);
-    EXPECT_TRUE(reasonHolds("Absent"));
-
-    write("<ui version=\"4.0\"><widget class=\"QWidget\"");
-    error_.clear();
-    EXPECT_EQ(Layout::load(QStringLiteral("Trial"), &owner_, &error_), nullptr);
-    EXPECT_TRUE(reasonHolds("damaged")) << error_.toStdString();
-
-    EXPECT_FALSE(load(control("NoSuchClass", "a", nullptr)));
-    EXPECT_TRUE(reasonHolds("NoSuchClass"));
-    for (const char* action : {"nothing", "notASlot", "withoutSender"}) {
-        EXPECT_FALSE(load(control("QPushButton", "a", action))) << action;
-        EXPECT_TRUE(reasonHolds(action)) << error_.toStdString();
-    }
-    EXPECT_FALSE(load(control("QLabel", "a", "pushed")));
-    EXPECT_FALSE(load(control("QPushButton", "a", nullptr, "NibBool"))) << "it can't be checked";
-    // The caller may not want to know.
-    EXPECT_EQ(Layout::load(QStringLiteral("Trial"), &owner_, nullptr), nullptr);
-}
-
-TEST_F(LayoutTest, OutletsAreFoundByNameAndType) {
-    ASSERT_TRUE(load(control("QPushButton", "button_", nullptr)));
-    EXPECT_EQ(get<QPushButton>("button_"), get<QAbstractButton>("button_"));
-    EXPECT_EQ(get<QWidget>("Trial"), root_.get());
-
-    QSlider* slider = nullptr;
-    EXPECT_FALSE(Layout::connectOutlet(root_.get(), "button_", slider, &error_));
-    EXPECT_TRUE(reasonHolds("QSlider"));
-    EXPECT_FALSE(Layout::connectOutlet(root_.get(), "slider_", slider, &error_));
-    EXPECT_TRUE(reasonHolds("slider_"));
-    EXPECT_EQ(slider, nullptr);
+    using Row = std::tuple<QString, const char*>;
+    for (const auto& [child, reason] :
+         {Row{control("NoSuchClass", "a"), "NoSuchClass"},
+          Row{control("QPushButton", "a", "nothing"), "nothing"},
+          Row{control("QPushButton", "a", "notASlot"), "notASlot"},
+          Row{control("QPushButton", "a", "withoutSender"), "withoutSender"},
+          Row{control("QLabel", "a", "pushed"), "reports no changes"},
+          Row{control("QPushButton", "a", "", "LayoutBool"), "LayoutBool"}}) // it can't be checked
+        EXPECT_TRUE(load(child).contains(QLatin1String(reason))) << reason;
+    EXPECT_TRUE(load({}, "<ui><widget").contains(u"damaged"));
+    QString error;
+    EXPECT_EQ(Layout::load(u"Absent"_s, &owner_, &error), nullptr);
+    EXPECT_TRUE(error.contains(u"Absent"));
 }
 
 TEST_F(LayoutTest, ChangesByTheUserReachTheSlot) {
-    ASSERT_TRUE(load(control("QPushButton", "button", "pushed", nullptr,
-                             "<property name=\"tag\" stdset=\"0\"><number>-7</number></property>") +
-                     control("QComboBox", "box", "pushed") + control("Slider", "slider", "pushed") +
-                     control("QDateTimeEdit", "date", "pushed") + control("QLineEdit", "field", "pushed") +
-                     QStringLiteral("<action name=\"item\"><property name=\"action\" stdset=\"0\">"
-                                    "<string notr=\"true\">pushed</string></property></action>")))
-        << error_.toStdString();
-    EXPECT_EQ(Layout::tag(get<QPushButton>("button")), -7);
-    EXPECT_EQ(Layout::tag(get<QComboBox>("box")), 0);
+    ASSERT_EQ(load(control("QPushButton", "button", "pushed", "",
+                           "<property name=\"tag\" stdset=\"0\"><number>-7</number></property>") +
+                   control("QComboBox", "box", "pushed") + control("Slider", "slider", "pushed") +
+                   control("QDateTimeEdit", "date", "pushed") + control("QLineEdit", "field", "pushed") +
+                   u"<action name=\"item\"><property name=\"action\" stdset=\"0\">"
+                   "<string notr=\"true\">pushed</string></property></action>"_s),
+              QString());
+    EXPECT_EQ(Layout::tag(get("button")), -7);
+    EXPECT_EQ(Layout::tag(get("box")), 0);
+    EXPECT_EQ(get("Trial"), root_.get());
+    EXPECT_EQ(get<QComboBox>("button", "QComboBox"), nullptr);
+    EXPECT_EQ(get("absent_", "absent_"), nullptr);
 
-    auto* box = get<QComboBox>("box");
-    box->addItems({QStringLiteral("a"), QStringLiteral("b")});
+    get<QComboBox>("box")->addItems({u"a"_s, u"b"_s});
     auto* field = get<QLineEdit>("field");
-    field->setText(QStringLiteral("by the program"));
+    field->setText(u"by the program"_s);
     press(field, Qt::Key_Return);
     EXPECT_TRUE(owner_.senders.isEmpty()) << "nothing was done by the user";
-
     get<QPushButton>("button")->click();
-    press(box, Qt::Key_Down);
-    press(get<QSlider>("slider"), Qt::Key_Up);
+    press(get("box"), Qt::Key_Down);
+    press(get("slider"), Qt::Key_Up);
     get<QDateTimeEdit>("date")->stepBy(1);
-    press(field, Qt::Key_X, QStringLiteral("x"));
+    press(field, Qt::Key_X, u"x"_s);
     press(field, Qt::Key_Return);
     press(field, Qt::Key_Return);
     get<QAction>("item")->trigger();
-    EXPECT_EQ(owner_.senders, (QList<QObject*>{get<QObject>("button"), box, get<QObject>("slider"),
-                                               get<QObject>("date"), field, get<QObject>("item")}));
+    EXPECT_EQ(owner_.senders, (QList<QObject*>{get("button"), get("box"), get("slider"), get("date"), field,
+                                               get<QAction>("item")}));
 }
 
 TEST_F(LayoutTest, ABoundControlFollowsAndStoresItsPreference) {
-    ASSERT_TRUE(load(control("QCheckBox", "check", nullptr, "NibBool") +
-                     control("QComboBox", "box", nullptr, "NibType") +
-                     control("Slider", "slider", "pushed", "NibFloat",
-                             "<property name=\"maxValue\"><double>50</double></property>")))
-        << error_.toStdString();
+    ASSERT_EQ(load(control("QCheckBox", "check", "", "LayoutBool") +
+                   control("QComboBox", "box", "", "LayoutType") +
+                   control("Slider", "slider", "pushed", "LayoutFloat",
+                           "<property name=\"maxValue\"><double>50</double></property>")),
+              QString());
     auto* check = get<QCheckBox>("check");
     EXPECT_TRUE(check->isChecked());
-    defaults()->setBool(false, QStringLiteral("NibBool"));
+    defaults()->set(kBool, false);
     EXPECT_FALSE(check->isChecked());
     check->click();
-    EXPECT_TRUE(defaults()->boolForKey(QStringLiteral("NibBool")));
+    EXPECT_TRUE(defaults()->value(kBool));
 
     auto* box = get<QComboBox>("box");
     for (const int type : {1, 2, 3})
         box->addItem(QString::number(type), type);
-    box->addItem(QStringLiteral("Other"));
+    box->addItem(u"Other"_s);
     EXPECT_EQ(box->currentIndex(), 1);
-    defaults()->setInteger(3, QStringLiteral("NibType"));
+    defaults()->set(kType, 3);
     EXPECT_EQ(box->currentIndex(), 2);
     press(box, Qt::Key_Down);
-    EXPECT_EQ(defaults()->integerForKey(QStringLiteral("NibType")), 3)
-        << "an entry without a number stores none";
+    EXPECT_EQ(defaults()->value(kType), 3) << "an entry without a number stores none";
     press(box, Qt::Key_Home);
-    EXPECT_EQ(defaults()->integerForKey(QStringLiteral("NibType")), 1);
+    EXPECT_EQ(defaults()->value(kType), 1);
 
     auto* slider = get<Slider>("slider");
     EXPECT_EQ(slider->doubleValue(), 1.5);
-    defaults()->setFloat(40, QStringLiteral("NibFloat"));
-    EXPECT_EQ(slider->doubleValue(), 40);
+    for (const float number : {40.0F, 80.0F}) {
+        defaults()->set(kFloat, number);
+        EXPECT_EQ(slider->doubleValue(), std::min(number, 50.0F));
+    }
     EXPECT_TRUE(owner_.senders.isEmpty()) << "the preference's own changes send nothing";
-    defaults()->setFloat(1e9F, QStringLiteral("NibFloat"));
-    EXPECT_EQ(slider->doubleValue(), 50);
     press(slider, Qt::Key_Home);
     EXPECT_EQ(owner_.seen, QList<float>{0}) << "the action sees what was stored";
 }
 
 TEST_F(LayoutTest, ABoundTextFieldTakesNumbersWithinTheRangeOnly) {
-    defaults()->registerKey(PreferenceKey<float>{QLatin1String("NibFloat"), 1.5F, {-90.0F, 90.0F}});
-    ASSERT_TRUE(load(control("QLineEdit", "field", "pushed", "NibFloat"))) << error_.toStdString();
+    ASSERT_EQ(load(control("QLineEdit", "field", "pushed", "LayoutFloat")), QString());
     auto* field = get<QLineEdit>("field");
     const auto type = [field](const char* text) {
         field->selectAll();
@@ -222,12 +197,11 @@ TEST_F(LayoutTest, ABoundTextFieldTakesNumbersWithinTheRangeOnly) {
     type(" -33.25 ");
     EXPECT_EQ(owner_.seen, QList<float>{-33.25F});
     EXPECT_EQ(field->text(), u"-33.25");
-    const QString noNumber = QStringLiteral("This is not a number. Example: 12.5");
+    const QString noNumber = u"This is not a number. Example: 12.5"_s;
+    using Row = std::tuple<const char*, QString>;
     for (const auto& [typed, reason] :
-         {std::pair{"north", noNumber}, std::pair{"", noNumber}, std::pair{"1,234", noNumber},
-          std::pair{"nan", noNumber}, std::pair{"1e99", noNumber},
-          std::pair{"90.5", QStringLiteral("90.5 is not between -90 and 90.")},
-          std::pair{"-1000", QStringLiteral("-1000 is not between -90 and 90.")}}) {
+         {Row{"north", noNumber}, Row{"", noNumber}, Row{"1,234", noNumber}, Row{"1e99", noNumber},
+          Row{"90.5", u"90.5 is not between -90 and 90."_s}}) {
         type(typed);
         EXPECT_EQ(field->text(), u"-33.25") << typed;
         EXPECT_EQ(field->accessibleDescription(), reason) << typed;
@@ -235,67 +209,53 @@ TEST_F(LayoutTest, ABoundTextFieldTakesNumbersWithinTheRangeOnly) {
         ASSERT_EQ(notes.size(), 1) << typed;
         EXPECT_EQ(notes.front()->text(), reason);
     }
-    EXPECT_EQ(owner_.seen.size(), 1);
     type("90");
     EXPECT_EQ(owner_.seen.size(), 2);
     EXPECT_TRUE(root_->findChildren<FieldNote*>().isEmpty()) << "it goes with the next edit";
     EXPECT_TRUE(field->accessibleDescription().isEmpty());
 
-    QLocale::setDefault(QLocale(QLocale::German));
+    const InLocale german("de_DE");
     type("48,123455");
     EXPECT_EQ(field->text(), u"48,123455");
     EXPECT_EQ(field->cursorPosition(), 0);
-    EXPECT_EQ(defaults()->floatForKey(QStringLiteral("NibFloat")), 48.123455F);
-    defaults()->setFloat(5.4F, QStringLiteral("NibFloat"));
+    EXPECT_EQ(defaults()->value(kFloat), 48.123455F);
+    defaults()->set(kFloat, 5.4F);
     EXPECT_EQ(field->text(), u"5,4");
-
     root_->show();
     root_->activateWindow();
     QApplication::processEvents();
     field->setFocus();
     ASSERT_TRUE(field->hasFocus());
-    press(field, 0, QStringLiteral("7"));
-    defaults()->setFloat(3.0F, QStringLiteral("NibFloat"));
+    press(field, 0, u"7"_s);
+    defaults()->set(kFloat, 3.0F);
     EXPECT_EQ(field->text(), u"75,4") << "what is being typed is not overwritten";
-    QLocale::setDefault(QLocale::system());
 }
 
 TEST_F(LayoutTest, TheWheelChangesOnlyTheControlThatHasTheFocus) {
-    ASSERT_TRUE(load(control("QComboBox", "box", nullptr) + control("QSlider", "slider", nullptr) +
-                     control("QDoubleSpinBox", "number", nullptr) +
-                     control("QDateTimeEdit", "date", nullptr) +
-                     control("QPushButton", "elsewhere", nullptr)))
-        << error_.toStdString();
-    get<QComboBox>("box")->addItems({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")});
+    ASSERT_EQ(load(control("QComboBox", "box") + control("Slider", "slider") +
+                   control("QDoubleSpinBox", "number") + control("QDateTimeEdit", "date") +
+                   control("QPushButton", "elsewhere")),
+              QString());
+    get<QComboBox>("box")->addItems({u"a"_s, u"b"_s, u"c"_s});
     get<QSlider>("slider")->setValue(50);
     get<QDoubleSpinBox>("number")->setValue(50);
     get<QDateTimeEdit>("date")->setDateTime(gmt(2026, 7, 15));
     root_->show();
     root_->activateWindow();
     QApplication::processEvents();
-    // A notched wheel, and a touchpad's gesture.
-    using Turn = std::pair<QPoint, Qt::ScrollPhase>;
-    const QList<QList<Turn>> gestures{{{{0, -120}, Qt::NoScrollPhase}},
-                                      {{{0, -60}, Qt::ScrollBegin}, {{0, -60}, Qt::ScrollUpdate}}};
     for (const char* name : {"box", "slider", "number", "date"}) {
-        SCOPED_TRACE(name);
-        auto* controlled = get<QWidget>(name);
+        auto* controlled = get(name);
         const auto value = [&] { return controlled->metaObject()->userProperty().read(controlled); };
-        for (const QList<Turn>& gesture : gestures) {
-            for (const bool focused : {false, true}) {
-                get<QWidget>(focused ? name : "elsewhere")->setFocus();
-                ASSERT_EQ(controlled->hasFocus(), focused);
-                const QVariant before = value();
-                for (const auto& [angle, phase] : gesture) {
-                    QWheelEvent event({1, 1}, {1, 1}, angle / 3, angle, Qt::NoButton, Qt::NoModifier, phase,
-                                      false);
-                    QApplication::sendEvent(controlled, &event);
-                    EXPECT_EQ(event.isAccepted(), focused) << "else what lies around gets it";
-                }
-                EXPECT_EQ(value() != before, focused);
-            }
+        for (const bool focused : {false, true}) {
+            get(focused ? name : "elsewhere")->setFocus();
+            ASSERT_EQ(controlled->hasFocus(), focused);
+            const QVariant before = value();
+            QWheelEvent event({1, 1}, {1, 1}, {0, -40}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                              Qt::NoScrollPhase, false);
+            QApplication::sendEvent(controlled, &event);
+            EXPECT_EQ(event.isAccepted(), focused) << name << ": else what lies around gets it";
+            EXPECT_EQ(value() != before, focused) << name;
         }
-        EXPECT_EQ(controlled->focusPolicy(), Qt::StrongFocus);
     }
 }
 

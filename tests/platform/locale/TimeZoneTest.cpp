@@ -32,29 +32,23 @@ long offsetOfTheCLibrary(const QDateTime& moment) {
 
 TEST(TimeZoneTest, ReadsTheZoneAsTheCLibraryDoes) {
     const QTemporaryDir folder;
-    const QByteArray copy = QFile::encodeName(folder.filePath(QStringLiteral("here")));
-    ASSERT_TRUE(QFile::copy(QStringLiteral("/usr/share/zoneinfo/Europe/Berlin"), QFile::decodeName(copy)));
-    struct Case {
-        QByteArray value;
-        const char* name;
-    };
-    for (const Case& zone :
-         {Case{"Europe/Berlin", "Europe/Berlin"}, Case{":Europe/Berlin", "Europe/Berlin"},
-          Case{"/usr/share/zoneinfo/Europe/Berlin", "Europe/Berlin"},
-          Case{":/usr/share/zoneinfo/Europe/Berlin", "Europe/Berlin"},
-          Case{"posix/Asia/Kolkata", "Asia/Kolkata"}, Case{copy, "CET-1CEST,M3.5.0,M10.5.0/3"},
-          Case{"CET-1CEST", "CET-1CEST,M3.2.0,M11.1.0"}, Case{":CET-1CEST,", "CET-1CEST,M3.2.0,M11.1.0"},
-          Case{"<+03>-3<+05>-5", "<+03>-3<+05>-5,M3.2.0,M11.1.0"},
-          Case{"CET-1CEST,M3.5.0,M10.5.0/3", "CET-1CEST,M3.5.0,M10.5.0/3"},
-          Case{"<+0330>-3:30", "<+0330>-3:30"}, Case{"EST5EDT", "EST5EDT"},
-          Case{"NZST-12NZDT,M9.5.0,M4.1.0/3", "NZST-12NZDT,M9.5.0,M4.1.0/3"}, Case{"", "UTC"},
-          Case{":", "UTC"}}) {
+    const QByteArray copy = QFile::encodeName(folder.filePath(u"here"_s));
+    ASSERT_TRUE(QFile::copy(u"/usr/share/zoneinfo/Europe/Berlin"_s, QFile::decodeName(copy)));
+    using Row = std::tuple<QByteArray, const char*>;
+    for (const auto& [value, name] :
+         {Row{"Europe/Berlin", "Europe/Berlin"}, Row{":Europe/Berlin", "Europe/Berlin"},
+          Row{":/usr/share/zoneinfo/Europe/Berlin", "Europe/Berlin"},
+          Row{"posix/Asia/Kolkata", "Asia/Kolkata"}, Row{copy, "CET-1CEST,M3.5.0,M10.5.0/3"},
+          Row{"CET-1CEST", "CET-1CEST,M3.2.0,M11.1.0"}, Row{":CET-1CEST,", "CET-1CEST,M3.2.0,M11.1.0"},
+          Row{"<+03>-3<+05>-5", "<+03>-3<+05>-5,M3.2.0,M11.1.0"}, Row{"<+0330>-3:30", "<+0330>-3:30"},
+          Row{"EST5EDT", "EST5EDT"}, Row{"NZST-12NZDT,M9.5.0,M4.1.0/3", "NZST-12NZDT,M9.5.0,M4.1.0/3"},
+          Row{"", "UTC"}, Row{":", "UTC"}}) {
         const CaughtLog log;
-        const InZone here(zone.value.constData());
-        EXPECT_EQ(TimeZone::name(TimeZone::systemTimeZone()).toStdString(), zone.name);
+        const InZone here(value);
+        EXPECT_EQ(TimeZone::name(TimeZone::systemTimeZone()).toStdString(), name);
         for (const QDateTime& moment : {kWinter, kSummer})
-            EXPECT_EQ(offset(moment), offsetOfTheCLibrary(moment)) << zone.value.constData();
-        EXPECT_TRUE(log.lines().isEmpty()) << zone.value.constData();
+            EXPECT_EQ(offset(moment), offsetOfTheCLibrary(moment)) << name;
+        EXPECT_TRUE(log.lines().isEmpty()) << name;
     }
     for (const char* unknown :
          {"No/Such", "FOO", "Europe", "/dev/zero", "/usr/share/zoneinfo/zone.tab", "CET-1CEST,M3"}) {
@@ -67,20 +61,15 @@ TEST(TimeZoneTest, ReadsTheZoneAsTheCLibraryDoes) {
 }
 
 TEST(TimeZoneTest, DaylightIsSavedWhereTheClockIsAheadOfItsYearsLeast) {
-    struct Case {
-        const char* zone;
-        bool winter;
-        bool summer;
-    };
-    for (const Case& expected :
-         {Case{"America/New_York", false, true}, Case{"Europe/Dublin", false, true},
-          Case{"IST-1GMT0,M10.5.0,M3.5.0/1", false, true}, Case{"Australia/Lord_Howe", true, false},
-          Case{"CET-1CEST", false, true}, Case{"Asia/Kolkata", false, false}, Case{"UTC", false, false}}) {
-        const InZone here(expected.zone);
-        for (const auto& [moment, isOn] :
-             {std::pair{kWinter, expected.winter}, std::pair{kSummer, expected.summer}}) {
+    using Row = std::tuple<const char*, bool, bool>;
+    for (const auto& [zone, winter, summer] :
+         {Row{"America/New_York", false, true}, Row{"Europe/Dublin", false, true},
+          Row{"IST-1GMT0,M10.5.0,M3.5.0/1", false, true}, Row{"Australia/Lord_Howe", true, false},
+          Row{"CET-1CEST", false, true}, Row{"Asia/Kolkata", false, false}, Row{"UTC", false, false}}) {
+        const InZone here(zone);
+        for (const auto& [moment, isOn] : {std::pair{kWinter, winter}, std::pair{kSummer, summer}}) {
             const Clock::Hold present(moment);
-            EXPECT_EQ(TimeZone::isDaylightSavingTime(TimeZone::systemTimeZone()), isOn) << expected.zone;
+            EXPECT_EQ(TimeZone::isDaylightSavingTime(TimeZone::systemTimeZone()), isOn) << zone;
         }
     }
 }

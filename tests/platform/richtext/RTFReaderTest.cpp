@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/richtext/RTFReader.h"
 
+#include "tests/TestMain.h"
+
 #include <QGuiApplication>
 #include <QPalette>
 #include <QTextBlock>
@@ -21,7 +23,7 @@ protected:
     QString textOf(const QByteArray& body) {
         readWhole("{\\rtf1\\ansi " + body + "}");
         return document_ ? document_->toRawText().replace(QChar::ParagraphSeparator, u'\n')
-                         : QStringLiteral("unread: ") + error_;
+                         : u"unread: "_s + error_;
     }
 
     QTextCharFormat formatAt(int position) {
@@ -37,18 +39,15 @@ protected:
 } // namespace
 
 TEST_F(RTFReaderTest, ReadsTextWithItsBreaksAndEscapesAndSkipsTheRest) {
-    const struct {
-        QByteArray rtf;
-        QString text;
-    } cases[]{
-        {"one\\par two\\line\nthree\\par", QStringLiteral("one\ntwo\u2028three")},
-        {"\\par\\par a", QStringLiteral("\n\na")},
-        {"\\{a\\}\\\\b caf\\'e9", QStringLiteral("{a}\\b caf\u00E9")},
-        {QByteArrayLiteral("a\0b\x01"), QStringLiteral("ab")},
-        {"{\\fonttbl{\\f0\\fswiss Sans;}}{\\colortbl;\\red1;}{\\info{\\title t}\\par}a", QStringLiteral("a")},
-        {"{\\*\\generator G;}{\\*\\unknown u{\\par\\line}}{\\pict 00ff}b\\unknown c", QStringLiteral("bc")},
-    };
-    for (const auto& [rtf, text] : cases)
+    using Row = std::tuple<QByteArray, QString>;
+    for (const auto& [rtf, text] : {
+             Row{"one\\par two\\line\nthree\\par", u"one\ntwo\u2028three"_s},
+             Row{"\\par\\par a", u"\n\na"_s},
+             Row{"\\{a\\}\\\\b caf\\'e9", u"{a}\\b caf\u00E9"_s},
+             Row{QByteArrayLiteral("a\0b\x01"), u"ab"_s},
+             Row{"{\\fonttbl{\\f0\\fswiss Sans;}}{\\colortbl;\\red1;}{\\info{\\title t}\\par}a", u"a"_s},
+             Row{"{\\*\\generator G;}{\\*\\unknown u{\\par\\line}}{\\pict 00ff}b\\unknown c", u"bc"_s},
+         })
         EXPECT_EQ(textOf(rtf), text) << rtf.constData();
 }
 
@@ -104,7 +103,6 @@ TEST_F(RTFReaderTest, RefusesDamagedAndOversizedTexts) {
     EXPECT_TRUE(textOf("{" + deep + "}").startsWith(u"unread")) << "nested too deep";
     EXPECT_EQ(textOf(QByteArray("a").repeated(60'000)).size(), 60'000);
     EXPECT_TRUE(textOf(QByteArray("{}").repeated(1 << 15)).startsWith(u"unread")) << "too large";
-    EXPECT_EQ(documentFromRTF("x", nullptr), nullptr);
     readWhole("{\\rtf1 a}\n\0 more {");
     EXPECT_NE(document_, nullptr) << "what follows the text is not its own";
 }

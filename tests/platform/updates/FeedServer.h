@@ -4,7 +4,6 @@
 #include "tests/Interaction.h"
 #include "tests/TestMain.h"
 
-#include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -39,9 +38,8 @@ public:
                                  "ALL_PROXY", "no_proxy", "NO_PROXY"})
             qunsetenv(name);
         process_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        const QString script =
-            QFileInfo(QStringLiteral(TESTS_SOURCE_DIR "/platform/updates/feed_server.py")).absoluteFilePath();
-        process_.start(QStringLiteral("/usr/bin/python3"), {script, folder_.path()});
+        process_.start(u"/usr/bin/python3"_s,
+                       {QStringLiteral(TESTS_SOURCE_DIR "/platform/updates/feed_server.py"), folder_.path()});
         if (!process_.waitForReadyRead(10000))
             throw std::runtime_error("no feed server");
         ports_ = QJsonDocument::fromJson(process_.readLine()).object();
@@ -53,20 +51,14 @@ public:
     }
 
     /// What `path` answers from now on.
-    void put(const QString& path, const QByteArray& body) {
-        QFile file(folder_.filePath(path));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(body);
-    }
+    void put(const QString& path, const QByteArray& body) { writeFile(folder_.filePath(path), body); }
 
     QString host(const char* kind = "trusted") const {
-        return QStringLiteral("localhost:%1").arg(ports_.value(QLatin1String(kind)).toInt());
+        return u"localhost:%1"_s.arg(ports_.value(QLatin1String(kind)).toInt());
     }
 
     QUrl url(const QString& path, const char* kind = "trusted") const {
-        const bool plain = qstrcmp(kind, "plain") == 0;
-        return QUrl((plain ? QStringLiteral("http://") : QStringLiteral("https://")) + host(kind) + u'/' +
-                    path);
+        return QUrl((qstrcmp(kind, "plain") == 0 ? u"http://"_s : u"https://"_s) + host(kind) + u'/' + path);
     }
 
     /// The requests so far, "<kind of host> <path and query>", of what a proxy is asked for "plain
@@ -75,13 +67,12 @@ public:
         while (process_.waitForReadyRead(50)) {
         }
         const QString text = QString::fromUtf8(process_.readAllStandardOutput());
-        requests_ += text.split(u'\n', Qt::SkipEmptyParts);
-        return requests_;
+        return requests_ += text.split(u'\n', Qt::SkipEmptyParts);
     }
 
 private:
     QTemporaryDir folder_;
-    WithEnvironment trusted_{"SSL_CERT_FILE", folder_.filePath(QStringLiteral("ca.pem")).toUtf8()};
+    WithEnvironment trusted_{"SSL_CERT_FILE", folder_.filePath(u"ca.pem"_s).toUtf8()};
     QProcess process_;
     QJsonObject ports_;
     QStringList requests_;

@@ -61,15 +61,6 @@ class Handler(http.server.BaseHTTPRequestHandler):
     def serve_hops(self, left):
         self.answer(302, [("location", "/hops?%d" % (int(left) - 1) if int(left) > 1 else "/feed")])
 
-    def serve_redirect_endless(self, to):
-        self.send_response(302)
-        self.send_header("Location", to)
-        self.end_headers()
-        self.pour(b"x" * 65536)
-
-    def serve_unavailable(self, _):
-        self.answer(503, [], b"<rss/>")
-
     def serve_silent(self, _):
         self.rfile.read(1)
 

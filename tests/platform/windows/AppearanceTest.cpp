@@ -18,14 +18,13 @@ class FakePortal : public QObject {
 
 public:
     FakePortal(const QDBusConnection& connection, uint colorScheme) : bus(connection), value(colorScheme) {
-        bus.registerObject(QStringLiteral("/org/freedesktop/portal/desktop"), this,
+        bus.registerObject(u"/org/freedesktop/portal/desktop"_s, this,
                            QDBusConnection::ExportScriptableContents);
-        bus.registerService(QStringLiteral("org.freedesktop.portal.Desktop"));
+        bus.registerService(u"org.freedesktop.portal.Desktop"_s);
     }
-    ~FakePortal() override { bus.unregisterService(QStringLiteral("org.freedesktop.portal.Desktop")); }
+    ~FakePortal() override { bus.unregisterService(u"org.freedesktop.portal.Desktop"_s); }
 
-    void change(const char* key, const QVariant& to,
-                const QString& group = QStringLiteral("org.freedesktop.appearance")) {
+    void change(const char* key, const QVariant& to, const QString& group = u"org.freedesktop.appearance"_s) {
         Q_EMIT SettingChanged(group, QString::fromLatin1(key), QDBusVariant(to));
     }
 
@@ -71,7 +70,7 @@ TEST_F(AppearanceTest, FollowsThePortal) {
     portal.change("color-scheme", 1U);
     EXPECT_TRUE(waitFor([] { return isDark(); }));
     for (const bool animations : {false, true}) {
-        portal.change("enable-animations", animations, QStringLiteral("org.gnome.desktop.interface"));
+        portal.change("enable-animations", animations, u"org.gnome.desktop.interface"_s);
         EXPECT_TRUE(waitFor([&] { return Appearance::wantsAnimations() == animations; }));
     }
 }

@@ -4,101 +4,75 @@
 #include "tests/Interaction.h"
 #include "tests/TestMain.h"
 
-#include <QApplication>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
-#include <QTemporaryDir>
-#include <QTimer>
 
 #include <gtest/gtest.h>
 
 namespace {
 
-struct Outcome {
-    QString answer;
-    bool ok;
-    int refCon;
-    bool stillOpen;
-    auto operator<=>(const Outcome&) const = default;
-};
-
 class AskNumberTest : public testing::Test {
 protected:
-    AskNumber* open(const QString& userText, QWidget* window) {
-        return AskNumber::AskNumberWithMessage(
-            QStringLiteral("&Offset && more:"), QStringLiteral("For example: 0"), userText, window,
-            [this](const QString& answer, AskNumber* dialog) {
-                outcomes_.append({answer, dialog->ok(), dialog->refCon(), dialog->window()->isVisible()});
-            });
-    }
-
-    static QLineEdit* field(const AskNumber* dialog) { return dialog->window()->findChild<QLineEdit*>(); }
-
-    static void answer(const AskNumber* dialog, const char* text) {
-        field(dialog)->setText(QLatin1String(text));
-        press(field(dialog), Qt::Key_Return);
+    QPointer<AskNumber> open(const QString& userText, QWidget* window) {
+        return AskNumber::AskNumberWithMessage(u"&Offset && more:"_s, u"For example: 0"_s, userText, window,
+                                               [this](const QString& answer, AskNumber* dialog) {
+                                                   outcomes_.append({answer, dialog->ok(), dialog->refCon()});
+                                                   EXPECT_TRUE(dialog->window()->isVisible());
+                                               });
     }
 
     static void deletePending() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
 
     QWidget panel_;
-    QList<Outcome> outcomes_;
+    QList<std::tuple<QString, bool, int>> outcomes_;
 };
 
 } // namespace
-
-TEST_F(AskNumberTest, AcceptsWhatIsLeftWithoutOneLeadingPlus) {
-    using Answer = std::optional<QString>;
-    const auto accepted = [](const char* text) { return AskNumber::acceptedAnswer(QLatin1String(text)); };
-    EXPECT_EQ(accepted(""), Answer());
-    EXPECT_EQ(accepted("+"), Answer());
-    EXPECT_EQ(accepted("+2"), Answer(QStringLiteral("2")));
-    EXPECT_EQ(accepted("++2"), Answer(QStringLiteral("+2")));
-    EXPECT_EQ(accepted(" +abc"), Answer(QStringLiteral(" +abc")));
-}
 
 TEST_F(AskNumberTest, ASheetAnswersAfterTheCallAndEndsItself) {
     const QRect screen = panel_.screen()->availableGeometry();
     panel_.setGeometry(screen.right() - 20, screen.top() + 50, 40, 100);
     panel_.show();
-    const QPointer<AskNumber> dialog = open(QStringLiteral("1.5"), &panel_);
+    const auto dialog = open(u"1.5"_s, &panel_);
     ASSERT_NE(dialog, nullptr);
-    EXPECT_LE(dialog->window()->x() + dialog->window()->width(), screen.right() + 1);
+    QDialog* window = dialog->window();
+    EXPECT_LE(window->x() + window->width(), screen.right() + 1);
     panel_.move(screen.left() - 20, screen.top());
-    EXPECT_EQ(dialog->window()->x(), screen.left()) << "it goes along, on the screen";
+    EXPECT_EQ(window->x(), screen.left()) << "it goes along, on the screen";
     dialog->setRefCon(2);
-    EXPECT_TRUE(dialog->window()->isVisible());
-    EXPECT_EQ(dialog->window()->windowModality(), Qt::WindowModal);
-    EXPECT_EQ(dialog->window()->parentWidget(), &panel_);
-    EXPECT_EQ(dialog->window()->focusWidget(), field(dialog));
-    EXPECT_EQ(field(dialog)->selectedText(), u"1.5");
-    EXPECT_EQ(field(dialog)->accessibleName(), u"Offset & more:");
-
-    answer(dialog, "+");
-    EXPECT_TRUE(outcomes_.isEmpty());
-    EXPECT_TRUE(dialog->window()->isVisible());
-    answer(dialog, "+1.5");
-    EXPECT_EQ(outcomes_, (QList<Outcome>{{QStringLiteral("1.5"), true, 2, true}}));
-    EXPECT_FALSE(dialog->window()->isVisible());
+    EXPECT_EQ(window->windowModality(), Qt::WindowModal);
+    EXPECT_EQ(window->parentWidget(), &panel_);
+    auto* field = window->findChild<QLineEdit*>();
+    EXPECT_EQ(window->focusWidget(), field);
+    EXPECT_EQ(field->selectedText(), u"1.5");
+    EXPECT_EQ(field->accessibleName(), u"Offset & more:");
+    for (const QString& text : {QString(), u"+"_s, u"+1.5"_s}) { // nothing is no answer
+        EXPECT_TRUE(outcomes_.isEmpty() && window->isVisible());
+        field->setText(text);
+        press(field, Qt::Key_Return);
+    }
+    EXPECT_EQ(outcomes_.value(0), std::tuple(u"1.5"_s, true, 2));
+    EXPECT_FALSE(window->isVisible());
     deletePending();
     EXPECT_EQ(dialog, nullptr);
+    for (const auto& [text, left] : {std::pair{u"++2"_s, u"+2"_s}, {u" +abc"_s, u" +abc"_s}})
+        EXPECT_EQ(AskNumber::acceptedAnswer(text), left);
 }
 
 TEST_F(AskNumberTest, EscapeAndTheCloseButtonCancel) {
-    const QPointer<AskNumber> first = open(QStringLiteral("+"), &panel_);
-    press(field(first), Qt::Key_Escape);
-    const QPointer<AskNumber> second = open(QStringLiteral("7"), &panel_);
-    answer(second, "");
-    second->window()->close();
-    const QPointer<AskNumber> third = open(QStringLiteral("8"), &panel_);
-    third->window()->findChild<QPushButton*>(QStringLiteral("cancelButton_"))->click();
-    EXPECT_EQ(outcomes_, (QList<Outcome>{{QStringLiteral("+"), false, 0, true},
-                                         {QString(), false, 0, true},
-                                         {QStringLiteral("8"), false, 0, true}}));
-    deletePending();
-    EXPECT_TRUE(!first && !second && !third);
+    for (const int way : {0, 1, 2}) {
+        const auto dialog = open(QString::number(way), &panel_);
+        if (way == 0)
+            press(dialog->window()->findChild<QLineEdit*>(), Qt::Key_Escape);
+        else if (way == 1)
+            dialog->window()->close();
+        else
+            dialog->window()->findChild<QPushButton*>(u"cancelButton_"_s)->click();
+        EXPECT_EQ(outcomes_.value(way), std::tuple(QString::number(way), false, 0));
+        deletePending();
+        EXPECT_EQ(dialog, nullptr);
+    }
 }
 
 TEST_F(AskNumberTest, WithoutAWindowTheCallReturnsWithTheAnswer) {
@@ -107,27 +81,18 @@ TEST_F(AskNumberTest, WithoutAWindowTheCallReturnsWithTheAnswer) {
         ASSERT_NE(dialog, nullptr);
         EXPECT_EQ(dialog->windowModality(), Qt::ApplicationModal);
         EXPECT_TRUE(outcomes_.isEmpty());
-        dialog->findChild<QPushButton*>(QStringLiteral("okButton_"))->click();
+        dialog->findChild<QPushButton*>(u"okButton_"_s)->click();
     });
-    const QPointer<AskNumber> dialog = open(QStringLiteral("12"), nullptr);
-    EXPECT_EQ(outcomes_, (QList<Outcome>{{QStringLiteral("12"), true, 0, true}}));
+    const auto dialog = open(u"12"_s, nullptr);
+    EXPECT_EQ(outcomes_.value(0), std::tuple(u"12"_s, true, 0));
     ASSERT_NE(dialog, nullptr) << "the caller still reads it";
     EXPECT_EQ(dialog->defaultlUserText(), u"12");
     deletePending();
     EXPECT_EQ(dialog, nullptr);
-}
-
-TEST_F(AskNumberTest, ABrokenLayoutIsLoggedAndOpensNothing) {
-    const QTemporaryDir folder;
-    const WithEnvironment resources("LUMIVANE_RESOURCES", folder.path().toLocal8Bit());
+    const OtherResources resources;
+    writeFile(resources.path(u"AskNumber.ui"_s),
+              "<ui version=\"4.0\"><widget class=\"QDialog\" name=\"AskNumber\"/></ui>");
     const CaughtLog log;
-    EXPECT_EQ(open(QStringLiteral("1"), &panel_), nullptr);
-    QFile layout(folder.filePath(QStringLiteral("AskNumber.ui")));
-    ASSERT_TRUE(layout.open(QIODevice::WriteOnly));
-    layout.write("<ui version=\"4.0\"><widget class=\"QDialog\" name=\"AskNumber\"/></ui>");
-    layout.close();
-    EXPECT_EQ(open(QStringLiteral("1"), &panel_), nullptr);
-    ASSERT_EQ(log.lines().size(), 2);
-    EXPECT_TRUE(log.lines().last().contains(u"message_")) << log.lines().last().toStdString();
-    EXPECT_TRUE(outcomes_.isEmpty());
+    EXPECT_EQ(open(u"1"_s, &panel_), nullptr) << "a broken layout opens nothing";
+    EXPECT_TRUE(log.lines().value(0).contains(u"message_"));
 }

@@ -7,7 +7,6 @@
 #include "tests/platform/PrivateBus.h"
 
 #include <QApplication>
-#include <QLabel>
 #include <QLineEdit>
 #include <QProxyStyle>
 #include <QVBoxLayout>
@@ -40,48 +39,34 @@ protected:
     };
 
     DisclosureTriangleWithResizeTest() {
-        defaults()->registerKey(kKey);
-        for (int i = 0; i < 3; ++i)
-            sections_.append(section(i == 1));
+        Preferences::standard()->registerKey(kKey);
         int y = 0;
-        for (const Section& each : sections_) {
-            each.box->setGeometry(0, y, 200, each.box->sizeHint().height());
-            y += each.box->height();
+        for (int i = 0; i < 3; ++i) {
+            auto* box = new SectionBox(&content_);
+            auto* view = new QWidget(box);
+            sections_.append({box, new DisclosureTriangleWithResize, new QLineEdit});
+            sections_[i].triangle->setStyle(&style_);
+            if (i == 1)
+                sections_[i].triangle->setProperty("binding", QString(kKey.name));
+            auto* layout = new QVBoxLayout(view);
+            layout->addWidget(sections_[i].triangle);
+            layout->addWidget(sections_[i].field);
+            layout->activate();
+            box->setGeometry(0, y, 200, box->sizeHint().height());
+            y += box->height();
         }
         content_.resize(200, y);
         content_.show();
         QApplication::processEvents();
     }
-    ~DisclosureTriangleWithResizeTest() override { defaults()->remove(kKey); }
-
-    static Preferences* defaults() { return Preferences::standard(); }
-
-    Section section(bool bound) {
-        auto* box = new SectionBox(&content_);
-        auto* view = new QWidget(box);
-        auto* triangle = new DisclosureTriangleWithResize;
-        triangle->setStyle(&style_);
-        if (bound)
-            triangle->setProperty("binding", QString(kKey.name));
-        auto* field = new QLineEdit;
-        auto* layout = new QVBoxLayout(view);
-        layout->addWidget(triangle);
-        layout->addWidget(field);
-        layout->activate();
-        return {box, triangle, field};
-    }
+    ~DisclosureTriangleWithResizeTest() override { Preferences::standard()->remove(kKey); }
 
     void awake() {
         for (const Section& each : sections_)
             each.triangle->awakeFromNib();
     }
 
-    QList<int> tops() const {
-        QList<int> result;
-        for (const Section& each : sections_)
-            result.append(each.box->y());
-        return result;
-    }
+    QList<int> tops() const { return {sections_[0].box->y(), sections_[1].box->y(), sections_[2].box->y()}; }
 
     Style style_;
     QWidget content_;
@@ -117,7 +102,7 @@ TEST_F(DisclosureTriangleWithResizeTest, FoldsItsBoxAndCarriesTheOthersAlong) {
 
 TEST_F(DisclosureTriangleWithResizeTest, AnimatesItsFoldingWhereTheDesktopDoes) {
     style_.duration = 60;
-    defaults()->set(kKey, false);
+    Preferences::standard()->set(kKey, false);
     awake();
     const auto& [box, triangle, field] = sections_[0];
     const auto* bound = sections_[1].triangle;
@@ -131,7 +116,7 @@ TEST_F(DisclosureTriangleWithResizeTest, AnimatesItsFoldingWhereTheDesktopDoes) 
     EXPECT_GT(triangle->currentHeight(), triangle->smallHeight());
     EXPECT_TRUE(field->isVisible());
     // Another section, and the same one again, before it is done.
-    defaults()->set(kKey, true);
+    Preferences::standard()->set(kKey, true);
     triangle->click();
     triangle->click();
     ASSERT_TRUE(
@@ -166,17 +151,6 @@ TEST_F(DisclosureTriangleWithResizeTest, ALargerContentIsNeverCutOff) {
 
 TEST(DisclosureTriangleWithResize, BelongsInABox) {
     QWidget window;
-    auto* view = new QWidget(&window);
-    const DisclosureTriangleWithResize inAView(view);
-    for (const DisclosureTriangleWithResize* triangle :
-         {&inAView,
-          static_cast<const DisclosureTriangleWithResize*>(new DisclosureTriangleWithResize(&window))}) {
-        try {
-            (void)triangle->boxView();
-            ADD_FAILURE() << "nothing raised";
-        } catch (const InternalInconsistencyException& failure) {
-            EXPECT_TRUE(failure.reason().startsWith(u"DisclosureTriangle needs to be in an NSBox."))
-                << failure.what();
-        }
-    }
+    const DisclosureTriangleWithResize triangle(&window);
+    EXPECT_THROW((void)triangle.boxView(), InternalInconsistencyException);
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "shared/utilities/classes/values/ExtraURLUtilities.h"
 
+#include "tests/TestMain.h"
+
 #include <gtest/gtest.h>
 
 TEST(ExtraURLUtilitiesTest, TakesAStringAsItStandsOrNotAtAll) {
@@ -11,5 +13,5 @@ TEST(ExtraURLUtilitiesTest, TakesAStringAsItStandsOrNotAtAll) {
     for (const char* text : {"", "a b", "http://a/%u", "http://a/%", "http://a/\"", "http://a/\xE4",
                              "http://a/\n", "http://a/\x7F", "http://[::1", "http://a:port/"})
         EXPECT_FALSE(urlWithURLString(QString::fromLatin1(text)).isValid()) << text;
-    EXPECT_FALSE(urlWithURLString(QStringLiteral("http://a/") + QChar::Null).isValid());
+    EXPECT_FALSE(urlWithURLString(u"http://a/"_s + QChar::Null).isValid());
 }
