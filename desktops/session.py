@@ -7,13 +7,15 @@ import json
 import os
 import re
 import shutil
+import signal
 import subprocess
 import sys
 import time
 
 from gi.repository import GLib
 
-from shells import SHELLS, at_rest, different, rectangle, wait_for
+from shells import SHELLS, different
+from desktop import at_rest, rectangle, wait_for
 from sway import leave_root
 
 MENU = ["Show Lumivane", "Copy Information to Clipboard", "Open at Login", "Check for Update...",
@@ -30,7 +32,8 @@ class Session:
         self.clicked = 0.0
 
     def click_icon(self, button=1):
-        time.sleep(max(0.0, self.clicked + 1 - time.monotonic()))  # two clicks are not one double click
+        # Two clicks are not one double click.
+        time.sleep(max(0.0, self.clicked + 1 + self.shell.double_click / 1000 - time.monotonic()))
         x, y = self.icon.x + self.icon.width // 2, self.icon.y + self.icon.height // 2
         self.shell.point(x - 3, y)
         self.shell.point(x, y)
@@ -96,22 +99,17 @@ class Session:
         return "%d px" % away
 
     def not_listed(self):
-        """The window manager has the panel's window marked for no task list and no pager, and a task list in the
-        icon's bar draws nothing new."""
+        """The panel's window is marked for no task list and no pager, and a task list in the icon's bar stays as it
+        was."""
         self.open()
         self.shell.settle()
-        state = self.window_state()
-        icon, wide = self.icon, self.icon.x - 16
-        now = self.shot("now")
-        drawn = self.shell.task_list and different(self.shell.bare, now, rectangle(0, icon.y, wide, icon.height))
+        state = self.shell.run("xprop", "-id", self.shown()[0], "_NET_WM_STATE")
+        beside = rectangle(0, self.icon.y, self.icon.x - 16, self.icon.height)
+        drawn = self.shell.has_task_list and different(self.shell.bare, self.shot("now"), beside)
         self.hide()
-        unmarked = [mark for mark in ("SKIP_TASKBAR", "SKIP_PAGER") if mark not in state]
-        drawn_text = "drawn" if drawn else "not drawn" if self.shell.task_list else ""
-        assert not unmarked and not drawn, ", ".join(filter(None, ["without " + mark for mark in unmarked] + [drawn_text]))
-        return "marked, " + drawn_text if drawn_text else "marked"
-
-    def window_state(self):
-        return self.shell.run("xprop", "-id", self.shown()[0], "_NET_WM_STATE", "WM_STATE")
+        faults = ["no " + mark for mark in ("SKIP_TASKBAR", "SKIP_PAGER") if mark not in state]
+        assert not faults and not drawn, ", ".join(faults + ["drawn"] * bool(drawn))
+        return "not drawn" if self.shell.has_task_list else None
 
     def menu(self):
         menu = self.property("Menu")
@@ -131,10 +129,11 @@ class Session:
                 wait_for("the other text", lambda: self.shell.paste() == "something else")
                 way()
                 wait_for("the text", lambda: "\nMoon is " in self.shell.paste(), 5)
+                wait_for("the panel to go", lambda: not self.shown())
             except AssertionError as error:
                 failed.append("%s: %s" % (name, error))
-            if self.shown():
-                self.hide()
+                if self.shown():
+                    self.hide()
         assert not failed, "; ".join(failed)
         return "3 ways"
 
@@ -159,7 +158,7 @@ class Session:
         """The item's text, and, where the shell shows it, that the pointer brings something up beside the bar."""
         lines = self.property("ToolTip")[2].split("\n")
         assert len(lines) == 2 and lines[0].startswith("Moon is ") and lines[1].endswith(" illumination"), str(lines)
-        if not self.shell.tool_tips:
+        if not self.shell.shows_tool_tips:
             return "2 lines, not shown there"
         self.shell.point(self.shell.width // 2, self.shell.height // 2)
         self.shell.settle()
@@ -179,6 +178,8 @@ class Session:
         self.shell.atspi().Action.do_action(button, 0)
         window = wait_for("the utility window", lambda: [new for new in self.shown() if new not in before])[0]
         at_rest("the window", self.shell.rectangle)
+        if "MINIMIZE" not in self.shell.run("xprop", "-id", window, "_NET_WM_ALLOWED_ACTIONS"):
+            return "not offered there"
 
         def hidden():
             return "HIDDEN" in self.shell.run("xprop", "-id", window, "_NET_WM_STATE")
@@ -186,6 +187,7 @@ class Session:
         wait_for("the window to be minimised", hidden)
         self.click_icon()
         wait_for("the window to come back", lambda: window in self.shown() and not hidden())
+        return None
 
     def tray_restart(self):
         self.shell.point(self.shell.width // 2, self.shell.height // 2)
@@ -207,17 +209,19 @@ CHECKS = ("panel_at_icon", "not_listed", "menu", "copy", "tool_tip", "tray_resta
 
 def main():
     name, program, picture, extent = sys.argv[1:]
+    signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))  # so that the session ends with it
     user_program = leave_root(os.path.abspath(program))
     shell = SHELLS[name]()
     try:
         shell.settle()
-        shell.note_bare()
+        shell.bare = shell.picture_file("bare")
+        shell.screenshot(shell.bare)
         session = Session(shell, user_program, picture)
         answers = {"first_start": observe(session, "first_start")}
         if not answers["first_start"][0]:
             shell.screenshot(picture.replace(".png", "-first_start.png"))
         for check in CHECKS if extent == "all" and answers["first_start"][0] else ():
-            if check in shell.knows_nothing_of:
+            if check in shell.not_there:
                 continue
             answers[check] = observe(session, check)
             if not answers[check][0]:

@@ -67,9 +67,9 @@ def main():
     with tempfile.TemporaryDirectory(prefix="lumivane-pictures-") as pictures:
         os.chmod(pictures, 0o777)  # the sessions' user is another one
         for shell in names or SHELLS:
-            print(shell, "...", file=sys.stderr, flush=True)
             rows[shell], why = try_shell(shell, program, pictures)
             reasons += [shell + ", " + reason for reason in why]
+            print(shell + ":", "; ".join(filter(None, rows[shell])), file=sys.stderr, flush=True)
         shutil.copytree(pictures, destination, dirs_exist_ok=True)
     print_table(rows)
     print(*reasons, sep="\n")
