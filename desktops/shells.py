@@ -21,7 +21,7 @@ from desktop import Desktop, rectangle, wait_for  # noqa: E402
 from sway import SwayDesktop  # noqa: E402
 
 WATCHER = "org.kde.StatusNotifierWatcher"
-PATIENCE = 60  # seconds for a shell's parts to come up on a busy machine
+PATIENCE = 180  # seconds for a shell to come up on a busy machine
 
 
 def different(before, after, crop=None):
