@@ -21,6 +21,7 @@ from desktop import Desktop, rectangle, wait_for  # noqa: E402
 from sway import SwayDesktop  # noqa: E402
 
 WATCHER = "org.kde.StatusNotifierWatcher"
+wait_for.__defaults__ = (45.0,)  # a real shell on a busy machine is slower than a test's desktop
 PATIENCE = 180  # seconds for a shell to come up on a busy machine
 
 
@@ -178,18 +179,6 @@ class Lxqt(Shell):
                    "width=100\nwidth-percent=true\nplugins=%s\n" % ",".join(plugins)
                    + "".join("[%s]\ntype=%s\n" % (plugin, plugin) for plugin in plugins))
         self.run_panel()
-
-
-class Cinnamon(Shell):
-    name = "X-Cinnamon"
-    panel_program = "/usr/libexec/xapps/sn-watcher/xapp-sn-watcher"
-    settings = ("[org/cinnamon]\npanels-enabled=['1:0:bottom']\nenabled-applets=%s\nstartup-animation=false\n"
-                "desktop-effects=false\n" % ["panel1:left:0:grouped-window-list@cinnamon.org:1",
-                                             "panel1:right:0:xapp-status@cinnamon.org:2"])
-
-    def start_window_manager(self):
-        self.spawn(["cinnamon"])
-        wait_for("Cinnamon", lambda: self.bus_has("org.Cinnamon"), PATIENCE)
 
 
 class Plasma(Shell):
@@ -353,5 +342,5 @@ class Gnome(Wayland):
                   "Screenshot", GLib.Variant("(bbs)", (False, False, path)))
 
 
-SHELLS = {"gnome": Gnome, "plasma": Plasma, "plasma-wayland": PlasmaWayland, "mate": Mate,
-          "cinnamon": Cinnamon, "lxqt": Lxqt, "xfce": Xfce, "sway": Sway}
+SHELLS = {"gnome": Gnome, "plasma": Plasma, "plasma-wayland": PlasmaWayland, "mate": Mate, "lxqt": Lxqt, "xfce": Xfce,
+          "sway": Sway}
