@@ -44,6 +44,7 @@ class Shell(Desktop):
     session = {}  # what the session's programs have in other environment variables than we
     has_task_list = True  # in the bar
     shows_tool_tips = True
+    menu_takes_keys = True
     double_click = 0  # milliseconds for one, where that is what activates an icon
     not_there = ()  # checks that make no sense
     bare = None  # the picture of the screen without the program
@@ -242,6 +243,7 @@ class Sway(Wayland, SwayDesktop):
     name = "sway"
     height = 720
     has_task_list = False
+    menu_takes_keys = False
     not_there = ("not_listed", "minimised")
     rectangle = SwayDesktop.rectangle
 
