@@ -153,7 +153,7 @@ class Desktop:
 
     def call(self, name, path, interface, method, arguments=None):
         bus = Gio.bus_get_sync(Gio.BusType.SESSION, None)
-        return bus.call_sync(name, path, interface, method, arguments, None, Gio.DBusCallFlags.NONE, 5000, None)
+        return bus.call_sync(name, path, interface, method, arguments, None, Gio.DBusCallFlags.NONE, 30000, None)
 
     def bus_has(self, name):
         return self.call("org.freedesktop.DBus", "/", "org.freedesktop.DBus", "NameHasOwner",

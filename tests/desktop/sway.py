@@ -51,7 +51,7 @@ class SwayDesktop(Desktop):
         (home / "config").mkdir()
         (home / "sway").write_text("output * resolution %dx%d\nexec env > %s/part && mv %s/part %s/session\n"
                                    % (*SCREEN, home, home, home))
-        os.environ.pop("QT_QPA_PLATFORM")
+        os.environ.pop("QT_QPA_PLATFORM", None)
         os.environ.update(XDG_CURRENT_DESKTOP="sway", XDG_SESSION_TYPE="wayland")
         self.spawn(["sway", "-c", str(home / "sway")], env=dict(
             os.environ, WLR_BACKENDS="x11", WLR_RENDERER="pixman", WLR_LIBINPUT_NO_DEVICES="1"))
