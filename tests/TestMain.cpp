@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/TestMain.h"
 
+#include <QTimeZone>
+
 namespace {
 QStringList caught;
 }
@@ -37,7 +39,7 @@ QStringList CaughtLog::lines() const {
 }
 
 QDateTime gmt(int year, int month, int day, int hour, int minute, int second) {
-    return QDateTime(QDate(year, month, day), QTime(hour, minute, second), Qt::UTC);
+    return QDateTime(QDate(year, month, day), QTime(hour, minute, second), QTimeZone::utc());
 }
 
 TestEnvironment::TestEnvironment() {

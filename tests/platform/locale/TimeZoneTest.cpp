@@ -49,6 +49,10 @@ TEST(TimeZoneTest, ReadsTheZoneAsTheCLibraryDoes) {
           Case{"<+0330>-3:30", "<+0330>-3:30"}, Case{"EST5EDT", "EST5EDT"},
           Case{"NZST-12NZDT,M9.5.0,M4.1.0/3", "NZST-12NZDT,M9.5.0,M4.1.0/3"}, Case{"", "UTC"},
           Case{":", "UTC"}}) {
+        // Debian 13 has these two apart from the others, and its C library doesn't know them either.
+        if ((zone.value.startsWith("posix/") || zone.value == "EST5EDT") &&
+            !QFile::exists(TimeZone::zoneInfoFolder() + u'/' + QFile::decodeName(zone.value)))
+            continue;
         const CaughtLog log;
         const InZone here(zone.value.constData());
         EXPECT_EQ(TimeZone::name(TimeZone::systemTimeZone()).toStdString(), zone.name);
