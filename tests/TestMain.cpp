@@ -3,6 +3,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QTimeZone>
 
 namespace {
 QStringList caught;
@@ -46,7 +47,7 @@ QByteArray readFile(const QString& path) {
 }
 
 QDateTime gmt(int year, int month, int day, int hour, int minute, int second) {
-    return QDateTime(QDate(year, month, day), QTime(hour, minute, second), Qt::UTC);
+    return QDateTime(QDate(year, month, day), QTime(hour, minute, second), QTimeZone::utc());
 }
 
 TestEnvironment::TestEnvironment() {

@@ -327,7 +327,7 @@ const tLunation* CMoon::FirstLunationOfYear(std::uint32_t t) const {
     const std::int64_t newYear =
         Calendar::instant({.year = year, .month = 1, .day = 1}, TimeZone::defaultTimeZone());
     return LunationOfNextFullMoon(
-        ExtraDateUtilities::carbonSecondsGMT(QDateTime::fromSecsSinceEpoch(newYear, Qt::UTC)));
+        ExtraDateUtilities::carbonSecondsGMT(QDateTime::fromSecsSinceEpoch(newYear, QTimeZone::utc())));
 }
 
 double CMoon::moonphase(double k, int phase) {

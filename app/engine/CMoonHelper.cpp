@@ -256,5 +256,6 @@ QString CMoonHelper::DateStringFromComponents(int year, int month, int day, int 
     const std::int64_t instant =
         Calendar::instant({.year = year, .month = month, .day = day, .hour = hour, .minute = minute},
                           TimeZone::defaultTimeZone());
-    return ExtraDateUtilities::timeStringWithSeconds(QDateTime::fromSecsSinceEpoch(instant, Qt::UTC), false);
+    return ExtraDateUtilities::timeStringWithSeconds(QDateTime::fromSecsSinceEpoch(instant, QTimeZone::utc()),
+                                                     false);
 }

@@ -117,8 +117,12 @@ PlistPtr toPlist(const QVariant& value) {
 
 QVariant PropertyList::fromBytes(const QByteArray& bytes, QString* error) {
     plist_t rawRoot = nullptr;
-    if (!bytes.isEmpty() && !hasBinaryDictionary(bytes))
-        plist_from_memory(bytes.constData(), static_cast<std::uint32_t>(bytes.size()), &rawRoot);
+    // By format: what guesses the format is called otherwise from one release of libplist to the next.
+    const auto size = static_cast<std::uint32_t>(bytes.size());
+    if (!plist_is_binary(bytes.constData(), size))
+        plist_from_xml(bytes.constData(), size, &rawRoot);
+    else if (!hasBinaryDictionary(bytes))
+        plist_from_bin(bytes.constData(), size, &rawRoot);
     const PlistPtr root(rawRoot);
     if (!root) {
         *error = QStringLiteral("it is no property list");

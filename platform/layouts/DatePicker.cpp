@@ -15,12 +15,13 @@ namespace {
 /// What the default zone's clocks show, carried as a UTC moment: fields without daylight-saving gaps.
 QDateTime shownFields(const QDateTime& instant) {
     const int offset = TimeZone::defaultTimeZone().offsetFromUtc(instant);
-    return QDateTime::fromSecsSinceEpoch(instant.toSecsSinceEpoch() + offset, Qt::UTC);
+    return QDateTime::fromSecsSinceEpoch(instant.toSecsSinceEpoch() + offset, QTimeZone::utc());
 }
 
 QDateTime instantOfFields(const QDateTime& shown) {
     const CalendarFields fields = Calendar::fields(shown.toSecsSinceEpoch(), 0);
-    return QDateTime::fromSecsSinceEpoch(Calendar::instant(fields, TimeZone::defaultTimeZone()), Qt::UTC);
+    return QDateTime::fromSecsSinceEpoch(Calendar::instant(fields, TimeZone::defaultTimeZone()),
+                                         QTimeZone::utc());
 }
 
 } // namespace
@@ -28,7 +29,11 @@ QDateTime instantOfFields(const QDateTime& shown) {
 DatePicker::DatePicker(QWidget* parent) : QDateTimeEdit(parent) {
     // Qt turns the fields of a right-to-left editor around one by one, which makes 12:00:05 05:00:12.
     setLayoutDirection(Qt::LeftToRight);
+#if QT_VERSION >= QT_VERSION_CHECK(6, 7, 0)
+    setTimeZone(QTimeZone::UTC);
+#else
     setTimeSpec(Qt::UTC);
+#endif
     setLocale(DateFormatter::locale());
     setDisplayFormat(DateFormatter::editingFormat());
     if (!readsItsOwnText()) {
@@ -42,8 +47,8 @@ DatePicker::DatePicker(QWidget* parent) : QDateTimeEdit(parent) {
 }
 
 bool DatePicker::readsItsOwnText() const {
-    const QDateTime morning(QDate(2026, 3, 4), QTime(0, 5, 6), Qt::UTC);
-    const QDateTime evening(QDate(2026, 11, 23), QTime(14, 5, 9), Qt::UTC);
+    const QDateTime morning(QDate(2026, 3, 4), QTime(0, 5, 6), QTimeZone::utc());
+    const QDateTime evening(QDate(2026, 11, 23), QTime(14, 5, 9), QTimeZone::utc());
     return dateTimeFromText(textFromDateTime(morning)) == morning &&
            dateTimeFromText(textFromDateTime(evening)) == evening;
 }

@@ -10,7 +10,7 @@ using namespace std::chrono;
 namespace {
 
 int offsetAt(const QTimeZone& zone, std::int64_t instant) {
-    return zone.offsetFromUtc(QDateTime::fromSecsSinceEpoch(instant, Qt::UTC));
+    return zone.offsetFromUtc(QDateTime::fromSecsSinceEpoch(instant, QTimeZone::utc()));
 }
 
 } // namespace

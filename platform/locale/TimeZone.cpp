@@ -97,7 +97,7 @@ int TimeZone::secondsFromGMT(const QTimeZone& zone) {
 
 bool TimeZone::isDaylightSavingTime(const QTimeZone& zone) {
     const QDateTime now = Clock::now();
-    const QDateTime newYear(QDate(now.date().year(), 1, 1), QTime(0, 0), Qt::UTC);
+    const QDateTime newYear(QDate(now.date().year(), 1, 1), QTime(0, 0), QTimeZone::utc());
     int smallest = zone.offsetFromUtc(newYear);
     const auto changes = zone.transitions(newYear, newYear.addYears(1));
     for (const QTimeZone::OffsetData& change : changes)

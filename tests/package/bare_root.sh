@@ -1,16 +1,15 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 # Proves in a bare Debian of its own, which it makes and takes away again, what a new user does:
-#   bare_root.sh checkout         ./dev run from a checkout of the last commit
-#   bare_root.sh package PACKAGE  installs the package, starts the program on a virtual desktop, uses it over the
-#                                 session bus, and removes it again
-# Needs root and debootstrap; takes Debian from where this machine has it from. SUITE names another Debian.
+#   bare_root.sh checkout RELEASE  ./dev run from a checkout of the last commit
+#   bare_root.sh package RELEASE   ./dev package from one, into dist/RELEASE; then, in a Debian that is bare again,
+#                                  installs the package, uses it as debian/tests/session does, and purges it
+# Needs root and debootstrap; takes Debian from where this machine has it from.
 set -euo pipefail
 export LC_ALL=C.UTF-8 DEBIAN_FRONTEND=noninteractive
-package=${2:+$(realpath "$2")}
 cd "$(dirname "$0")/../.."
-suite=${SUITE:-bookworm}
-identifier=com.corvanta.Lumivane
+release=${2:-}
+folder=/root/lumivane
 
 if [ "$(id -u)" -ne 0 ] || ! command -v debootstrap >/dev/null; then
   echo "Skipped: a bare Debian is made by root, with debootstrap."
@@ -24,15 +23,25 @@ fail() {
 
 root=$(mktemp -d /var/tmp/lumivane-root.XXXXXX)
 chmod 755 "$root"
-discard() {
-  pkill -P $$ || true # debootstrap, when this script is ended before it
+enter() {
+  mount -t proc proc "$root/proc"
+  mount --bind /dev "$root/dev"
+  mount -t tmpfs tmpfs "$root/dev/shm"
+  mount -t devpts devpts "$root/dev/pts"
+}
+leave() {
   for process in /proc/[0-9]*; do # what the desktop left running
     if [ "$(readlink "$process/root" 2>/dev/null)" = "$root" ]; then kill -KILL "${process#/proc/}" || true; fi
   done
   for mounted in dev/pts dev/shm dev proc; do
     if mountpoint -q "$root/$mounted"; then umount -l "$root/$mounted"; fi
   done
-  rm -rf --one-file-system "$root" "$root.log"
+  rm -rf --one-file-system "$root"
+}
+discard() {
+  pkill -P $$ || true # debootstrap, when this script is ended before it
+  leave
+  rm -rf "$root.bare" "$root.log"
 }
 trap discard EXIT
 
@@ -47,7 +56,7 @@ mirror() {
 }
 
 make_root() {
-  echo "Making a bare Debian ($suite) in $root"
+  echo "Making a bare Debian ($release) in $root"
   local from
   from=$(mirror)
   if [ -z "$from" ]; then
@@ -58,31 +67,32 @@ make_root() {
   [ -n "$from" ] || fail "none of apt's sources is Debian"
   local options=(--variant=minbase)
   [[ $from != https:* ]] || options+=(--include=ca-certificates)
-  timeout --foreground 900 debootstrap "${options[@]}" "$suite" "$root" "$from" >"$root.log" 2>&1 ||
+  timeout --foreground 900 debootstrap "${options[@]}" "$release" "$root" "$from" >"$root.log" 2>&1 ||
     { tail "$root.log"; fail "no bare Debian"; }
   cp -a /etc/apt/apt.conf.d/. "$root/etc/apt/apt.conf.d/"
   cp -L /etc/resolv.conf /etc/hosts "$root/etc/"
-  mount -t proc proc "$root/proc"
-  mount --bind /dev "$root/dev"
-  mount -t tmpfs tmpfs "$root/dev/shm"
-  mount -t devpts devpts "$root/dev/pts"
   # Nothing that comes along starts a service.
   printf '#!/bin/sh\nexit 101\n' >"$root/usr/sbin/policy-rc.d"
   chmod +x "$root/usr/sbin/policy-rc.d"
 }
 
-check_checkout() {
-  local folder=/root/lumivane output="$root/root/output"
+checkout() { # ./dev's command: runs it in a checkout of the last commit
   mkdir "$root$folder"
   git archive HEAD | tar -x -C "$root$folder"
-  echo "As a new user: ./dev run"
-  inside 2400 sh -c "cd $folder && ./dev run" 2>&1 | tee "$output" || fail "./dev run fails"
+  echo "As a new user: ./dev $1"
+  inside 3000 sh -c "cd $folder && ./dev $1" 2>&1 || fail "./dev $1 fails"
+}
+
+check_checkout() {
+  local output="$root/root/output"
+  enter
+  checkout run | tee "$output"
   for line in "Moon is " "Lunation " "Screenshot: $folder/build/panel.png"; do
     grep -q "^$line" "$output" || fail "it does not print \"$line\""
   done
   [ -s "$root$folder/build/panel.png" ] || fail "there is no screenshot"
   [ ! -e "$root/root/.config" ] || fail "it leaves something behind in the user's settings"
-  echo "A new user's ./dev run works."
+  echo "A new user's ./dev run works on a bare $release."
 }
 
 everything() { # every file that a package or its scripts can have put there, but not what they say of themselves
@@ -90,78 +100,49 @@ everything() { # every file that a package or its scripts can have put there, bu
     -o -path ./var/lib/dpkg -o -path ./var/lib/apt \) -prune -o -print | sort)
 }
 
-check_package() { # package
-  local dependencies
-  echo "Installing what the test itself needs"
-  inside 600 apt-get update -qq
-  inside 600 apt-get install -y -qq --no-install-recommends xvfb xauth dbus libglib2.0-bin >/dev/null 2>&1 ||
-    fail "no virtual display"
-
-  echo "Installing $(basename "$1"), with what it depends on and no more"
-  cp "$1" "$root/tmp/lumivane.deb"
-  # Its dependencies first: what is there after it is removed again must be what was there before it.
-  dependencies=$(dpkg-deb --field "$1" Depends | sed 's/([^)]*)//g; s/,/ /g')
-  # shellcheck disable=SC2086 # one word for each package
-  inside 600 apt-get install -y -qq --no-install-recommends $dependencies >/dev/null 2>&1 || fail "a dependency is missing"
-  everything >"$root/tmp/before"
-  inside 600 apt-get install -y -qq --no-install-recommends /tmp/lumivane.deb >"$root/tmp/log" 2>&1 ||
-    { cat "$root/tmp/log"; fail "it does not install"; }
-
-  echo "Starting it under Xvfb"
-  cat >"$root/tmp/session" <<SESSION
-set -eu
-says() { gdbus call --session --dest "\$@"; }
-owner() { says org.freedesktop.DBus --object-path / --method org.freedesktop.DBus.GetConnectionUnixProcessID $identifier; }
-await() { # seconds command...
-  end=\$((\$(date +%s) + \$1)); shift
-  until "\$@" >/dev/null 2>&1; do
-    [ "\$(date +%s)" -lt "\$end" ] || { echo "timed out waiting for: \$*"; exit 1; }
-    sleep 0.2
-  done
+depends() { # on what, as control files have it
+  inside 600 apt-get satisfy -y -qq --no-install-recommends "$1" >/dev/null 2>&1 || fail "this can't be had: $1"
 }
-gone() { ! owner; }
 
-Lumivane >/tmp/log 2>&1 &
-program=\$!
-await 30 owner
-sleep 10
-kill -0 \$program || { echo "it ended by itself"; exit 1; }
-# The menu's click and the action reach the running copy; then the bus starts one by itself.
-gapplication launch $identifier
-owner | grep -qw \$program || { echo "the menu's click does not reach the copy that runs"; exit 1; }
-gapplication action $identifier quit
-wait \$program || { echo "it ended with status \$?"; exit 1; }
-await 10 gone
-gapplication launch $identifier
-await 30 owner
-gapplication action $identifier quit
-await 10 gone
-SESSION
-  mkdir -m 700 "$root/tmp/runtime"
-  inside 600 env XDG_RUNTIME_DIR=/tmp/runtime xvfb-run -a -s "-screen 0 1280x800x24" dbus-run-session -- sh /tmp/session ||
-    { cat "$root/tmp/log"; fail "it does not run"; }
-  if grep -v "^$" "$root/tmp/log"; then
-    fail "it logs what is above"
-  fi
-  [ -s "$root/root/.config/autostart/$identifier.desktop" ] || fail "it does not start with the session"
-
-  echo "Removing it"
-  rm -rf "$root/root/.config" "$root/root/.cache" "$root/root/.local" # the user's, which stays
-  inside 60 dpkg -P lumivane >/dev/null || fail "it can't be removed"
+check_package() {
+  local output=dist/$release package
+  cp -a "$root" "$root.bare"
+  enter
+  checkout package
+  rm -rf "$output"
+  mkdir -p "$output"
+  cp "$root$folder"/dist/* "$output"
+  leave
+  mv "$root.bare" "$root"
+  enter
+  package=$(echo "$output"/lumivane_*.deb)
+  cp "$package" debian/tests/session "$root/tmp"
+  echo "Installing $package, with what it and its test depend on and no more"
+  inside 600 apt-get update -qq
+  depends "$(sed -n 's/^Depends: @, //p' debian/tests/control)"
+  # Its dependencies first: what is there after it is purged must be what was there before it.
+  depends "$(dpkg-deb --field "$package" Depends)"
+  everything >"$root/tmp/before"
+  inside 600 apt-get install -y -qq --no-install-recommends "/tmp/${package##*/}" >"$root/tmp/log" 2>&1 ||
+    { cat "$root/tmp/log"; fail "it does not install"; }
+  echo "Using it"
+  inside 300 /tmp/session || fail "it does not run"
+  echo "Purging it"
+  inside 60 dpkg -P lumivane >/dev/null || fail "it can't be purged"
   everything >"$root/tmp/after"
   diff "$root/tmp/before" "$root/tmp/after" || fail "it leaves files behind"
   if inside 60 dpkg-query -W lumivane >/dev/null 2>&1; then fail "it is still known to dpkg"; fi
   echo "The package installs, runs and goes without a trace."
 }
 
-case "${1:-}" in
-  checkout)
+case "${1:-} $release" in
+  checkout\ ?*)
     make_root
     check_checkout
     ;;
-  package)
+  package\ ?*)
     make_root
-    check_package "$package"
+    check_package
     ;;
-  *) echo "usage: bare_root.sh checkout | package PACKAGE" >&2; exit 2 ;;
+  *) echo "usage: bare_root.sh checkout|package RELEASE" >&2; exit 2 ;;
 esac

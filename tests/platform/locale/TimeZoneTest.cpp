@@ -43,6 +43,10 @@ TEST(TimeZoneTest, ReadsTheZoneAsTheCLibraryDoes) {
           Row{"<+03>-3<+05>-5", "<+03>-3<+05>-5,M3.2.0,M11.1.0"}, Row{"<+0330>-3:30", "<+0330>-3:30"},
           Row{"EST5EDT", "EST5EDT"}, Row{"NZST-12NZDT,M9.5.0,M4.1.0/3", "NZST-12NZDT,M9.5.0,M4.1.0/3"},
           Row{"", "UTC"}, Row{":", "UTC"}}) {
+        // Debian 13 has these two apart from the others, and its C library doesn't know them either.
+        if ((value.startsWith("posix/") || value == "EST5EDT") &&
+            !QFile::exists(TimeZone::zoneInfoFolder() + u'/' + QFile::decodeName(value)))
+            continue;
         const CaughtLog log;
         const InZone here(value);
         EXPECT_EQ(TimeZone::name(TimeZone::systemTimeZone()).toStdString(), name);

@@ -27,7 +27,7 @@ std::uint32_t ExtraDateUtilities::carbonSecondsGMT(const QDateTime& date) {
 }
 
 QDateTime ExtraDateUtilities::dateWithCarbonSeconds1(std::uint32_t gmtSeconds) {
-    return QDateTime::fromSecsSinceEpoch(kReferenceInstant + gmtSeconds, Qt::UTC);
+    return QDateTime::fromSecsSinceEpoch(kReferenceInstant + gmtSeconds, QTimeZone::utc());
 }
 
 QString ExtraDateUtilities::timeStringWithSeconds(const QDateTime& date, bool withSeconds) {
