@@ -59,7 +59,7 @@ class TrayTest(unittest.TestCase):
         desktop.crash_panel()
         wait_for("the utility window", lambda: "SKIP" not in self.state())
         wait_for("the full moon", lambda: "Moon is full" in desktop.lines())
-        desktop.run_panel()
+        desktop.start_panel("bottom")
         wait_for("the window to go", lambda: not desktop.titled("Lumivane"))
         desktop.crash_panel()
         time.sleep(5)
