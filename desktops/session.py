@@ -15,7 +15,7 @@ import time
 from gi.repository import GLib
 
 from shells import SHELLS, different
-from desktop import at_rest, rectangle, wait_for
+from desktop import Atspi, at_rest, rectangle, wait_for
 from sway import leave_root
 
 MENU = ["Show Lumivane", "Copy Information to Clipboard", "Open at Login", "Check for Update...",
@@ -164,9 +164,9 @@ class Session:
     def tool_tip(self):
         """The item's text, and, where the shell shows it, that the pointer brings something up beside the bar."""
         lines = self.property("ToolTip")[2].split("\n")
-        assert len(lines) == 2 and lines[0].startswith("Moon is ") and lines[1].endswith(" illumination"), str(lines)
+        assert len(lines) == 3 and lines[0].startswith("Moon is ") and lines[1].endswith(" illumination"), str(lines)
         if not self.shell.shows_tool_tips:
-            return "2 lines, not shown there"
+            return "3 lines, not shown there"
         self.shell.point(self.shell.width // 2, self.shell.height // 2)
         self.shell.settle()
         before = self.shot("before")
@@ -174,7 +174,7 @@ class Session:
             self.shell.point(self.icon.x + self.icon.width // 2 - x, self.icon.y + self.icon.height // 2)
         self.wait_for_change("the tool tip", before, 60, self.icon.height + 12)
         self.shell.point(self.shell.width // 2, self.shell.height // 2)
-        return "2 lines, shown"
+        return "3 lines, shown"
 
     def minimised(self):
         """A click on the icon brings the minimised utility window back."""
@@ -182,7 +182,7 @@ class Session:
         before = self.shown()
         button = wait_for("the window button", lambda: next(
             (node for node in self.shell.walk(self.shell.window()) if node.get_name() == "Utility window"), None))
-        self.shell.atspi().Action.do_action(button, 0)
+        Atspi.Action.do_action(button, 0)
         window = wait_for("the utility window", lambda: [new for new in self.shown() if new not in before])[0]
         at_rest("the window", self.shell.rectangle)
         if "MINIMIZE" not in self.shell.run("xprop", "-id", window, "_NET_WM_ALLOWED_ACTIONS"):

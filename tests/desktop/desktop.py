@@ -91,19 +91,28 @@ class Desktop:
         for name in ("WAYLAND_DISPLAY", "LANGUAGE", "LD_PRELOAD", "TZ", "LUMIVANE_CONFIG_HOME"):
             os.environ.pop(name, None)
         try:
-            # When its first client leaves before the second has come, a server that resets drops that one.
-            os.environ["DISPLAY"] = ":" + self.spawn_server(
-                "Xvfb", "-displayfd", "{}", "-screen", "0", size + "x24", "-nolisten", "tcp", "-noreset")
-            os.environ["DBUS_SESSION_BUS_ADDRESS"] = self.spawn_server(
-                "dbus-daemon", "--session", "--nofork", "--print-address={}")
+            self.start_screen(size)
+            self.start_bus()
             self.start_session(panel if tray else None)
         except BaseException:
             self.close()
             raise
 
+    def start_screen(self, size):
+        # When its first client leaves before the second has come, a server that resets drops that one.
+        os.environ["DISPLAY"] = ":" + self.spawn_server(
+            "Xvfb", "-displayfd", "{}", "-screen", "0", size + "x24", "-nolisten", "tcp", "-noreset")
+
+    def start_bus(self):
+        os.environ["DBUS_SESSION_BUS_ADDRESS"] = self.spawn_server(
+            "dbus-daemon", "--session", "--nofork", "--print-address={}")
+
+    def start_window_manager(self):
+        self.spawn(["openbox"])
+
     def start_session(self, edge):
         # A panel that maps its window while the window manager starts stays off the screen.
-        self.spawn(["openbox"])
+        self.start_window_manager()
         wait_for("the window manager", lambda: "window id" in output("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"))
         if edge:
             self.start_panel(edge)
@@ -126,6 +135,9 @@ class Desktop:
         folder.mkdir(parents=True, exist_ok=True)
         mode, position = EDGES[edge]
         (folder / "xfce4-panel.xml").write_text(PANEL_CONFIG.format(mode=mode, position=position))
+        self.run_panel()
+
+    def run_panel(self):
         # Even so, on a busy machine, its window now and then stays away; another try brings it up.
         for _ in range(3):
             self.panel = self.spawn(["xfce4-panel", "--disable-wm-check"])
