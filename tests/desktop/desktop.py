@@ -108,12 +108,12 @@ class Desktop:
             "dbus-daemon", "--session", "--nofork", "--print-address={}")
 
     def start_window_manager(self):
+        # A panel that maps its window while this one starts stays off the screen.
         self.spawn(["openbox"])
+        wait_for("the window manager", lambda: "window id" in output("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"))
 
     def start_session(self, edge):
-        # A panel that maps its window while the window manager starts stays off the screen.
         self.start_window_manager()
-        wait_for("the window manager", lambda: "window id" in output("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"))
         if edge:
             self.start_panel(edge)
 
