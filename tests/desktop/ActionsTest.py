@@ -227,9 +227,29 @@ class ActionsTest(unittest.TestCase):
         wait_for("the zone's city", lambda: desktop.line("Sun:") == sun)
         self.assertEqual(desktop.text(self.field("latitude")), "40,71417", "as after the start")
         desktop.open_popup(lambda: desktop.click_control("Set Latitude and Longitude"))
-        desktop.key("Down", "Down", "Return")
+        desktop.key("Up", "Return")
         self.assertRegex(desktop.opened(), r"^https://[^/]+/products/lumivane/globalposition\.htm$")
         self.assertIsNotNone(desktop.window())
+
+    def test_a_city(self):
+        desktop = self.desktop
+        self.show(environment={"LC_ALL": "en_US.UTF-8"})
+        desktop.open_popup(lambda: desktop.click_control("Set Latitude and Longitude"))
+        desktop.key("Down", "Down", "Return")
+        sheet = wait_for("the sheet", desktop.dialog)
+        search = next(node for node in desktop.walk(sheet) if node.get_role_name() == "text")
+        # By keys in the field alone, which says what is chosen; what is not found can't be.
+        for text, key, city in (("", "Up", "New Salem, North Dakota, United States"),
+                                ("nowhere", "Return", "No city found."),
+                                ("sao", "Down", "São Tomé, São Tomé & Príncipe")):
+            desktop.type(text)
+            desktop.key(key)
+            wait_for(city, lambda: search.get_description() == city)
+            desktop.key("ctrl+a")
+        desktop.key("Return")
+        self.preference("LVLatitude", "0.33333334")
+        self.preference("LVLongitude", "6.733333")
+        self.assertEqual(desktop.text(self.field("latitude")), "0.33333334")
 
     def test_brightness(self):
         desktop = self.desktop

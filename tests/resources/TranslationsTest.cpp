@@ -178,10 +178,12 @@ TEST_F(TranslationsTest, EveryControlHasALetterOfItsOwnInEveryLanguage) {
         const auto* place =
             panel->window()->findChild<QPushButton*>(QStringLiteral("latitudeAndLongitudePopup_"));
         ASSERT_TRUE(place && place->menu());
-        expectLetters(commands(place->menu()), 2, "place");
+        expectLetters(commands(place->menu()), 3, "place");
 
         panel->timeZoneOther(nullptr);
-        expectLetters(controls(panel->window()->findChild<QDialog*>()), 3, "offset");
+        panel->latitudeAndLongitudeFromCity(nullptr);
+        for (const char* dialog : {"AskNumber", "ChooseCity"})
+            expectLetters(controls(panel->window()->findChild<QDialog*>(QLatin1String(dialog))), 3, dialog);
         AppcastItem item;
         item.notes = QStringLiteral("Notes");
         item.page = QUrl(QStringLiteral("https://lumivane.example/"));
