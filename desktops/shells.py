@@ -308,6 +308,21 @@ class Gnome(Wayland):
         return self.call("org.gnome.Shell", "/org/gnome/Shell", "org.gnome.Shell", "Eval",
                          GLib.Variant("(s)", (script,))).unpack()[1]
 
+    def find_icon(self):
+        """Where the shell itself has the icon, if it is drawn."""
+        found = json.loads(self.evaluate(
+            "Object.keys(Main.panel.statusArea).filter(key => key.startsWith('appindicator')).map(key => "
+            "Main.panel.statusArea[key]).filter(actor => actor.mapped).map(actor => "
+            "[...actor.get_transformed_position(), ...actor.get_transformed_size()].map(Math.round))") or "[]")
+        if len(found) != 1:
+            return None
+        box = rectangle(*found[0])
+        now = self.picture_file("icon")
+        self.screenshot(now)
+        colours = subprocess.run(["convert", now, "-crop", "%dx%d+%d+%d" % (box.width, box.height, box.x, box.y),
+                                  "-format", "%k", "info:"], capture_output=True, text=True).stdout
+        return box if int(colours or 0) > 8 else None
+
     remote = ""
 
     def mutter(self, interface, method, signature=None, *values):

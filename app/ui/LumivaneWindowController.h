@@ -97,6 +97,7 @@ public Q_SLOTS:
     void timeZoneChanged(QObject* sender);
     void timeZoneOther(QObject* sender);
     void latitudeAndLongitudeFromSystemSettings(QObject* sender);
+    void latitudeAndLongitudeFromCity(QObject* sender);
     void latitudeAndLongitudeFromWeb(QObject* sender);
     void latitudeOrLongitudeChange(QObject* sender);
     void brightness(QObject* sender);
@@ -125,6 +126,7 @@ private:
     void askTimeZoneDidEnd(const QString& text, AskNumber* dialog);
     void selectTimeZoneEntry(int type);
     void updateForTray();
+    void storePlace(double latitude, double longitude);
     void showStoredPlace();
     void showModel();
     void showPickerDate();

@@ -12,6 +12,7 @@
 #include "platform/locale/NumberFormatter.h"
 #include "platform/preferences/Preferences.h"
 #include "shared/utilities/classes/AskNumber.h"
+#include "shared/utilities/classes/ChooseCity.h"
 #include "shared/utilities/classes/values/ExtraNumberUtilities.h"
 
 #include <QComboBox>
@@ -102,11 +103,14 @@ void LumivaneWindowController::askTimeZoneDidEnd(const QString& text, AskNumber*
 }
 
 void LumivaneWindowController::latitudeAndLongitudeFromSystemSettings(QObject*) {
-    defaults()->set(PreferenceKeys::latitude, static_cast<float>(ExtraNumberUtilities::numberWithLatitude()));
-    defaults()->set(PreferenceKeys::longitude,
-                    static_cast<float>(ExtraNumberUtilities::numberWithLongitude()));
-    showStoredPlace();
-    updateStaticMoonInfo();
+    storePlace(ExtraNumberUtilities::numberWithLatitude(), ExtraNumberUtilities::numberWithLongitude());
+}
+
+void LumivaneWindowController::latitudeAndLongitudeFromCity(QObject*) {
+    ChooseCity::chooseCity(
+        defaults()->value(PreferenceKeys::latitude), defaults()->value(PreferenceKeys::longitude),
+        window_.get(),
+        [this](const Cities::City& city) { storePlace(city.place.latitude, city.place.longitude); });
 }
 
 void LumivaneWindowController::latitudeAndLongitudeFromWeb(QObject*) {
@@ -114,6 +118,13 @@ void LumivaneWindowController::latitudeAndLongitudeFromWeb(QObject*) {
 }
 
 void LumivaneWindowController::latitudeOrLongitudeChange(QObject*) {
+    updateStaticMoonInfo();
+}
+
+void LumivaneWindowController::storePlace(double latitude, double longitude) {
+    defaults()->set(PreferenceKeys::latitude, static_cast<float>(latitude));
+    defaults()->set(PreferenceKeys::longitude, static_cast<float>(longitude));
+    showStoredPlace();
     updateStaticMoonInfo();
 }
 

@@ -143,6 +143,11 @@ QString Bundle::localizedString(const char* key, int n) const {
     return text.isEmpty() ? QString::fromUtf8(key) : text;
 }
 
+QString Bundle::language() const {
+    const QString language = translations()->language();
+    return language.isEmpty() ? QStringLiteral("en") : language;
+}
+
 void Bundle::installTranslations(const QStringList& languages) {
     qtTranslator_ = std::make_unique<QTranslator>();
     translator_ = translatorFor(languages, translationsPath());

@@ -40,6 +40,9 @@ public:
     /// The same for a text about `n` things, whose form depends on the number; "%n" stays in it.
     QString localizedString(const char* key, int n) const;
 
+    /// The language of those texts: "de", "pt_BR".
+    QString language() const;
+
     /// Makes every text follow `languages` ("de", "pt-BR"), best first, by default the user's: those looked
     /// up here, the layouts' and, where Qt's own catalogue is installed, the ones in Qt's controls. Also sets
     /// the direction of the layouts. Called once there is an application object.

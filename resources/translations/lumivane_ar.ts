@@ -741,5 +741,29 @@
             <numerusform>قبل %n ساعة</numerusform>
         </translation>
     </message>
+    <message>
+        <source>C&amp;ity or country:</source>
+        <translation>&amp;المدينة أو البلد:</translation>
+    </message>
+    <message>
+        <source>Cities</source>
+        <translation>المدن</translation>
+    </message>
+    <message>
+        <source>Choose a &amp;City...</source>
+        <translation>ا&amp;ختيار مدينة…</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1، %2</translation>
+    </message>
+    <message>
+        <source>The system has no list of cities.</source>
+        <translation>لا توجد في النظام قائمة بالمدن.</translation>
+    </message>
+    <message>
+        <source>No city found.</source>
+        <translation>لم يُعثر على أي مدينة.</translation>
+    </message>
 </context>
 </TS>

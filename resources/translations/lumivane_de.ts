@@ -717,5 +717,29 @@
             <numerusform>vor %n Stunden</numerusform>
         </translation>
     </message>
+    <message>
+        <source>C&amp;ity or country:</source>
+        <translation>&amp;Stadt oder Land:</translation>
+    </message>
+    <message>
+        <source>Cities</source>
+        <translation>Städte</translation>
+    </message>
+    <message>
+        <source>Choose a &amp;City...</source>
+        <translation>S&amp;tadt wählen …</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>The system has no list of cities.</source>
+        <translation>Das System hat keine Liste von Städten.</translation>
+    </message>
+    <message>
+        <source>No city found.</source>
+        <translation>Keine Stadt gefunden.</translation>
+    </message>
 </context>
 </TS>

@@ -717,5 +717,29 @@
             <numerusform>hace %n horas</numerusform>
         </translation>
     </message>
+    <message>
+        <source>C&amp;ity or country:</source>
+        <translation>C&amp;iudad o país:</translation>
+    </message>
+    <message>
+        <source>Cities</source>
+        <translation>Ciudades</translation>
+    </message>
+    <message>
+        <source>Choose a &amp;City...</source>
+        <translation>Elegir una &amp;ciudad…</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>The system has no list of cities.</source>
+        <translation>El sistema no tiene ninguna lista de ciudades.</translation>
+    </message>
+    <message>
+        <source>No city found.</source>
+        <translation>No se ha encontrado ninguna ciudad.</translation>
+    </message>
 </context>
 </TS>

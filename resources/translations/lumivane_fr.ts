@@ -717,5 +717,29 @@
             <numerusform>il y a %n heures</numerusform>
         </translation>
     </message>
+    <message>
+        <source>C&amp;ity or country:</source>
+        <translation>&amp;Ville ou pays&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Cities</source>
+        <translation>Villes</translation>
+    </message>
+    <message>
+        <source>Choose a &amp;City...</source>
+        <translation>Choisir une &amp;ville…</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>The system has no list of cities.</source>
+        <translation>Le système n’a pas de liste de villes.</translation>
+    </message>
+    <message>
+        <source>No city found.</source>
+        <translation>Aucune ville trouvée.</translation>
+    </message>
 </context>
 </TS>

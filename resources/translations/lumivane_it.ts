@@ -717,5 +717,29 @@
             <numerusform>%n ore fa</numerusform>
         </translation>
     </message>
+    <message>
+        <source>C&amp;ity or country:</source>
+        <translation>&amp;Città o Paese:</translation>
+    </message>
+    <message>
+        <source>Cities</source>
+        <translation>Città</translation>
+    </message>
+    <message>
+        <source>Choose a &amp;City...</source>
+        <translation>Scegli una &amp;città…</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>The system has no list of cities.</source>
+        <translation>Il sistema non ha un elenco di città.</translation>
+    </message>
+    <message>
+        <source>No city found.</source>
+        <translation>Nessuna città trovata.</translation>
+    </message>
 </context>
 </TS>

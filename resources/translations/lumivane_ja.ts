@@ -711,5 +711,29 @@
             <numerusform>%n時間前</numerusform>
         </translation>
     </message>
+    <message>
+        <source>C&amp;ity or country:</source>
+        <translation>都市または国(&amp;T):</translation>
+    </message>
+    <message>
+        <source>Cities</source>
+        <translation>都市</translation>
+    </message>
+    <message>
+        <source>Choose a &amp;City...</source>
+        <translation>都市を選ぶ(&amp;C)...</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1（%2）</translation>
+    </message>
+    <message>
+        <source>The system has no list of cities.</source>
+        <translation>システムに都市の一覧がありません。</translation>
+    </message>
+    <message>
+        <source>No city found.</source>
+        <translation>都市が見つかりません。</translation>
+    </message>
 </context>
 </TS>

@@ -717,5 +717,29 @@
             <numerusform>há %n horas</numerusform>
         </translation>
     </message>
+    <message>
+        <source>C&amp;ity or country:</source>
+        <translation>C&amp;idade ou país:</translation>
+    </message>
+    <message>
+        <source>Cities</source>
+        <translation>Cidades</translation>
+    </message>
+    <message>
+        <source>Choose a &amp;City...</source>
+        <translation>Escolher uma &amp;cidade…</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>The system has no list of cities.</source>
+        <translation>O sistema não tem uma lista de cidades.</translation>
+    </message>
+    <message>
+        <source>No city found.</source>
+        <translation>Nenhuma cidade encontrada.</translation>
+    </message>
 </context>
 </TS>

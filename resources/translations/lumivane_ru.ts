@@ -723,5 +723,29 @@
             <numerusform>%n часов назад</numerusform>
         </translation>
     </message>
+    <message>
+        <source>C&amp;ity or country:</source>
+        <translation>&amp;Город или страна:</translation>
+    </message>
+    <message>
+        <source>Cities</source>
+        <translation>Города</translation>
+    </message>
+    <message>
+        <source>Choose a &amp;City...</source>
+        <translation>Выбрать &amp;город…</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>The system has no list of cities.</source>
+        <translation>В системе нет списка городов.</translation>
+    </message>
+    <message>
+        <source>No city found.</source>
+        <translation>Город не найден.</translation>
+    </message>
 </context>
 </TS>

@@ -711,5 +711,29 @@
             <numerusform>%n小时前</numerusform>
         </translation>
     </message>
+    <message>
+        <source>C&amp;ity or country:</source>
+        <translation>城市或国家/地区(&amp;T)：</translation>
+    </message>
+    <message>
+        <source>Cities</source>
+        <translation>城市</translation>
+    </message>
+    <message>
+        <source>Choose a &amp;City...</source>
+        <translation>选择城市(&amp;C)…</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1（%2）</translation>
+    </message>
+    <message>
+        <source>The system has no list of cities.</source>
+        <translation>系统中没有城市列表。</translation>
+    </message>
+    <message>
+        <source>No city found.</source>
+        <translation>未找到城市。</translation>
+    </message>
 </context>
 </TS>

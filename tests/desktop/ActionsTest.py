@@ -4,6 +4,7 @@
 
 import datetime
 import os
+import pathlib
 import subprocess
 import sys
 import time
@@ -118,6 +119,26 @@ class ActionsTest(unittest.TestCase):
         self.hidden()
         self.assertIsNone(desktop.program.poll())
 
+    def test_a_city(self):
+        desktop = self.desktop
+        self.show(environment={"LC_ALL": "en_US.UTF-8"})
+        desktop.open_popup(lambda: desktop.click_control("Set Latitude and Longitude"))
+        desktop.key("Down", "Down", "Return")
+        sheet = wait_for("the sheet", desktop.dialog)
+        search = next(node for node in desktop.walk(sheet) if node.get_role_name() == "text")
+        # By keys in the field alone, which says what is chosen; what is not found can't be.
+        for text, key, city in (("", "Up", "New Salem, North Dakota, United States"),
+                                ("nowhere", "Return", "No city found."),
+                                ("sao", "Down", "São Tomé, São Tomé & Príncipe")):
+            desktop.type(text)
+            desktop.key(key)
+            wait_for(city, lambda: search.get_description() == city)
+            desktop.key("ctrl+a")
+        desktop.key("Return")
+        wait_for("the place", lambda: {"LVLatitude=0.33333334", "LVLongitude=6.733333"} <= set(
+            pathlib.Path(desktop.home, "config/lumivane/lumivane.conf").read_text().split()))
+        self.assertEqual(desktop.text(desktop.find("Latitude in degrees, north positive")), "0.33333334")
+
     def test_commands(self):
         desktop = self.desktop
         self.show()
@@ -127,7 +148,7 @@ class ActionsTest(unittest.TestCase):
         self.hidden()
         desktop.open_panel()
         desktop.open_popup(lambda: desktop.click_control("Set Latitude and Longitude"))
-        desktop.key("Down", "Down", "Return")
+        desktop.key("Up", "Return")
         self.assertRegex(desktop.opened(), r"^https://[^/]+/products/lumivane/globalposition\.htm$")
         desktop.choose("About Lumivane")
         dialog = wait_for("the credits", desktop.dialog)

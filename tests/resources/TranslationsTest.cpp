@@ -159,10 +159,12 @@ TEST_F(TranslationsTest, EveryControlHasALetterOfItsOwnInEveryLanguage) {
         expectLetters(commands(panel->gearMenu()) + show, 7);
         const auto* place = panel->window()->findChild<QPushButton*>(u"latitudeAndLongitudePopup_"_s);
         ASSERT_TRUE(place && place->menu());
-        expectLetters(commands(place->menu()), 2);
+        expectLetters(commands(place->menu()), 3);
 
         panel->timeZoneOther(nullptr);
-        expectLetters(controls(panel->window()->findChild<QDialog*>()), 3);
+        panel->latitudeAndLongitudeFromCity(nullptr);
+        for (const char* dialog : {"AskNumber", "ChooseCity"})
+            expectLetters(controls(panel->window()->findChild<QDialog*>(QLatin1String(dialog))), 3);
         AppcastItem item;
         item.notes = u"Notes"_s;
         item.page = QUrl(u"https://lumivane.example/"_s);

@@ -5,10 +5,8 @@
 #include "platform/layouts/Mnemonics.h"
 
 #include <QApplication>
-#include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
 
 #include <memory>
 #include <utility>
@@ -28,19 +26,10 @@ AskNumber* AskNumber::AskNumberWithMessage(const QString& message, const QString
 }
 
 bool AskNumber::awakeFromNib(QString* error) {
-    QDialogButtonBox* buttons = nullptr;
-    QPushButton* okButton = nullptr;
-    QPushButton* cancelButton = nullptr;
     if (!Layout::connectOutlet(window(), "message_", message_, error) ||
         !Layout::connectOutlet(window(), "userText_", userText_, error) ||
-        !Layout::connectOutlet(window(), "smallMessage_", smallMessage_, error) ||
-        !Layout::connectOutlet(window(), "buttons_", buttons, error) ||
-        !Layout::connectOutlet(window(), "okButton_", okButton, error) ||
-        !Layout::connectOutlet(window(), "cancelButton_", cancelButton, error))
+        !Layout::connectOutlet(window(), "smallMessage_", smallMessage_, error) || !okButton(error))
         return false;
-    // The box puts the two in the order that the desktop is used to.
-    buttons->addButton(okButton, QDialogButtonBox::AcceptRole);
-    buttons->addButton(cancelButton, QDialogButtonBox::RejectRole);
     if (!defaultMessage_.isNull())
         message_->setText(defaultMessage_);
     if (!defaultUserText_.isNull())

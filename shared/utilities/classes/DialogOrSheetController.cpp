@@ -4,7 +4,9 @@
 #include "platform/layouts/Layout.h"
 #include "platform/log/Log.h"
 
+#include <QDialogButtonBox>
 #include <QKeyEvent>
+#include <QPushButton>
 #include <QScreen>
 
 #include <algorithm>
@@ -31,6 +33,20 @@ bool DialogOrSheetController::loadWindow(const QString& nibName) {
     }
     logLine(QStringLiteral("The dialog %1 can't be opened. %2").arg(nibName, error));
     return false;
+}
+
+QPushButton* DialogOrSheetController::okButton(QString* error) {
+    QDialogButtonBox* buttons = nullptr;
+    QPushButton* ok = nullptr;
+    QPushButton* cancel = nullptr;
+    if (!Layout::connectOutlet(window(), "buttons_", buttons, error) ||
+        !Layout::connectOutlet(window(), "okButton_", ok, error) ||
+        !Layout::connectOutlet(window(), "cancelButton_", cancel, error))
+        return nullptr;
+    // The box puts the two in the order that the desktop is used to.
+    buttons->addButton(ok, QDialogButtonBox::AcceptRole);
+    buttons->addButton(cancel, QDialogButtonBox::RejectRole);
+    return ok;
 }
 
 void DialogOrSheetController::showOnWindow(QWidget* window) {

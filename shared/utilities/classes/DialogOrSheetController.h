@@ -6,6 +6,8 @@
 #include <QObject>
 #include <QPointer>
 
+class QPushButton;
+
 /// A dialog that is shown either as a sheet over a window, which it blocks, or by itself, blocking the whole
 /// program or nothing. It owns itself from its showing to `closeWindow`: whoever creates one does not delete
 /// it.
@@ -41,6 +43,10 @@ protected:
     /// Connects the outlets and fills the loaded layout in; false, with a reason in `error`, when one is
     /// missing.
     virtual bool awakeFromNib(QString* error) = 0;
+
+    /// The layout's `okButton_`, placed with `cancelButton_` in `buttons_`; null, with a reason in `error`,
+    /// when one is missing.
+    QPushButton* okButton(QString* error);
 
     /// The Escape key or the window manager's close button, in place of a button of the dialog's own.
     virtual void dismissed() = 0;
