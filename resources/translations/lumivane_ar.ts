@@ -741,5 +741,9 @@
             <numerusform>قبل %n ساعة</numerusform>
         </translation>
     </message>
+    <message>
+        <source>&amp;Tell Me the Quarters</source>
+        <translation>الإشعار &amp;بأطوار القمر</translation>
+    </message>
 </context>
 </TS>

@@ -717,5 +717,9 @@
             <numerusform>vor %n Stunden</numerusform>
         </translation>
     </message>
+    <message>
+        <source>&amp;Tell Me the Quarters</source>
+        <translation>Mondphasen &amp;melden</translation>
+    </message>
 </context>
 </TS>

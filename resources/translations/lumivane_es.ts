@@ -717,5 +717,9 @@
             <numerusform>hace %n horas</numerusform>
         </translation>
     </message>
+    <message>
+        <source>&amp;Tell Me the Quarters</source>
+        <translation>Avisar de las &amp;fases lunares</translation>
+    </message>
 </context>
 </TS>

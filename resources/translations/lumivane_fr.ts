@@ -717,5 +717,9 @@
             <numerusform>il y a %n heures</numerusform>
         </translation>
     </message>
+    <message>
+        <source>&amp;Tell Me the Quarters</source>
+        <translation>Annoncer les phases de la &amp;Lune</translation>
+    </message>
 </context>
 </TS>

@@ -717,5 +717,9 @@
             <numerusform>%n ore fa</numerusform>
         </translation>
     </message>
+    <message>
+        <source>&amp;Tell Me the Quarters</source>
+        <translation>Avvisa delle &amp;fasi lunari</translation>
+    </message>
 </context>
 </TS>

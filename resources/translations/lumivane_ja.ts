@@ -711,5 +711,9 @@
             <numerusform>%n時間前</numerusform>
         </translation>
     </message>
+    <message>
+        <source>&amp;Tell Me the Quarters</source>
+        <translation>月の満ち欠けを通知(&amp;T)</translation>
+    </message>
 </context>
 </TS>

@@ -717,5 +717,9 @@
             <numerusform>há %n horas</numerusform>
         </translation>
     </message>
+    <message>
+        <source>&amp;Tell Me the Quarters</source>
+        <translation>Avisar das &amp;fases da Lua</translation>
+    </message>
 </context>
 </TS>

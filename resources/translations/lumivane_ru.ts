@@ -723,5 +723,9 @@
             <numerusform>%n часов назад</numerusform>
         </translation>
     </message>
+    <message>
+        <source>&amp;Tell Me the Quarters</source>
+        <translation>&amp;Уведомлять о фазах Луны</translation>
+    </message>
 </context>
 </TS>

@@ -711,5 +711,9 @@
             <numerusform>%n小时前</numerusform>
         </translation>
     </message>
+    <message>
+        <source>&amp;Tell Me the Quarters</source>
+        <translation>新月、弦月和满月时提醒我(&amp;T)</translation>
+    </message>
 </context>
 </TS>

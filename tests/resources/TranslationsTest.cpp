@@ -174,7 +174,7 @@ TEST_F(TranslationsTest, EveryControlHasALetterOfItsOwnInEveryLanguage) {
             panelCommands, LumivaneWindow::kBorderlessMask);
         expectLetters(controls(panel->window()), 12, "panel");
         const QStringList show{Bundle::main().localizedString("&Show Lumivane")};
-        expectLetters(commands(panel->gearMenu()) + show, 7, "menu");
+        expectLetters(commands(panel->gearMenu()) + show, 8, "menu");
         const auto* place =
             panel->window()->findChild<QPushButton*>(QStringLiteral("latitudeAndLongitudePopup_"));
         ASSERT_TRUE(place && place->menu());
