@@ -18,8 +18,8 @@ from shells import SHELLS, different
 from desktop import Atspi, at_rest, rectangle, wait_for
 from sway import leave_root
 
-MENU = ["Show Lumivane", "Copy Information to Clipboard", "Open at Login", "Check for Update...",
-        "Lumivane Home Page", "About Lumivane", "Quit Lumivane"]
+MENU = ["Show Lumivane", "Copy Information to Clipboard", "Open at Login", "Tell Me the Quarters",
+        "Check for Update...", "Lumivane Home Page", "About Lumivane", "Quit Lumivane"]
 NEAR = 40  # pixels between the icon and its panel
 HOLD = 2.0  # seconds for which an icon must stay
 ITEM = "org.kde.StatusNotifierItem"

@@ -34,6 +34,10 @@ inline constexpr std::array<PreferenceKey<bool>, 5> disclosures{{
     {QLatin1String("LVMoonDisclosure"), true},
 }};
 
+inline constexpr PreferenceKey<bool> tellsQuarters{QLatin1String("LVTellQuarters")}; ///< by notifications
+/// The last quarter that was told, by its number (`Quarters::takeDue`).
+inline constexpr PreferenceKey<int> toldQuarter{QLatin1String("LVToldQuarter")};
+
 /// The application's path that the user was last warned about.
 inline const PreferenceKey<QString> warnedPath{QLatin1String("LVNotApplicationsFolderWarning")};
 

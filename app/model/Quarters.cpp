@@ -48,6 +48,20 @@ std::optional<Quarters::Quarter> Quarters::latest(std::uint32_t t) {
     return found;
 }
 
+std::optional<Quarters::Quarter> Quarters::takeDue(std::int64_t now, int& told) {
+    constexpr std::int64_t kStale = 12 * kHour;
+    constexpr int kCount = kNames.size();
+    const auto t = static_cast<std::uint32_t>(now);
+    const auto quarter = t == now ? latest(t) : std::nullopt; // far years would come round to the table's
+    if (!quarter)
+        return std::nullopt;
+    const int number = gMoon.GetLunation(quarter->instant) * kCount + quarter->phase;
+    const bool isNew = number > told;
+    if (isNew || told - number > kCount)
+        told = number;
+    return isNew && now - quarter->instant <= kStale ? quarter : std::nullopt;
+}
+
 QString Quarters::name(int phase) {
     return Bundle::main().localizedString(kNames.at(static_cast<std::size_t>(phase)));
 }
@@ -58,6 +72,19 @@ QString Quarters::time(std::uint32_t instant) {
     using ExtraMutableStringUtilities::replaceAll;
     replaceAll(text, QStringLiteral("^1"), ExtraDateUtilities::dateStringWithFormat(date, 0));
     replaceAll(text, QStringLiteral("^2"), ExtraDateUtilities::timeStringWithSeconds(date, false));
+    return text;
+}
+
+QString Quarters::details(const Quarter& quarter) {
+    QString text = time(quarter.instant);
+    constexpr int kFullMoon = 2;
+    if (quarter.phase == kFullMoon) {
+        // Its own instant asks for the one after it.
+        const MoonName name = gMoon.GetAlmanacIndex(quarter.instant - 1);
+        text += u'\n' + CMoonHelper::stringForInformation(Information::MoonIs);
+        ExtraMutableStringUtilities::replaceAll(text, QStringLiteral("^1"),
+                                                CMoonHelper::stringForMoonName(name));
+    }
     return text;
 }
 

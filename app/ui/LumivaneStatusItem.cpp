@@ -5,6 +5,7 @@
 #include "app/ui/LumivaneWindow.h"
 #include "app/ui/LumivaneWindowController.h"
 #include "app/ui/PanelCommands.h"
+#include "app/ui/QuarterTeller.h"
 #include "platform/bundle/Bundle.h"
 #include "platform/files/RegularFile.h"
 #include "platform/locale/Clock.h"
@@ -90,7 +91,9 @@ bool raiseAlert() {
 }
 } // namespace
 
-LumivaneStatusItem::LumivaneStatusItem(Shell& shell) : commands_(new PanelCommands(shell, this)) {
+LumivaneStatusItem::LumivaneStatusItem(Shell& shell)
+    : commands_(new PanelCommands(shell, this)), quarterTeller_(new QuarterTeller(this)) {
+    connect(quarterTeller_, &QuarterTeller::activated, this, &LumivaneStatusItem::showPanel);
 }
 
 LumivaneStatusItem::~LumivaneStatusItem() = default;
@@ -124,6 +127,7 @@ void LumivaneStatusItem::showNow() {
 }
 
 void LumivaneStatusItem::moonClockTimer() {
+    quarterTeller_->tell();
     if (!isPanelVisible()) {
         showNow();
         ExtraApplicationUtilities::returnFreedMemory();
@@ -237,6 +241,8 @@ void LumivaneStatusItem::trayChanged(bool shown) {
         makeAsHiddenMenu();
     else if (!shown && !(lumivaneWindow_ && lumivaneWindow_->isWindoid()))
         leaveTray(isFirst);
+    if (isFirst)
+        quarterTeller_->tell();
     Q_EMIT trayKnown();
 }
 

@@ -12,6 +12,7 @@
 class LumivaneWindow;
 class LumivaneWindowController;
 class PanelCommands;
+class QuarterTeller;
 class TrayIcon;
 class QMenu;
 class Shell;
@@ -82,6 +83,7 @@ private:
     void placeUnderIcon();
 
     PanelCommands* commands_;
+    QuarterTeller* quarterTeller_;
     std::unique_ptr<TrayIcon> statusItem_;
     std::unique_ptr<QMenu> menu_;
     std::unique_ptr<LumivaneWindowController> lumivaneWindow_;

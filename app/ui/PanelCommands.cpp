@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/ui/PanelCommands.h"
 
+#include "app/engine/PreferenceKeys.h"
 #include "app/model/PanelModel.h"
 #include "app/ui/LumivaneWindow.h"
 #include "app/ui/LumivaneWindowController.h"
@@ -9,6 +10,7 @@
 #include "platform/files/RegularFile.h"
 #include "platform/layouts/Mnemonics.h"
 #include "platform/log/Log.h"
+#include "platform/preferences/Preferences.h"
 #include "platform/richtext/RTFReader.h"
 #include "shared/utilities/classes/ExtraMutableAttributedStringUtilities.h"
 #include "shared/utilities/classes/ExtraStringSystemUtilities.h"
@@ -31,6 +33,7 @@ namespace {
 
 constexpr qint64 kLargestCredits = 1 << 20;
 constexpr const char* kRunAtLogin = "runAtLoginAction_";
+constexpr const char* kTellQuarters = "tellQuartersAction_";
 constexpr const char* kAbout = QT_TRANSLATE_NOOP("Lumivane", "&About Lumivane");
 
 /// How often, and for how many rounds, a copy waits for the focus.
@@ -124,6 +127,10 @@ PanelCommands::PanelCommands(Shell& shell, QObject* parent) : QObject(parent), s
          &PanelCommands::copyMoonToClipboard},
         {},
         {kRunAtLogin, QT_TRANSLATE_NOOP("Lumivane", "&Open at Login"), {}, &PanelCommands::runAtLogin},
+        {kTellQuarters,
+         QT_TRANSLATE_NOOP("Lumivane", "&Tell Me the Quarters"),
+         {},
+         &PanelCommands::tellQuarters},
         {"checkForUpdateAction_",
          QT_TRANSLATE_NOOP("Lumivane", "Check for &Update..."),
          {},
@@ -148,7 +155,7 @@ PanelCommands::PanelCommands(Shell& shell, QObject* parent) : QObject(parent), s
         action->setText(Bundle::main().localizedString(command.text));
         action->setShortcut(command.key);
         action->setShortcutVisibleInContextMenu(true);
-        action->setCheckable(command.name == kRunAtLogin);
+        action->setCheckable(command.name == kRunAtLogin || command.name == kTellQuarters);
         connect(action, &QAction::triggered, this,
                 [this, action, choose = command.choose] { (this->*choose)(action); });
     }
@@ -165,6 +172,8 @@ LumivaneWindowController* PanelCommands::visiblePanel() const {
 bool PanelCommands::validateMenuItem(QAction* item) {
     if (item->objectName() == QLatin1String(kRunAtLogin))
         item->setChecked(shell_.alreadySetToStartup(std::nullopt));
+    else if (item->objectName() == QLatin1String(kTellQuarters))
+        item->setChecked(Preferences::standard()->value(PreferenceKeys::tellsQuarters));
     return true;
 }
 
@@ -185,6 +194,11 @@ void PanelCommands::copyMoonToClipboard(QObject*) {
 
 void PanelCommands::runAtLogin(QObject*) {
     shell_.toggleSetToStartup(std::nullopt);
+}
+
+void PanelCommands::tellQuarters(QObject*) {
+    Preferences* const preferences = Preferences::standard();
+    preferences->set(PreferenceKeys::tellsQuarters, !preferences->value(PreferenceKeys::tellsQuarters));
 }
 
 void PanelCommands::checkForUpdate(QObject* sender) {

@@ -36,6 +36,9 @@ public:
     /// Adds the program to the login items, or takes it from them.
     void runAtLogin(QObject* sender);
 
+    /// Switches the notifications of the quarters on or off.
+    void tellQuarters(QObject* sender);
+
     void checkForUpdate(QObject* sender);
 
     /// Opens the product's home page; closes a drop-down.

@@ -765,5 +765,9 @@
         <source>No city found.</source>
         <translation>لم يُعثر على أي مدينة.</translation>
     </message>
+    <message>
+        <source>&amp;Tell Me the Quarters</source>
+        <translation>الإشعار &amp;بأطوار القمر</translation>
+    </message>
 </context>
 </TS>

@@ -741,5 +741,9 @@
         <source>No city found.</source>
         <translation>Keine Stadt gefunden.</translation>
     </message>
+    <message>
+        <source>&amp;Tell Me the Quarters</source>
+        <translation>Mondphasen &amp;melden</translation>
+    </message>
 </context>
 </TS>

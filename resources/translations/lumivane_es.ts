@@ -741,5 +741,9 @@
         <source>No city found.</source>
         <translation>No se ha encontrado ninguna ciudad.</translation>
     </message>
+    <message>
+        <source>&amp;Tell Me the Quarters</source>
+        <translation>Avisar de las &amp;fases lunares</translation>
+    </message>
 </context>
 </TS>

@@ -741,5 +741,9 @@
         <source>No city found.</source>
         <translation>Aucune ville trouvée.</translation>
     </message>
+    <message>
+        <source>&amp;Tell Me the Quarters</source>
+        <translation>Annoncer les phases de la &amp;Lune</translation>
+    </message>
 </context>
 </TS>

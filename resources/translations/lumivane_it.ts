@@ -741,5 +741,9 @@
         <source>No city found.</source>
         <translation>Nessuna città trovata.</translation>
     </message>
+    <message>
+        <source>&amp;Tell Me the Quarters</source>
+        <translation>Avvisa delle &amp;fasi lunari</translation>
+    </message>
 </context>
 </TS>

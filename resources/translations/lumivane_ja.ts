@@ -735,5 +735,9 @@
         <source>No city found.</source>
         <translation>都市が見つかりません。</translation>
     </message>
+    <message>
+        <source>&amp;Tell Me the Quarters</source>
+        <translation>月の満ち欠けを通知(&amp;T)</translation>
+    </message>
 </context>
 </TS>

@@ -741,5 +741,9 @@
         <source>No city found.</source>
         <translation>Nenhuma cidade encontrada.</translation>
     </message>
+    <message>
+        <source>&amp;Tell Me the Quarters</source>
+        <translation>Avisar das &amp;fases da Lua</translation>
+    </message>
 </context>
 </TS>

@@ -747,5 +747,9 @@
         <source>No city found.</source>
         <translation>Город не найден.</translation>
     </message>
+    <message>
+        <source>&amp;Tell Me the Quarters</source>
+        <translation>&amp;Уведомлять о фазах Луны</translation>
+    </message>
 </context>
 </TS>

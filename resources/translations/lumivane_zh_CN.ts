@@ -735,5 +735,9 @@
         <source>No city found.</source>
         <translation>未找到城市。</translation>
     </message>
+    <message>
+        <source>&amp;Tell Me the Quarters</source>
+        <translation>新月、弦月和满月时提醒我(&amp;T)</translation>
+    </message>
 </context>
 </TS>

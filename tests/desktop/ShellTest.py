@@ -42,6 +42,37 @@ class ShellTest(unittest.TestCase):
         entry.write_text(entry.read_text() + "Hidden=true\n")
         self.assertEqual(self.desktop.commands()["Open at Login"], 0)
 
+    def test_a_quarter_is_told_once(self):
+        desktop = self.desktop
+        service, path = "org.freedesktop.Notifications", "/org/freedesktop/Notifications"
+        config = pathlib.Path(desktop.home, "dunstrc")
+        config.write_text("[global]\nmouse_left_click = do_action, close_current\n")
+        desktop.spawn(["dunst", "-conf", config])
+        wait_for("the notification service", lambda: desktop.bus_has(service))
+
+        def click(box):  # what was just shown takes none for a moment
+            desktop.click(box.x + box.width // 2, box.y + box.height // 2)
+            return not desktop.titled("Dunst")
+
+        desktop.start(PROGRAM, "2009-12-24 17:40:00")  # four minutes after the first quarter
+        desktop.open_panel()
+        desktop.choose("Tell Me the Quarters")
+        wait_for("the check mark", lambda: desktop.commands()["Tell Me the Quarters"] == 1)
+        for moment, is_told in (("2009-12-24 17:50:00", False), ("2009-12-31 19:14:00", True),
+                                ("2009-12-31 19:20:00", False)):
+            desktop.stop()
+            desktop.start(PROGRAM, moment, fresh=False)
+            if is_told:
+                box = desktop.rectangle("Dunst")
+                wait_for("the notification to take a click", lambda: click(box))
+                wait_for("the panel", desktop.window)
+            else:
+                desktop.open_panel()
+                self.assertFalse(desktop.titled("Dunst"), moment)
+        told = desktop.call(service, path, "org.dunstproject.cmd0", "NotificationListHistory").unpack()[0]
+        self.assertEqual([(each["summary"], each["body"]) for each in told],
+                         [("Full Moon", "12/31/09, 7:13 PM\nMoon is a Cold Moon")])
+
     def test_warning_comes_once_for_a_place(self):
         # The same tree without a desktop entry is not among the applications.
         tree = pathlib.Path(self.desktop.home, "elsewhere")

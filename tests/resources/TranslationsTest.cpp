@@ -156,7 +156,7 @@ TEST_F(TranslationsTest, EveryControlHasALetterOfItsOwnInEveryLanguage) {
             panelCommands, LumivaneWindow::kBorderlessMask);
         expectLetters(controls(panel->window()), 12);
         const QStringList show{Bundle::main().localizedString("&Show Lumivane")};
-        expectLetters(commands(panel->gearMenu()) + show, 7);
+        expectLetters(commands(panel->gearMenu()) + show, 8);
         const auto* place = panel->window()->findChild<QPushButton*>(u"latitudeAndLongitudePopup_"_s);
         ASSERT_TRUE(place && place->menu());
         expectLetters(commands(place->menu()), 3);

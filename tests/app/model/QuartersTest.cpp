@@ -9,14 +9,6 @@
 
 #include <gtest/gtest.h>
 
-namespace {
-
-std::uint32_t seconds(const QDateTime& date) {
-    return static_cast<std::uint32_t>(date.toSecsSinceEpoch() - ExtraDateUtilities::kReferenceInstant);
-}
-
-} // namespace
-
 TEST(QuartersTest, TheToolTipTellsTheNextQuarterInTheUsersZoneAndLanguage) {
     gMoon.Init();
     const InZone zone("America/New_York");
@@ -56,6 +48,35 @@ TEST(QuartersTest, QuartersMeetAtTheirInstants) {
             QDateTime::fromSecsSinceEpoch(instant + ExtraDateUtilities::kReferenceInstant + 3 * 3600));
         EXPECT_EQ(Quarters::distance(instant), u"3 hours ago");
     }
-    EXPECT_EQ(Quarters::next(seconds(gmt(1910, 1, 1))), std::nullopt);
-    EXPECT_EQ(Quarters::latest(seconds(gmt(2045, 1, 1))), std::nullopt);
+    EXPECT_EQ(Quarters::next(0), std::nullopt);
+}
+
+TEST(QuartersTest, EachQuarterIsToldOnceAndWhileItIsNews) {
+    gMoon.Init();
+    constexpr int kNothing = -1;
+    const struct {
+        QDateTime clock;
+        int phase;
+    } readings[]{
+        {gmt(1910, 1, 1), kNothing},
+        {gmt(2062, 12, 26), kNothing}, // 2^32 seconds after the first hours of a quarter
+        {gmt(2026, 11, 24, 14, 50), kNothing},
+        {gmt(2026, 11, 24, 14, 55), 2},
+        {gmt(2026, 11, 24, 15), kNothing},
+        {gmt(2026, 11, 17, 12), kNothing}, // set back, over two quarters
+        {gmt(2026, 11, 24, 14, 54), kNothing},
+        {gmt(2026, 12, 1, 18, 30), kNothing}, // slept for longer than half a day
+        {gmt(2026, 12, 1, 18), kNothing},
+        {gmt(2026, 12, 9, 12, 30), 0}, // for not quite as long
+        {gmt(2026, 12, 24, 2), 2},     // over two
+        {gmt(2031, 2, 1), kNothing},   // wrong
+        {gmt(2026, 12, 25), kNothing}, // and right again
+        {gmt(2026, 12, 30, 19, 30), 3},
+    };
+    int told = 0;
+    for (const auto& [clock, phase] : readings) {
+        const auto due =
+            Quarters::takeDue(clock.toSecsSinceEpoch() - ExtraDateUtilities::kReferenceInstant, told);
+        EXPECT_EQ(due ? due->phase : kNothing, phase) << clock.toString(Qt::ISODate).toStdString();
+    }
 }
