@@ -56,6 +56,17 @@ class PanelTest(unittest.TestCase):
         self.desktop.key("Escape")
         wait_for("the panel to hide", lambda: not self.desktop.window())
 
+    def test_the_tool_tip_tells_the_next_quarter(self):
+        for moment, zone, line in (
+                ("2026-11-23 12:00:00", "Europe/Berlin", "Full Moon: 11/24/26, 3:54 PM, in 1 day"),
+                ("2026-11-24 14:00:00", "Europe/Berlin", "Full Moon: 11/24/26, 3:54 PM, in 1 hour"),
+                ("2009-12-26 12:00:00", "America/New_York", "Full Moon: 12/31/09, 2:13 PM, in 5 days")):
+            self.desktop.start(PROGRAM, moment, zone)
+            tip = self.desktop.item_property("ToolTip")[1][2].split("\n")
+            self.desktop.stop()
+            self.assertRegex(tip[1], "^[0-9.]+% illumination$")
+            self.assertEqual(tip[2:], [line])
+
     def test_the_icon_follows_the_clock(self):
         # 300 seconds of the program's take two and a half.
         self.desktop.start(PROGRAM, environment={"LD_PRELOAD": FAKETIME, "FAKETIME": "@2009-12-20 12:00:00 x120"})
