@@ -10,6 +10,7 @@
 #include "platform/locale/Clock.h"
 #include "platform/log/Log.h"
 #include "platform/tray/TrayIcon.h"
+#include "platform/windows/LayerShell.h"
 #include "platform/windows/Screen.h"
 #include "platform/windows/SwayPlacement.h"
 #include "platform/windows/WindowPlatform.h"
@@ -299,11 +300,14 @@ void LumivaneStatusItem::keepUnderIcon(LumivaneWindow* window) {
 
 void LumivaneStatusItem::placeUnderIcon() {
     const std::optional<QRect> icon = globalFrame();
-    const QScreen* screen = icon ? QGuiApplication::screenAt(icon->center()) : nullptr;
+    QScreen* screen = icon ? QGuiApplication::screenAt(icon->center()) : nullptr;
     if (!screen)
         screen = QGuiApplication::primaryScreen();
     LumivaneWindow* window = lumivaneWindow_->window();
-    window->setGeometry(panelFrame(icon, window->size(), screen->geometry(), Screen::visibleFrame(screen)));
-    if (swayPlacement_)
+    const QRect frame = panelFrame(icon, window->size(), screen->geometry(), Screen::visibleFrame(screen));
+    window->setGeometry(frame);
+    if (LayerShell::isUsed())
+        LayerShell::place(window, frame, icon.value_or(frame), screen);
+    else if (swayPlacement_)
         swayPlacement_->place();
 }
