@@ -25,6 +25,7 @@
 #include <QMenu>
 #include <QPainter>
 #include <QScreen>
+#include <QWindow>
 
 #include <algorithm>
 #include <chrono>
@@ -88,6 +89,11 @@ bool raiseAlert() {
     alert->raise();
     alert->activateWindow();
     return true;
+}
+
+/// Wayland tells of a minimised window only that nothing of it is to be drawn.
+bool isMinimised(const QWidget* window) {
+    return window->isMinimized() || (LayerShell::isUsed() && !window->windowHandle()->isExposed());
 }
 } // namespace
 
@@ -197,7 +203,7 @@ bool LumivaneStatusItem::isPanelVisible() const {
 
 void LumivaneStatusItem::statusItemClicked(QObject*) {
     // A minimised window is not seen, so there is nothing to hide.
-    if (!isPanelVisible() || lumivaneWindow_->window()->isMinimized())
+    if (!isPanelVisible() || isMinimised(lumivaneWindow_->window()))
         showPanel();
     else if (!raiseAlert())
         makeAsHiddenMenu();
@@ -213,7 +219,9 @@ void LumivaneStatusItem::showPanel() {
         if (!lumivaneWindow_->isWindoid())
             placeUnderIcon();
         window->show();
-    } else if (window->isMinimized()) {
+    } else if (isMinimised(window)) {
+        if (!window->isMinimized())
+            window->hide(); // so that it comes up anew
         window->showNormal();
     }
     ExtraApplicationUtilities::bringToFront();
