@@ -11,6 +11,7 @@
 #include "platform/locale/Clock.h"
 #include "platform/log/Log.h"
 #include "platform/tray/TrayIcon.h"
+#include "platform/windows/LayerShell.h"
 #include "platform/windows/Screen.h"
 #include "platform/windows/SwayPlacement.h"
 #include "platform/windows/WindowPlatform.h"
@@ -25,6 +26,7 @@
 #include <QMenu>
 #include <QPainter>
 #include <QScreen>
+#include <QWindow>
 
 #include <algorithm>
 #include <chrono>
@@ -88,6 +90,11 @@ bool raiseAlert() {
     alert->raise();
     alert->activateWindow();
     return true;
+}
+
+/// Wayland tells of a minimised window only that nothing of it is to be drawn.
+bool isMinimised(const QWidget* window) {
+    return window->isMinimized() || (LayerShell::isUsed() && !window->windowHandle()->isExposed());
 }
 } // namespace
 
@@ -200,7 +207,7 @@ bool LumivaneStatusItem::isPanelVisible() const {
 
 void LumivaneStatusItem::statusItemClicked(QObject*) {
     // A minimised window is not seen, so there is nothing to hide.
-    if (!isPanelVisible() || lumivaneWindow_->window()->isMinimized())
+    if (!isPanelVisible() || isMinimised(lumivaneWindow_->window()))
         showPanel();
     else if (!raiseAlert())
         makeAsHiddenMenu();
@@ -216,7 +223,9 @@ void LumivaneStatusItem::showPanel() {
         if (!lumivaneWindow_->isWindoid())
             placeUnderIcon();
         window->show();
-    } else if (window->isMinimized()) {
+    } else if (isMinimised(window)) {
+        if (!window->isMinimized())
+            window->hide(); // so that it comes up anew
         window->showNormal();
     }
     ExtraApplicationUtilities::bringToFront();
@@ -305,11 +314,14 @@ void LumivaneStatusItem::keepUnderIcon(LumivaneWindow* window) {
 
 void LumivaneStatusItem::placeUnderIcon() {
     const std::optional<QRect> icon = globalFrame();
-    const QScreen* screen = icon ? QGuiApplication::screenAt(icon->center()) : nullptr;
+    QScreen* screen = icon ? QGuiApplication::screenAt(icon->center()) : nullptr;
     if (!screen)
         screen = QGuiApplication::primaryScreen();
     LumivaneWindow* window = lumivaneWindow_->window();
-    window->setGeometry(panelFrame(icon, window->size(), screen->geometry(), Screen::visibleFrame(screen)));
-    if (swayPlacement_)
+    const QRect frame = panelFrame(icon, window->size(), screen->geometry(), Screen::visibleFrame(screen));
+    window->setGeometry(frame);
+    if (LayerShell::isUsed())
+        LayerShell::place(window, frame, icon.value_or(frame), screen);
+    else if (swayPlacement_)
         swayPlacement_->place();
 }

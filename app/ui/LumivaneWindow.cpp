@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/ui/LumivaneWindow.h"
 
+#include "platform/windows/LayerShell.h"
 #include "platform/windows/Screen.h"
 #include "platform/windows/WindowPlatform.h"
 #include "shared/utilities/classes/ExtraWindowUtilities.h"
@@ -86,11 +87,14 @@ void LumivaneWindow::keepClearOf(QDialog* dialog) const {
         return; // a window's own dialogs are above it everywhere
     const QRect available = Screen::visibleFrame(screen());
     const QRect frame = dialog->frameGeometry();
-    if (!dialog->windowHandle() || !dialog->windowHandle()->isVisible())
+    const bool isNew = !dialog->windowHandle() || !dialog->windowHandle()->isVisible();
+    if (isNew) {
+        LayerShell::placeOver(dialog, this);
         dialog->move(
             besidePanel(geometry(), frame.size(), available.center().y() - frame.height() / 2, available));
-    else if (frame.intersects(geometry()))
+    } else if (frame.intersects(geometry())) {
         dialog->move(besidePanel(geometry(), frame.size(), frame.y(), available));
+    }
 }
 
 QPoint LumivaneWindow::besidePanel(const QRect& panel, const QSize& size, int y, const QRect& available) {

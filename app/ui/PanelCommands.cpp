@@ -12,6 +12,7 @@
 #include "platform/log/Log.h"
 #include "platform/preferences/Preferences.h"
 #include "platform/richtext/RTFReader.h"
+#include "platform/windows/LayerShell.h"
 #include "shared/utilities/classes/ExtraMutableAttributedStringUtilities.h"
 #include "shared/utilities/classes/ExtraStringSystemUtilities.h"
 #include "shared/utilities/classes/InternetConfig.h"
@@ -84,6 +85,8 @@ std::unique_ptr<QWidget> speck() {
     window->setAttribute(Qt::WA_QuitOnClose, false);
     window->setWindowTitle(QStringLiteral(" ")); // not the panel's, by which that one is found
     window->setFixedSize(1, 1);
+    if (LayerShell::isUsed())
+        LayerShell::takeInput(window.get());
     window->show();
     return window;
 }
@@ -95,8 +98,8 @@ void copyWithFocus(QObject* owner, const QString& text, QWidget* window, const s
         ExtraStringUtilities::copyToClipboard(text);
         return done();
     }
-    const std::shared_ptr<QWidget> ours(window ? nullptr : speck());
-    const QPointer<QWidget> focused(window ? window : ours.get());
+    const std::shared_ptr<QWidget> ours(window && !LayerShell::isUsed() ? nullptr : speck());
+    const QPointer<QWidget> focused(ours ? ours.get() : window);
     focused->activateWindow();
     auto* const wait = new QTimer(owner);
     wait->callOnTimeout([=, rounds = kFocusRounds]() mutable {

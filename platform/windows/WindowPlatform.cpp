@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/windows/WindowPlatform.h"
 
+#include "platform/windows/LayerShell.h"
 #include "platform/windows/X11.h"
 
 #include <QWidget>
@@ -47,7 +48,7 @@ void WindowPlatform::choosePlatform() {
     if (!qEnvironmentVariableIsSet("WAYLAND_DISPLAY") || !qEnvironmentVariableIsSet("DISPLAY") ||
         qEnvironmentVariableIsSet(kPlatform))
         return;
-    qputenv(kPlatform, "xcb;wayland");
+    qputenv(kPlatform, LayerShell::isOffered() ? "wayland;xcb" : "xcb;wayland");
     // Runs when Qt has read the variable.
     qAddPreRoutine([] { qunsetenv(kPlatform); });
 }

@@ -4,8 +4,8 @@
 class QWidget;
 
 /// The platform on which a program can place its windows: X11, under Wayland by XWayland, because Wayland
-/// itself lets nobody but the compositor place windows; see also SwayPlacement. And what Qt does not tell the
-/// desktop there.
+/// itself lets nobody but the compositor place windows; see also LayerShell and SwayPlacement. And what Qt
+/// does not tell the desktop there.
 namespace WindowPlatform {
 
 /// Has the application object, which is made after this, use the platform on which windows can be placed.

@@ -3,6 +3,7 @@
 
 #include "platform/layouts/Layout.h"
 #include "platform/log/Log.h"
+#include "platform/windows/LayerShell.h"
 
 #include <QDialogButtonBox>
 #include <QKeyEvent>
@@ -104,6 +105,7 @@ void DialogOrSheetController::placeOver(const QWidget* window) {
     window_->move(
         std::clamp(x, screen.left(), std::max(screen.left(), screen.right() - window_->width())),
         std::clamp(below.top(), screen.top(), std::max(screen.top(), screen.bottom() - window_->height())));
+    LayerShell::placeOver(window_, window);
 }
 
 bool DialogOrSheetController::eventFilter(QObject* watched, QEvent* event) {
