@@ -114,6 +114,8 @@ const icu::DateFormat* formatter(DateFormatter::Style dateStyle, DateFormatter::
     const QByteArray localeName = timeLocaleName();
     auto [place, isNew] = made.try_emplace(Key{localeName, dateStyle, timeStyle});
     if (isNew) {
+        // A new format asks for the default zone, and ICU would search the system's zones for it.
+        icu::TimeZone::setDefault(*icu::TimeZone::getGMT());
         const icu::Locale locale = icuLocale(localeName);
         const bool isTime = timeStyle != DateFormatter::Style::None;
         place->second.reset(isTime ? icu::DateFormat::createTimeInstance(icuStyle(timeStyle), locale)
