@@ -103,10 +103,8 @@ def stop(desktop):
 
 def click_to_paint(desktop, screen):
     """Milliseconds from the tray's Activate to the first lines of the panel's text on the screen."""
-    name, _, path = desktop.items()[0].partition("/")
-
     def activate():
-        desktop.call(name, "/" + path, "org.kde.StatusNotifierItem", "Activate", GLib.Variant("(ii)", (1200, 14)))
+        desktop.call_item("Activate", GLib.Variant("(ii)", (1200, 14)))
     row = (1000, 236, 220)  # through the phase phrase
     dark = screen.pixels(*row)
     begin = time.monotonic()

@@ -5,7 +5,6 @@ FIRST is "icon" when only the icon of the first start is asked for, else "all"."
 
 import json
 import os
-import re
 import shutil
 import signal
 import subprocess
@@ -22,7 +21,6 @@ MENU = ["Show Lumivane", "Copy Information to Clipboard", "Open at Login", "Tell
         "Check for Update...", "Lumivane Home Page", "About Lumivane", "Quit Lumivane"]
 NEAR = 40  # pixels between the icon and its panel
 HOLD = 2.0  # seconds for which an icon must stay
-ITEM = "org.kde.StatusNotifierItem"
 
 
 class Session:
@@ -65,13 +63,6 @@ class Session:
             return box and box.width >= wide and box.height >= high
         wait_for(what, changed)
 
-    def item(self):
-        """The item's name on the bus, of which watchers tell with and without the path."""
-        return re.match("[^/@]+", self.shell.items()[0]).group()
-
-    def property(self, name):
-        return self.shell.property(self.item(), "/StatusNotifierItem", ITEM, name)
-
     def icon_stays(self):
         """The watcher lists the item, its host draws an icon, and both still hold a little later."""
         wait_for("the watcher's list", lambda: len(self.shell.items()) == 1)
@@ -111,13 +102,8 @@ class Session:
         assert not faults and not drawn, ", ".join(faults + ["drawn"] * bool(drawn))
         return "not drawn" if self.shell.has_task_list else None
 
-    def call_menu(self, method, signature, *arguments):
-        return self.shell.call(self.item(), self.property("Menu"), "com.canonical.dbusmenu", method,
-                               GLib.Variant(signature, arguments)).unpack()
-
     def menu(self):
-        layout = self.call_menu("GetLayout", "(iias)", 0, -1, [])[1]
-        labels = [entry[1]["label"].replace("_", "") for entry in layout[2] if "label" in entry[1]]
+        labels = [properties["label"].replace("_", "") for _, properties in self.shell.menu()]
         assert labels == MENU, ", ".join(labels)
         return "%d entries" % len(labels)
 
@@ -148,9 +134,7 @@ class Session:
 
     def copy_by_icon(self):
         if not self.shell.menu_takes_keys:
-            entries = self.call_menu("GetLayout", "(iias)", 0, -1, [])[1][2]
-            number = next(entry[0] for entry in entries if entry[1].get("label", "").replace("_", "") == MENU[1])
-            self.call_menu("Event", "(isvu)", number, "clicked", GLib.Variant("s", ""), 0)
+            self.shell.command("_Copy Information to Clipboard")
             return
         before = self.shot("before")
         self.click_icon(3)
@@ -163,7 +147,7 @@ class Session:
 
     def tool_tip(self):
         """The item's text, and, where the shell shows it, that the pointer brings something up beside the bar."""
-        lines = self.property("ToolTip")[2].split("\n")
+        lines = self.shell.item_property("ToolTip")[2].split("\n")
         assert len(lines) == 3 and lines[0].startswith("Moon is ") and lines[1].endswith(" illumination"), str(lines)
         if not self.shell.shows_tool_tips:
             return "3 lines, not shown there"

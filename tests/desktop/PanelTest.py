@@ -62,7 +62,7 @@ class PanelTest(unittest.TestCase):
                 ("2026-11-24 14:00:00", "Europe/Berlin", "Full Moon: 11/24/26, 3:54 PM, in 1 hour"),
                 ("2009-12-26 12:00:00", "America/New_York", "Full Moon: 12/31/09, 2:13 PM, in 5 days")):
             self.desktop.start(PROGRAM, moment, zone)
-            tip = self.desktop.item_property("ToolTip")[1][2].split("\n")
+            tip = self.desktop.item_property("ToolTip")[2].split("\n")
             self.desktop.stop()
             self.assertRegex(tip[1], "^[0-9.]+% illumination$")
             self.assertEqual(tip[2:], [line])

@@ -180,9 +180,12 @@ class Desktop:
         return self.property("org.kde.StatusNotifierWatcher", "/StatusNotifierWatcher",
                              "org.kde.StatusNotifierWatcher", "RegisteredStatusNotifierItems")
 
+    def item(self):
+        """The name of the program's item on the bus, which watchers tell with and without a path."""
+        return re.match("[^/@]+", self.items()[0]).group()
+
     def item_property(self, key):
-        name, _, path = self.items()[0].partition("/")
-        return name, self.property(name, "/" + path, "org.kde.StatusNotifierItem", key)
+        return self.property(self.item(), "/StatusNotifierItem", "org.kde.StatusNotifierItem", key)
 
     # The program
 
@@ -434,13 +437,11 @@ class Desktop:
 
     def call_item(self, method, arguments):
         """What the tray calls of the program's item."""
-        name, _, path = self.items()[0].partition("/")
-        return self.call(name, "/" + path, "org.kde.StatusNotifierItem", method, arguments)
+        return self.call(self.item(), "/StatusNotifierItem", "org.kde.StatusNotifierItem", method, arguments)
 
     def call_menu(self, method, arguments):
-        name, _, path = self.items()[0].partition("/")
-        menu = self.property(name, "/" + path, "org.kde.StatusNotifierItem", "Menu")
-        return self.call(name, menu, "com.canonical.dbusmenu", method, arguments).unpack()
+        menu = self.item_property("Menu")
+        return self.call(self.item(), menu, "com.canonical.dbusmenu", method, arguments).unpack()
 
     def menu(self):
         """The items of the tray's menu, each with its number and its properties."""
