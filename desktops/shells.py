@@ -312,7 +312,7 @@ class Gnome(Wayland):
         """Where the shell itself has the icon, if it is drawn."""
         found = json.loads(self.evaluate(
             "Object.keys(Main.panel.statusArea).filter(key => key.startsWith('appindicator')).map(key => "
-            "Main.panel.statusArea[key]).filter(actor => actor.mapped).map(actor => "
+            "Main.panel.statusArea[key]).filter(actor => actor.mapped && actor.has_allocation()).map(actor => "
             "[...actor.get_transformed_position(), ...actor.get_transformed_size()].map(Math.round))") or "[]")
         if len(found) != 1:
             return None
