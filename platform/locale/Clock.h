@@ -12,6 +12,10 @@ namespace Clock {
 /// The present instant (UTC), or the held one.
 QDateTime now();
 
+/// Another number for each outermost hold, 0 while there is none: what else is to stay the same throughout a
+/// refresh is read once for it.
+unsigned holdNumber();
+
 /// Keeps `now()` from moving while the object lives. Holds may nest; the outermost decides.
 class Hold {
 public:

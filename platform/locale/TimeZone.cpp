@@ -10,6 +10,7 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <tuple>
 
 namespace {
 
@@ -75,16 +76,24 @@ QString TimeZone::zoneInfoFolder() {
 
 QTimeZone TimeZone::systemTimeZone() {
     const QByteArray named = qgetenv("TZ");
-    QTimeZone zone = named.isNull() ? QTimeZone::systemTimeZone() : zoneNamed(named);
-    if (zone.isValid())
-        return zone;
+    // A refresh asks for it some hundred times, and it may be found through many links.
+    const auto source = std::tuple(Clock::holdNumber(), named.isNull(), named, zoneInfoFolder());
+    static auto lastSource = source;
+    static QTimeZone lastZone;
+    if (Clock::holdNumber() == 0 || source != lastSource || !lastZone.isValid()) {
+        lastSource = source;
+        lastZone = named.isNull() ? QTimeZone::systemTimeZone() : zoneNamed(named);
+    }
+    if (lastZone.isValid())
+        return lastZone;
     static QByteArray lastReported;
     if (lastReported != named || lastReported.isNull()) {
         lastReported = named.isNull() ? QByteArray("") : named;
         logLine(QStringLiteral("The system's time zone \"%1\" is not known; using UTC.")
                     .arg(QString::fromLocal8Bit(named)));
     }
-    return QTimeZone::utc();
+    lastZone = QTimeZone::utc();
+    return lastZone;
 }
 
 QString TimeZone::name(const QTimeZone& zone) {

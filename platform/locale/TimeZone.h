@@ -3,7 +3,8 @@
 
 #include <QTimeZone>
 
-/// The system's time zone, read afresh at every call, so that a change of it counts at once.
+/// The system's time zone, read afresh at every call, so that a change of it counts at once; but once for a
+/// refresh that holds the clock.
 namespace TimeZone {
 
 /// The system's zone, or the one that `TZ` names as the C library reads it, with or without a leading colon:
