@@ -167,12 +167,11 @@ std::uint32_t PanelModel::applyPickerOffset(std::uint32_t seconds, int multiplie
     return seconds + static_cast<std::uint32_t>(offset) * static_cast<std::uint32_t>(multiplier);
 }
 
-QString PanelModel::pictureName(std::uint32_t gmtSeconds) {
-    return QStringLiteral("M%1").arg(gMoon.MoonIconIndex(gmtSeconds), 2, 10, QLatin1Char('0'));
-}
-
-bool PanelModel::isTurned() {
-    return Preferences::standard()->value(PreferenceKeys::latitude) < 0.0F;
+PanelModel::Picture PanelModel::pictureAt(std::uint32_t gmtSeconds) {
+    const Preferences* const preferences = Preferences::standard();
+    return {QStringLiteral("M%1").arg(gMoon.MoonIconIndex(gmtSeconds), 2, 10, QLatin1Char('0')),
+            gMoon.IsBlue(gmtSeconds), preferences->value(PreferenceKeys::brightness),
+            preferences->value(PreferenceKeys::latitude) < 0.0F};
 }
 
 QString PanelModel::phaseAt(std::uint32_t t) const {

@@ -59,11 +59,17 @@ public:
 
     // The picture
 
-    /// The name of a moment's picture: "M07".
-    static QString pictureName(std::uint32_t gmtSeconds);
+    /// What a moment's picture is made of; two that are equal look the same.
+    struct Picture {
+        QString name; ///< "M07"
+        bool isBlue = false;
+        float brightness = 0.0F;
+        bool isTurned = false; ///< on its head, as the Moon is south of the equator
 
-    /// Whether the picture stands on its head, as the Moon does south of the equator.
-    static bool isTurned();
+        friend bool operator==(const Picture&, const Picture&) = default;
+    };
+
+    static Picture pictureAt(std::uint32_t gmtSeconds);
 
     // Texts, in the user's language
 

@@ -153,7 +153,6 @@ void LumivaneStatusItem::setImage(const QImage& image) {
 }
 
 void LumivaneStatusItem::makeAsHiddenMenu() {
-    showNow();
     dropController();
     // A click that had to make it first would be seen to wait. When the old panel is gone, so that this one
     // finds its memory free.
@@ -174,6 +173,7 @@ void LumivaneStatusItem::makeAsWindoid() {
 }
 
 void LumivaneStatusItem::dropController() {
+    showNow(); // a new panel takes the icon to be the present's
     standsInForTray_ = false;
     if (!lumivaneWindow_)
         return;

@@ -8,6 +8,8 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
+#include <utility>
 
 class AskNumber;
 class DisclosureTriangleWithResize;
@@ -136,6 +138,8 @@ private:
     LumivaneStatusItem* statusItem_ = nullptr;
     std::unique_ptr<LumivaneWindow> window_;
     PanelModel model_;
+    /// What the panel's picture is made of, and for how many pixels in a point.
+    std::optional<std::pair<PanelModel::Picture, qreal>> shownPicture_;
 
     // Outlets
     QMenu* gearMenu_ = nullptr;

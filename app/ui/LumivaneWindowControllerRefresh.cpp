@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: MIT
 // The panel's pictures and lines for the displayed date.
-#include "app/engine/CMoon.h"
-#include "app/engine/PreferenceKeys.h"
 #include "app/ui/LumivaneStatusItem.h"
 #include "app/ui/LumivaneWindow.h"
 #include "app/ui/LumivaneWindowController.h"
@@ -9,7 +7,6 @@
 #include "platform/layouts/Slider.h"
 #include "platform/locale/Clock.h"
 #include "platform/locale/TimeZone.h"
-#include "platform/preferences/Preferences.h"
 #include "shared/utilities/classes/NSImageUtilities.h"
 #include "shared/utilities/classes/setStringValueHilight.h"
 
@@ -19,6 +16,7 @@
 #include <QToolButton>
 
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -39,18 +37,18 @@ QPixmap pixmapForScreenOf(const QWidget* widget, const QImage& image, int side) 
 } // namespace
 
 QString LumivaneWindowController::moonImageNameFor(std::uint32_t gmtSeconds) {
-    return PanelModel::pictureName(gmtSeconds);
+    return PanelModel::pictureAt(gmtSeconds).name;
 }
 
 QImage LumivaneWindowController::moonImageFor(std::uint32_t gmtSeconds) {
-    const QImage image = NSImageUtilities::imageNamed(moonImageNameFor(gmtSeconds));
+    const PanelModel::Picture picture = PanelModel::pictureAt(gmtSeconds);
+    const QImage image = NSImageUtilities::imageNamed(picture.name);
     if (image.isNull())
         return {};
-    const float brightness = Preferences::standard()->value(PreferenceKeys::brightness);
-    const QImage tinted = gMoon.IsBlue(gmtSeconds)
-                              ? NSImageUtilities::tintToBlueWithBrightness(image, brightness)
-                              : NSImageUtilities::tintToGrayWithBrightness(image, brightness);
-    return PanelModel::isTurned() ? NSImageUtilities::imageByRotatingDegrees(tinted, 180.0F) : tinted;
+    const QImage tinted = picture.isBlue
+                              ? NSImageUtilities::tintToBlueWithBrightness(image, picture.brightness)
+                              : NSImageUtilities::tintToGrayWithBrightness(image, picture.brightness);
+    return picture.isTurned ? NSImageUtilities::imageByRotatingDegrees(tinted, 180.0F) : tinted;
 }
 
 void LumivaneWindowController::updateStaticMoonInfo() {
@@ -84,6 +82,10 @@ void LumivaneWindowController::updateStaticMoonInfo() {
 }
 
 void LumivaneWindowController::updateMoonImage() {
+    // Making it takes longer than all the rest of a refresh, and most moves of the slider keep it.
+    const std::pair shown(PanelModel::pictureAt(datePickerGMTSeconds()), moonImageView_->devicePixelRatioF());
+    if (std::exchange(shownPicture_, shown) == shown)
+        return;
     const QImage image = moonImageFor(datePickerGMTSeconds());
     moonImageView_->setFixedHeight(image.isNull() ? 0 : kPictureSide);
     moonImageView_->setPixmap(pixmapForScreenOf(moonImageView_, image, kPictureSide));
