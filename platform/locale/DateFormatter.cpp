@@ -3,9 +3,13 @@
 
 #include "platform/log/Log.h"
 
+#include <QDateTime>
+#include <QTimeZone>
+
 #include <array>
 #include <map>
 #include <memory>
+#include <optional>
 #include <tuple>
 
 #include <gio/gio.h>
@@ -14,6 +18,8 @@
 #include <unicode/smpdtfmt.h>
 
 namespace {
+
+constexpr char16_t kNarrowNoBreakSpace = 0x202F;
 
 enum class HourCycle { OfLocale, Twelve, TwentyFour };
 
@@ -37,7 +43,7 @@ QByteArray scriptOf(const QByteArray& modifier) {
 }
 
 /// Of LANGUAGE[_TERRITORY][.CODESET][@MODIFIER] the codeset alone says nothing about dates.
-icu::Locale icuLocale(const QByteArray& posixName) {
+QByteArray withoutCodeset(const QByteArray& posixName) {
     const QList<QByteArray> halves = posixName.split('@');
     QByteArray name = halves[0].split('.')[0];
     if (name == "C" || name == "POSIX")
@@ -46,7 +52,15 @@ icu::Locale icuLocale(const QByteArray& posixName) {
         name.insert(name.indexOf('_') < 0 ? name.size() : name.indexOf('_'), '_' + script);
     else if (halves.size() > 1)
         name += '@' + halves[1];
-    icu::Locale locale = icu::Locale::createCanonical(name.constData());
+    return name;
+}
+
+QLocale qtLocale() {
+    return QLocale(QString::fromLatin1(withoutCodeset(timeLocaleName()).split('@')[0]));
+}
+
+icu::Locale icuLocale(const QByteArray& posixName) {
+    icu::Locale locale = icu::Locale::createCanonical(withoutCodeset(posixName).constData());
     UErrorCode status = U_ZERO_ERROR;
     locale.setKeywordValue("calendar", "gregorian", status);
     return locale;
@@ -135,7 +149,6 @@ const icu::DateFormat* formatter(DateFormatter::Style dateStyle, DateFormatter::
 }
 
 QString fromICU(icu::UnicodeString text) {
-    constexpr char16_t kNarrowNoBreakSpace = 0x202F;
     text.findAndReplace(icu::UnicodeString(kNarrowNoBreakSpace), icu::UnicodeString(u' '));
     return QString(reinterpret_cast<const QChar*>(text.getBuffer()), text.length());
 }
@@ -158,27 +171,48 @@ QString qtTimeFormat(const QString& pattern) {
     return format.trimmed();
 }
 
-QString formatted(std::int64_t wall, const icu::DateFormat* format) {
-    if (!format)
-        return {};
+/// The short styles by Qt's tables, which are in memory: to make a format ICU reads 3 MB, which a program in
+/// the tray can do without until its panel opens. Nothing where Qt lacks the locale, a letter of its format
+/// ("in the morning", "at noon") or the desktop's hour cycle.
+std::optional<QString> shortByQt(std::int64_t wall, bool isTime) {
+    const QLocale locale = qtLocale();
+    QString format =
+        isTime ? locale.timeFormat(QLocale::ShortFormat) : locale.dateFormat(QLocale::ShortFormat);
+    const bool hasHalves = format.contains(u"AP", Qt::CaseInsensitive);
+    const HourCycle cycle = isTime ? desktopHourCycle() : HourCycle::OfLocale;
+    if (locale.language() == QLocale::C || format.contains(u'B') ||
+        (cycle != HourCycle::OfLocale && (cycle == HourCycle::Twelve) != hasHalves))
+        return std::nullopt;
+    format.replace(QLatin1String("AP"), QLatin1String("Ap"), Qt::CaseInsensitive); // as the locale writes it
+    const auto moment = QDateTime::fromSecsSinceEpoch(wall, QTimeZone::utc());
+    return locale.toString(moment, format).replace(kNarrowNoBreakSpace, u' ');
+}
+
+QString formatted(std::int64_t wall, DateFormatter::Style dateStyle, DateFormatter::Style timeStyle) {
+    using Style = DateFormatter::Style;
+    if (dateStyle == Style::Short || timeStyle == Style::Short) {
+        if (const auto text = shortByQt(wall, timeStyle == Style::Short))
+            return *text;
+    }
+    const icu::DateFormat* const format = formatter(dateStyle, timeStyle);
     icu::UnicodeString text;
-    format->format(static_cast<UDate>(wall) * 1000.0, text);
+    if (format)
+        format->format(static_cast<UDate>(wall) * 1000.0, text);
     return fromICU(text);
 }
 
 } // namespace
 
 QString DateFormatter::dateString(std::int64_t wall, Style style) {
-    return style == Style::None ? QString() : formatted(wall, formatter(style, Style::None));
+    return style == Style::None ? QString() : formatted(wall, style, Style::None);
 }
 
 QString DateFormatter::timeString(std::int64_t wall, Style style) {
-    return style == Style::None ? QString() : formatted(wall, formatter(Style::None, style));
+    return style == Style::None ? QString() : formatted(wall, Style::None, style);
 }
 
 QLocale DateFormatter::locale() {
-    const icu::Locale locale = icuLocale(timeLocaleName());
-    const QLocale named(QLatin1String(locale.getBaseName()));
+    const QLocale named = qtLocale();
     return named.language() == QLocale::C ? QLocale(QLocale::English, QLocale::UnitedStates) : named;
 }
 

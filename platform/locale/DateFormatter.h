@@ -6,9 +6,8 @@
 
 #include <cstdint>
 
-/// Dates and times of day as the user reads them, by ICU in the locale of LC_TIME with the Gregorian
-/// calendar, and with the desktop's own choice of a 12- or 24-hour clock where the desktop keeps one (GNOME
-/// and its kin).
+/// Dates and times of day as the user reads them, in the locale of LC_TIME with the Gregorian calendar, and
+/// with the desktop's own choice of a 12- or 24-hour clock where the desktop keeps one (GNOME and its kin).
 class DateFormatter {
 public:
     enum class Style { None, Short, Medium, Long };

@@ -47,8 +47,9 @@ QImage NSImageUtilities::imageNamed(const QString& name) {
                                          kLargestFile, &error)
                            .value_or(QByteArray());
     QBuffer file(&bytes);
-    // With its format named, the reader does not load every format's plugin to ask whether it is that one's.
+    // Else the reader loads plugins to ask them whether the picture is theirs.
     QImageReader reader(&file, "png");
+    reader.setAutoDetectImageFormat(false);
     const QSize size = reader.size();
     if (!size.isValid() || size.width() > kLargestSide || size.height() > kLargestSide) {
         logOnce(name, QStringLiteral("The picture %1 is missing or no picture. %2").arg(name, error));
