@@ -123,7 +123,10 @@ void LumivaneStatusItem::awakeFromNib() {
     clock_.setTimerType(Qt::VeryCoarseTimer);
     connect(&clock_, &QTimer::timeout, this, &LumivaneStatusItem::moonClockTimer);
     clock_.start(kClockInterval);
-    QTimer::singleShot(kTrayPatience, this, &LumivaneStatusItem::trayKnown);
+    QTimer::singleShot(kTrayPatience, this, [this] {
+        Q_EMIT trayKnown();
+        ExtraApplicationUtilities::returnFreedMemory();
+    });
 }
 
 void LumivaneStatusItem::showNow() {
