@@ -7,9 +7,12 @@
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
+#include <QDBusServiceWatcher>
 #include <QGuiApplication>
 #include <QStringList>
 #include <QVariantMap>
+
+#include <utility>
 
 namespace {
 
@@ -51,9 +54,7 @@ void Notifications::send(const QString& title, const QString& body, const QImage
              {QCoreApplication::applicationName(), kReplacesNone, application, title,
               capabilities.contains(u"body-markup") ? body.toHtmlEscaped() : body, actions, hints,
               kServersOwnTime},
-             [this](const QDBusMessage& reply) {
-                 sent_.insert({reply.service(), reply.arguments().value(0).toUInt()});
-             });
+             [this](const QDBusMessage& reply) { sent_.insert(reply.arguments().value(0).toUInt()); });
     });
 }
 
@@ -64,6 +65,10 @@ void Notifications::listen() {
     QDBusConnection bus = QDBusConnection::sessionBus();
     for (const auto& signal : {kActivationToken, kActionInvoked})
         bus.connect({}, kPath, kService, signal, this, SLOT(heard(QDBusMessage)));
+    // A server that starts anew counts anew.
+    const auto* const watcher =
+        new QDBusServiceWatcher(kService, bus, QDBusServiceWatcher::WatchForOwnerChange, this);
+    connect(watcher, &QDBusServiceWatcher::serviceOwnerChanged, this, [this] { sent_.clear(); });
 }
 
 void Notifications::call(const QString& method, const QVariantList& arguments,
@@ -82,7 +87,7 @@ void Notifications::call(const QString& method, const QVariantList& arguments,
 
 void Notifications::heard(const QDBusMessage& signal) {
     const QVariantList arguments = signal.arguments();
-    if (!sent_.contains({signal.service(), arguments.value(0).toUInt()}))
+    if (!sent_.contains(arguments.value(0).toUInt()))
         return;
     if (signal.member() == kActionInvoked)
         Q_EMIT activated();

@@ -7,7 +7,6 @@
 #include <QString>
 
 #include <functional>
-#include <utility>
 
 class QDBusMessage;
 
@@ -37,7 +36,7 @@ private:
     void call(const QString& method, const QVariantList& arguments,
               const std::function<void(const QDBusMessage& reply)>& answered);
 
-    /// Each sent one's server, by its unique name, and number there: a server that starts anew counts anew.
-    QSet<std::pair<QString, uint>> sent_;
+    /// The server's numbers of those that were sent.
+    QSet<uint> sent_;
     bool listens_ = false;
 };
