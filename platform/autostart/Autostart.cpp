@@ -54,7 +54,7 @@ Entry entryOf(const QString& file, const DesktopEntry& desktopEntry) {
                 desktopEntry.startsIn(desktops),
                 std::nullopt};
     if (entry.item.path.startsWith(u'/')) {
-        const quint64 position = desktopEntry.number(kPositionKey).value_or(0);
+        const quint64 position = desktopEntry.text(kPositionKey).toULongLong();
         entry.position = position < kLargestPosition ? position : 0;
     } else {
         const QString program = desktopEntry.program();
