@@ -70,31 +70,6 @@ const QStringList& propertyNames() {
 
 } // namespace
 
-QDBusArgument& operator<<(QDBusArgument& argument, const DBusMenuLayout& layout) {
-    argument.beginStructure();
-    argument << layout.id << layout.properties;
-    argument.beginArray(QMetaType::fromType<QDBusVariant>());
-    for (const DBusMenuLayout& child : layout.children)
-        argument << QDBusVariant(QVariant::fromValue(child));
-    argument.endArray();
-    argument.endStructure();
-    return argument;
-}
-
-const QDBusArgument& operator>>(const QDBusArgument& argument, DBusMenuLayout& layout) {
-    argument.beginStructure();
-    argument >> layout.id >> layout.properties;
-    argument.beginArray();
-    while (!argument.atEnd()) {
-        QDBusVariant child;
-        argument >> child;
-        layout.children.append(qdbus_cast<DBusMenuLayout>(child.variant()));
-    }
-    argument.endArray();
-    argument.endStructure();
-    return argument;
-}
-
 DBusMenu::DBusMenu(QObject* parent) : QObject(parent) {
     qDBusRegisterMetaType<DBusMenuLayout>();
     qDBusRegisterMetaType<DBusMenuItem>();
@@ -105,8 +80,6 @@ DBusMenu::DBusMenu(QObject* parent) : QObject(parent) {
     qDBusRegisterMetaType<QList<DBusMenuEvent>>();
     qDBusRegisterMetaType<QList<QStringList>>();
 }
-
-DBusMenu::~DBusMenu() = default;
 
 void DBusMenu::setMenu(QMenu* menu) {
     if (menu_ == menu)
@@ -239,7 +212,7 @@ DBusMenuLayout DBusMenu::layoutOf(int id, int depth, const QStringList& names) {
     layoutChanged_ = false;
     const QList<QAction*> actions = menu_->actions();
     for (QAction* action : actions)
-        layout.children.append(layoutOf(idOf(action), 0, names));
+        layout.children.append(QVariant::fromValue(layoutOf(idOf(action), 0, names)));
     return layout;
 }
 
