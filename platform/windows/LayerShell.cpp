@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/windows/LayerShell.h"
 
+#ifdef LUMIVANE_LAYER_SHELL
+
 #include "platform/windows/SwayPlacement.h"
 
 #include <QGuiApplication>
@@ -8,8 +10,6 @@
 #include <QScreen>
 #include <QWidget>
 #include <QWindow>
-
-#ifdef LUMIVANE_LAYER_SHELL
 
 #include <LayerShellQt/Window>
 #include <wayland-client.h>
@@ -110,25 +110,6 @@ void LayerShell::placeOver(QWidget* sheet, const QWidget* window) {
     const bool isAtRight = below->anchors().testFlag(Layer::AnchorRight);
     layer->setMargins({isAtRight ? 0 : inside(margins.left()), margins.top(),
                        isAtRight ? inside(margins.right()) : 0, margins.bottom()});
-}
-
-#else
-
-bool LayerShell::isOffered() {
-    return false;
-}
-
-bool LayerShell::isUsed() {
-    return false;
-}
-
-void LayerShell::place(QWidget*, const QRect&, const QRect&, QScreen*) {
-}
-
-void LayerShell::takeInput(QWidget*) {
-}
-
-void LayerShell::placeOver(QWidget*, const QWidget*) {
 }
 
 #endif
