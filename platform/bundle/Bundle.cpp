@@ -104,19 +104,15 @@ QString Bundle::bundlePath() const {
     return program;
 }
 
-const QVariantMap& Bundle::infoDictionary() const {
+QString Bundle::infoString(const QString& key) const {
     if (!info_) {
         QString error;
         const QString path = resourcePath() + QStringLiteral("/Info.plist");
-        info_ = std::make_unique<QVariantMap>(PropertyList::read(path, &error).toMap());
+        info_ = PropertyList::read(path, &error).toMap();
         if (info_->isEmpty())
             logLine(QStringLiteral("No information about the program in %1: %2.").arg(path, error));
     }
-    return *info_;
-}
-
-QString Bundle::infoString(const QString& key) const {
-    return infoDictionary().value(key).toString();
+    return info_->value(key).toString();
 }
 
 QString Bundle::bundleIdentifier() const {
@@ -132,10 +128,6 @@ const QTranslator* Bundle::translations() const {
     if (!translator_)
         translator_ = translatorFor(QLocale::system().uiLanguages(), translationsPath());
     return translator_.get();
-}
-
-QString Bundle::localizedString(const char* key) const {
-    return localizedString(key, -1);
 }
 
 QString Bundle::localizedString(const char* key, int n) const {

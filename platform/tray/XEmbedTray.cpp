@@ -30,8 +30,6 @@ XEmbedTray::XEmbedTray(QObject* parent) : QObject(parent) {
     findOwner();
 }
 
-XEmbedTray::~XEmbedTray() = default;
-
 void XEmbedTray::findOwner() {
     const auto cookie = xcb_get_selection_owner(connection_, selection_);
     const auto answer = X11::owned(xcb_get_selection_owner_reply(connection_, cookie, nullptr));
