@@ -172,6 +172,7 @@ void Preferences::forget(const QString& name) {
 }
 
 bool Preferences::synchronize() {
+    synchronizesLater_ = false;
     prepareFile();
     if (settings_->status() == QSettings::NoError) {
         settings_->sync();
@@ -190,11 +191,5 @@ bool Preferences::synchronize() {
 
 void Preferences::synchronizeLater() {
     if (!std::exchange(synchronizesLater_, true))
-        QMetaObject::invokeMethod(
-            this,
-            [this] {
-                synchronizesLater_ = false;
-                synchronize();
-            },
-            Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, &Preferences::synchronize, Qt::QueuedConnection);
 }

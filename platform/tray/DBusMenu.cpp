@@ -60,14 +60,6 @@ QVariantMap allProperties(const QAction& action) {
     return properties;
 }
 
-const QStringList& propertyNames() {
-    static const QStringList names{QStringLiteral("type"),        QStringLiteral("label"),
-                                   QStringLiteral("enabled"),     QStringLiteral("visible"),
-                                   QStringLiteral("toggle-type"), QStringLiteral("toggle-state"),
-                                   QStringLiteral("shortcut")};
-    return names;
-}
-
 } // namespace
 
 DBusMenu::DBusMenu(QObject* parent) : QObject(parent) {
@@ -247,6 +239,10 @@ void DBusMenu::scheduleUpdate() {
 }
 
 void DBusMenu::sendUpdates() {
+    static const QStringList all{QStringLiteral("type"),        QStringLiteral("label"),
+                                 QStringLiteral("enabled"),     QStringLiteral("visible"),
+                                 QStringLiteral("toggle-type"), QStringLiteral("toggle-state"),
+                                 QStringLiteral("shortcut")};
     updateScheduled_ = false;
     QList<DBusMenuItem> updated;
     QList<DBusMenuItemKeys> removed;
@@ -254,7 +250,7 @@ void DBusMenu::sendUpdates() {
         if (!actions_.contains(id))
             continue;
         updated.append({id, propertiesOf(id, {})});
-        QStringList defaulted = propertyNames();
+        QStringList defaulted = all;
         defaulted.removeIf([&](const QString& name) { return updated.last().properties.contains(name); });
         removed.append({id, defaulted});
     }

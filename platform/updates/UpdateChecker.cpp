@@ -111,8 +111,6 @@ void UpdateChecker::startCheck() {
 QUrl UpdateChecker::completeFeedURL() {
     const QList<FeedParameter> parameters =
         delegate_ ? delegate_->feedParametersForUpdater(this, false) : QList<FeedParameter>();
-    if (parameters.isEmpty())
-        return feedURL_;
     QUrl url = feedURL_;
     QString query = url.query(QUrl::FullyEncoded);
     for (const FeedParameter& parameter : parameters) {
