@@ -52,11 +52,6 @@ QString executablePath() {
     return path;
 }
 
-QString besideExecutable(const char* path) {
-    const QDir folder(QFileInfo(executablePath()).absolutePath());
-    return QDir::cleanPath(folder.filePath(QStringLiteral("../") + QLatin1String(path)));
-}
-
 /// The AppImage that this program runs from, mounted at `APPDIR`. A program that was started by an AppImage
 /// inherits the variables without being part of it.
 QString appImagePath(const QString& executable) {
@@ -87,8 +82,9 @@ Bundle& Bundle::main() {
 }
 
 QString Bundle::resourcePath() const {
-    const QString named = qEnvironmentVariable("LUMIVANE_RESOURCES");
-    return named.isEmpty() ? besideExecutable("share/lumivane") : named;
+    if (const QString named = qEnvironmentVariable("LUMIVANE_RESOURCES"); !named.isEmpty())
+        return named;
+    return QDir::cleanPath(QFileInfo(executablePath()).absolutePath() + QStringLiteral("/../share/lumivane"));
 }
 
 QString Bundle::bundlePath() const {

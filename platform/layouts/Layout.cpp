@@ -33,7 +33,6 @@ namespace {
 constexpr qint64 kLargestLayout = 4 << 20;
 constexpr char kAction[] = "action";
 constexpr char kBinding[] = "binding";
-constexpr char kTag[] = "tag";
 
 QHash<QString, Layout::Factory>& factories() {
     static QHash<QString, Layout::Factory> registered;
@@ -356,7 +355,7 @@ std::unique_ptr<QWidget> Layout::load(const QString& name, QObject* owner, QStri
 }
 
 int Layout::tag(const QObject* control) {
-    return control->property(kTag).toInt();
+    return control->property("tag").toInt();
 }
 
 QObject* Layout::objectNamed(QWidget* root, const char* objectName, const QMetaObject& type, QString* error) {

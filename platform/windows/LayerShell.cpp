@@ -35,14 +35,6 @@ Layer* layerOf(QWidget* window) {
     return layer;
 }
 
-void notice(void* isThere, wl_registry*, std::uint32_t, const char* interface, std::uint32_t) {
-    if (interface == std::string_view("zwlr_layer_shell_v1"))
-        *static_cast<bool*>(isThere) = true;
-}
-
-void overlook(void*, wl_registry*, std::uint32_t) {
-}
-
 bool askCompositor() {
     // A connection that was handed down is for one use, and that is Qt's.
     if (qEnvironmentVariableIsSet("WAYLAND_SOCKET"))
@@ -51,7 +43,13 @@ bool askCompositor() {
                                                                                 &wl_display_disconnect);
     if (!display)
         return false;
-    constexpr wl_registry_listener kListener{.global = notice, .global_remove = overlook};
+    constexpr wl_registry_listener kListener{
+        .global =
+            [](void* isThere, wl_registry*, std::uint32_t, const char* interface, std::uint32_t) {
+                if (interface == std::string_view("zwlr_layer_shell_v1"))
+                    *static_cast<bool*>(isThere) = true;
+            },
+        .global_remove = [](void*, wl_registry*, std::uint32_t) {}};
     bool isThere = false;
     const std::unique_ptr<wl_registry, decltype(&wl_registry_destroy)> registry(
         wl_display_get_registry(display.get()), &wl_registry_destroy);
