@@ -8,6 +8,7 @@
 
 #include <QFileInfo>
 #include <QSettings>
+#include <QStringDecoder>
 
 #include <utility>
 
@@ -16,6 +17,12 @@
 namespace {
 
 constexpr qint64 kLargestFile = 1 << 20;
+
+bool isText(const QByteArray& bytes) {
+    QStringDecoder decoder(QStringDecoder::Utf8);
+    const QString decoded = decoder(bytes);
+    return !decoder.hasError() && !decoded.contains(QChar::Null);
+}
 
 /// Moves a file out of the way under a name that is free; the new name, or nothing when it can't be moved.
 QString keepAside(const QString& path) {
@@ -93,8 +100,8 @@ void Preferences::openFile(const QString& path) {
     QString error;
     const auto bytes = RegularFile::read(path, kLargestFile, &error);
     // Something else in its place, or too large a file, must not even be opened as one.
-    bool damaged = bytes ? !bytes->isValidUtf8() || bytes->contains('\0')
-                         : RegularFile::isOtherThing(path) || QFileInfo(path).size() > kLargestFile;
+    bool damaged =
+        bytes ? !isText(*bytes) : RegularFile::isOtherThing(path) || QFileInfo(path).size() > kLargestFile;
     if (!bytes && !damaged && QFileInfo::exists(path))
         logLine(
             QStringLiteral("The preferences in %1 can't be read (%2); the defaults serve.").arg(path, error));
