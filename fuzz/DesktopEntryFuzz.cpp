@@ -19,12 +19,12 @@ std::optional<DesktopEntry> read(const QByteArray& bytes) {
 }
 
 void readAsEntry(const QByteArray& bytes) {
-    const auto entry = read(bytes);
+    auto entry = read(bytes);
     if (!entry)
         return;
     entry->startsIn({QStringLiteral("XFCE")});
     entry->program();
-    entry->number("X-LoginItem-Position");
+    entry->setProgram(QStringLiteral("/bin/true"));
     DesktopEntry copy;
     for (const char* key : {"Type", "Name", "Icon", "Exec", "TryExec"})
         copy.copy(key, *entry);

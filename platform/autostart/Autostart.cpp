@@ -36,8 +36,12 @@ std::error_code systemError(int number) {
     return {number, std::system_category()};
 }
 
+QString folderPath() {
+    return configFolder() + QStringLiteral("/autostart");
+}
+
 QString filePath(const QString& file) {
-    return Autostart::path() + u'/' + file;
+    return folderPath() + u'/' + file;
 }
 
 void reportOnce(const QString& file, const QString& reason) {
@@ -54,7 +58,7 @@ Entry entryOf(const QString& file, const DesktopEntry& desktopEntry) {
                 desktopEntry.startsIn(desktops),
                 std::nullopt};
     if (entry.item.path.startsWith(u'/')) {
-        const quint64 position = desktopEntry.number(kPositionKey).value_or(0);
+        const quint64 position = desktopEntry.text(kPositionKey).toULongLong();
         entry.position = position < kLargestPosition ? position : 0;
     } else {
         const QString program = desktopEntry.program();
@@ -66,7 +70,7 @@ Entry entryOf(const QString& file, const DesktopEntry& desktopEntry) {
 
 /// All entries of the folder in the list's order, the ones that aren't started too.
 std::vector<Entry> allEntries() {
-    const QDir folder(Autostart::path());
+    const QDir folder(folderPath());
     const QStringList files = folder.entryList(QDir::AllEntries | QDir::System, QDir::Name);
     std::vector<Entry> entries;
     for (const QString& file : files) {
@@ -180,15 +184,11 @@ std::error_code writeEntry(const QString& file, const QByteArray& bytes) {
 }
 
 std::error_code makeFolder() {
-    const QByteArray folder = QFile::encodeName(Autostart::path());
+    const QByteArray folder = QFile::encodeName(folderPath());
     return g_mkdir_with_parents(folder.constData(), 0700) == 0 ? std::error_code() : systemError(errno);
 }
 
 } // namespace
-
-QString Autostart::path() {
-    return configFolder() + QStringLiteral("/autostart");
-}
 
 QList<Autostart::Item> Autostart::items() {
     QList<Item> list;

@@ -6,9 +6,9 @@
 
 #include <system_error>
 
-/// The user's XDG autostart folder as a list of login items. Each item is one desktop entry. Entries that
-/// were added here carry the key X-LoginItem-Path; all others are another program's and are read, never
-/// written.
+/// The user's XDG autostart folder, `autostart` in `configFolder`, as a list of login items. Each item is one
+/// desktop entry. Entries that were added here carry the key X-LoginItem-Path; all others are another
+/// program's and are read, never written.
 namespace Autostart {
 
 struct Item {
@@ -18,9 +18,6 @@ struct Item {
 
     friend bool operator==(const Item&, const Item&) = default;
 };
-
-/// `autostart` in `configFolder`; it need not exist.
-QString path();
 
 /// The entries that this desktop starts at login: other programs' by file name, then those added here in the
 /// order of their adding. What can't be read as an entry is left out, with one log line a file and run.

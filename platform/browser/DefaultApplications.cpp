@@ -9,35 +9,20 @@
 #include <QStandardPaths>
 #include <QSysInfo>
 
-#include <chrono>
-#include <memory>
-
 #include <gio/gdesktopappinfo.h>
 #include <unistd.h>
 
 namespace {
 
-struct Unref {
-    void operator()(gpointer object) const { g_object_unref(object); }
-};
-using Application = std::unique_ptr<GDesktopAppInfo, Unref>;
-using Context = std::unique_ptr<GAppLaunchContext, Unref>;
-
-Application asDesktopApplication(GAppInfo* info) {
-    if (info && !G_IS_DESKTOP_APP_INFO(info)) {
-        g_object_unref(info);
-        info = nullptr;
-    }
-    return Application(reinterpret_cast<GDesktopAppInfo*>(info));
-}
+// An application that a function gives is the caller's to release. On this system each is a desktop entry's.
 
 /// A bare executable, put as the command line of a desktop entry: there a per cent sign starts a field.
-Application fromExecutable(const QString& path) {
+GDesktopAppInfo* fromExecutable(const QString& path) {
     g_autofree char* quoted = g_shell_quote(path.toLocal8Bit().constData());
     const QByteArray command = QByteArray(quoted).replace('%', "%%");
     const QByteArray name = QFileInfo(path).fileName().toUtf8();
-    return asDesktopApplication(g_app_info_create_from_commandline(command.constData(), name.constData(),
-                                                                   G_APP_INFO_CREATE_SUPPORTS_URIS, nullptr));
+    return G_DESKTOP_APP_INFO(g_app_info_create_from_commandline(command.constData(), name.constData(),
+                                                                 G_APP_INFO_CREATE_SUPPORTS_URIS, nullptr));
 }
 
 /// An AppImage puts folders of its own into search paths; they are gone with it, and hold its libraries, not
@@ -73,46 +58,46 @@ QByteArray startupIdentifier() {
     if (QGuiApplication::platformName() != u"xcb" || !qgetenv("DISPLAY").startsWith(':'))
         return {};
     static int number = 0;
-    const auto now = std::chrono::duration_cast<std::chrono::milliseconds>(
-        std::chrono::steady_clock::now().time_since_epoch());
     return QStringLiteral("%1-%2-%3-%4_TIME%5")
         .arg(QCoreApplication::applicationName(), QString::number(getpid()), QSysInfo::machineHostName(),
-             QString::number(++number), QString::number(static_cast<std::uint32_t>(now.count())))
+             QString::number(++number),
+             QString::number(static_cast<std::uint32_t>(g_get_monotonic_time() / 1000)))
         .toLocal8Bit();
 }
 
-Context launchContext(GDesktopAppInfo* application) {
-    Context context(g_app_launch_context_new());
+GAppLaunchContext* launchContext(GDesktopAppInfo* application) {
+    GAppLaunchContext* const context = g_app_launch_context_new();
     for (const char* ours : {"DESKTOP_STARTUP_ID", "XDG_ACTIVATION_TOKEN", "GIO_LAUNCHED_DESKTOP_FILE",
                              "GIO_LAUNCHED_DESKTOP_FILE_PID"})
-        g_app_launch_context_unsetenv(context.get(), ours);
-    leaveOutPackaging(context.get());
+        g_app_launch_context_unsetenv(context, ours);
+    leaveOutPackaging(context);
     const QByteArray identifier = startupIdentifier();
     if (!identifier.isEmpty() && g_desktop_app_info_get_boolean(application, "StartupNotify"))
-        g_app_launch_context_setenv(context.get(), "DESKTOP_STARTUP_ID", identifier.constData());
+        g_app_launch_context_setenv(context, "DESKTOP_STARTUP_ID", identifier.constData());
     return context;
 }
 
 /// The application that a desktop entry or a bare executable stands for; nothing when the file is gone, is
 /// neither, or its program can't be found or run.
-Application applicationAt(const QString& path) {
+GDesktopAppInfo* applicationAt(const QString& path) {
     const QFileInfo file(path);
     if (path.isEmpty() || !file.isFile() || !file.isReadable())
         return nullptr;
     if (file.suffix() == u"desktop") {
-        Application entry(g_desktop_app_info_new_from_filename(path.toLocal8Bit().constData()));
-        return entry && !g_desktop_app_info_get_is_hidden(entry.get()) ? std::move(entry) : nullptr;
+        g_autoptr(GDesktopAppInfo) entry =
+            g_desktop_app_info_new_from_filename(path.toLocal8Bit().constData());
+        return entry && !g_desktop_app_info_get_is_hidden(entry) ? g_steal_pointer(&entry) : nullptr;
     }
     return file.isExecutable() ? fromExecutable(file.absoluteFilePath()) : nullptr;
 }
 
-Application defaultForType(const QString& type) {
-    return asDesktopApplication(g_app_info_get_default_for_type(type.toUtf8().constData(), FALSE));
+GDesktopAppInfo* defaultForType(const QString& type) {
+    return G_DESKTOP_APP_INFO(g_app_info_get_default_for_type(type.toUtf8().constData(), FALSE));
 }
 
-Application defaultForFile(const QString& path) {
+GDesktopAppInfo* defaultForFile(const QString& path) {
     g_autoptr(GFile) file = g_file_new_for_path(path.toLocal8Bit().constData());
-    return asDesktopApplication(g_file_query_default_handler(file, nullptr, nullptr));
+    return G_DESKTOP_APP_INFO(g_file_query_default_handler(file, nullptr, nullptr));
 }
 
 /// Starts the application with one address and returns at once. What is started has a session of its own, no
@@ -126,9 +111,9 @@ bool launch(GDesktopAppInfo* application, const QUrl& address) {
     // with this program would end it.
     constexpr auto kFlags = static_cast<GSpawnFlags>(G_SPAWN_SEARCH_PATH | G_SPAWN_STDOUT_TO_DEV_NULL |
                                                      G_SPAWN_STDERR_TO_DEV_NULL);
+    g_autoptr(GAppLaunchContext) context = launchContext(application);
     const bool started = g_desktop_app_info_launch_uris_as_manager(
-        application, &items, launchContext(application).get(), kFlags, [](gpointer) { setsid(); }, nullptr,
-        nullptr, nullptr, &error);
+        application, &items, context, kFlags, [](gpointer) { setsid(); }, nullptr, nullptr, nullptr, &error);
     if (!started)
         logLine(QStringLiteral("%1 can't be opened: %2")
                     .arg(QString::fromUtf8(text), QString::fromUtf8(error ? error->message : "")));
@@ -184,8 +169,9 @@ QString identifierInLists(const QString& contentType) {
 std::optional<QString> DefaultApplications::forScheme(const QString& scheme) {
     const QStringList types = contentTypes(scheme);
     for (const QString& type : types) {
-        if (const auto application = defaultForType(type))
-            return QString::fromLocal8Bit(g_desktop_app_info_get_filename(application.get()));
+        g_autoptr(GDesktopAppInfo) application = defaultForType(type);
+        if (application)
+            return QString::fromLocal8Bit(g_desktop_app_info_get_filename(application));
     }
     for (const QString& type : types) {
         if (const QString named = identifierInLists(type); !named.isEmpty())
@@ -197,7 +183,8 @@ std::optional<QString> DefaultApplications::forScheme(const QString& scheme) {
 }
 
 bool DefaultApplications::isExecutable(const QString& path) {
-    return applicationAt(path) != nullptr;
+    g_autoptr(GDesktopAppInfo) application = applicationAt(path);
+    return application != nullptr;
 }
 
 Outcome DefaultApplications::open(const QUrl& address, const QString& application) {
@@ -207,7 +194,7 @@ Outcome DefaultApplications::open(const QUrl& address, const QString& applicatio
     if ((address.isLocalFile() && !QFileInfo::exists(address.toLocalFile())) ||
         (!application.isEmpty() && !QFileInfo::exists(application)))
         return Outcome::FileNotFound;
-    Application opener;
+    g_autoptr(GDesktopAppInfo) opener = nullptr;
     if (!application.isEmpty())
         opener = applicationAt(application);
     else if (address.isLocalFile())
@@ -216,7 +203,7 @@ Outcome DefaultApplications::open(const QUrl& address, const QString& applicatio
         opener = defaultForType(QStringLiteral("x-scheme-handler/") + address.scheme());
     if (!opener)
         return application.isEmpty() ? Outcome::NoApplication : Outcome::NotExecutable;
-    return launch(opener.get(), address) ? Outcome::Opened : Outcome::StartFailed;
+    return launch(opener, address) ? Outcome::Opened : Outcome::StartFailed;
 }
 
 Outcome DefaultApplications::openTheSystemsWay(const QString& address) {

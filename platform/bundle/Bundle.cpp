@@ -52,11 +52,6 @@ QString executablePath() {
     return path;
 }
 
-QString besideExecutable(const char* path) {
-    const QDir folder(QFileInfo(executablePath()).absolutePath());
-    return QDir::cleanPath(folder.filePath(QStringLiteral("../") + QLatin1String(path)));
-}
-
 /// The AppImage that this program runs from, mounted at `APPDIR`. A program that was started by an AppImage
 /// inherits the variables without being part of it.
 QString appImagePath(const QString& executable) {
@@ -87,8 +82,9 @@ Bundle& Bundle::main() {
 }
 
 QString Bundle::resourcePath() const {
-    const QString named = qEnvironmentVariable("LUMIVANE_RESOURCES");
-    return named.isEmpty() ? besideExecutable("share/lumivane") : named;
+    if (const QString named = qEnvironmentVariable("LUMIVANE_RESOURCES"); !named.isEmpty())
+        return named;
+    return QDir::cleanPath(QFileInfo(executablePath()).absolutePath() + QStringLiteral("/../share/lumivane"));
 }
 
 QString Bundle::bundlePath() const {
@@ -104,19 +100,15 @@ QString Bundle::bundlePath() const {
     return program;
 }
 
-const QVariantMap& Bundle::infoDictionary() const {
+QString Bundle::infoString(const QString& key) const {
     if (!info_) {
         QString error;
         const QString path = resourcePath() + QStringLiteral("/Info.plist");
-        info_ = std::make_unique<QVariantMap>(PropertyList::read(path, &error).toMap());
+        info_ = PropertyList::read(path, &error).toMap();
         if (info_->isEmpty())
             logLine(QStringLiteral("No information about the program in %1: %2.").arg(path, error));
     }
-    return *info_;
-}
-
-QString Bundle::infoString(const QString& key) const {
-    return infoDictionary().value(key).toString();
+    return info_->value(key).toString();
 }
 
 QString Bundle::bundleIdentifier() const {
@@ -132,10 +124,6 @@ const QTranslator* Bundle::translations() const {
     if (!translator_)
         translator_ = translatorFor(QLocale::system().uiLanguages(), translationsPath());
     return translator_.get();
-}
-
-QString Bundle::localizedString(const char* key) const {
-    return localizedString(key, -1);
 }
 
 QString Bundle::localizedString(const char* key, int n) const {

@@ -8,6 +8,7 @@
 #include <QVariantMap>
 
 #include <memory>
+#include <optional>
 
 /// What is installed with the program: its resources, its Info dictionary and its localised strings, from the
 /// folder `../share/lumivane` beside the executable's own (the same in the build tree and installed),
@@ -26,7 +27,6 @@ public:
 
     /// `CFBundleVersion` and the like from `Info.plist`, read at first use; empty, with a log line, when the
     /// file is missing or damaged.
-    const QVariantMap& infoDictionary() const;
     QString infoString(const QString& key) const;
 
     /// The reverse-DNS name that running copies and desktop entries are known by.
@@ -34,11 +34,9 @@ public:
 
     /// The user's language for `key`, an English text; `key` itself where there is no translation. English
     /// has its own, `lumivane_en`, for keys whose words would not be true or not be complete (a letter to
-    /// underline) on this system.
-    QString localizedString(const char* key) const;
-
-    /// The same for a text about `n` things, whose form depends on the number; "%n" stays in it.
-    QString localizedString(const char* key, int n) const;
+    /// underline) on this system. The form of a text about `n` things depends on the number; "%n" stays in
+    /// it.
+    QString localizedString(const char* key, int n = -1) const;
 
     /// The language of those texts: "de", "pt_BR".
     QString language() const;
@@ -53,7 +51,7 @@ private:
     QString translationsPath() const;
     const QTranslator* translations() const;
 
-    mutable std::unique_ptr<QVariantMap> info_;
+    mutable std::optional<QVariantMap> info_;
     mutable std::unique_ptr<QTranslator> translator_;
     std::unique_ptr<QTranslator> qtTranslator_;
 };

@@ -3,6 +3,7 @@
 
 #include "platform/files/RegularFile.h"
 
+#include <QRegularExpression>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -26,33 +27,10 @@ QString escaped(QString value) {
     return value;
 }
 
-/// Where the first argument of a command line ends, as a shell sees it.
-qsizetype endOfFirstArgument(QStringView line) {
-    QChar quote;
-    for (qsizetype at = 0; at < line.size(); ++at) {
-        const QChar character = line[at];
-        if (character == u'\\' && quote != u'\'')
-            ++at;
-        else if (!quote.isNull())
-            quote = character == quote ? QChar() : quote;
-        else if (character == u'"' || character == u'\'')
-            quote = character;
-        else if (character.isSpace())
-            return at;
-    }
-    return line.size();
-}
-
-QString quotedForExec(const QString& argument) {
-    QString quoted = QStringLiteral("\"");
-    for (const QChar character : argument) {
-        if (character == u'%')
-            quoted += u'%';
-        else if (QStringView(u"\"`$\\").contains(character))
-            quoted += u'\\';
-        quoted += character;
-    }
-    return quoted + u'"';
+QString quotedForExec(QString argument) {
+    static const QRegularExpression special(QStringLiteral(R"((["`$\\]))"));
+    argument.replace(special, QStringLiteral(R"(\\1)"));
+    return u'"' + argument.replace(u'%', QStringLiteral("%%")) + u'"';
 }
 
 } // namespace
@@ -93,12 +71,6 @@ bool DesktopEntry::flag(const char* key, bool otherwise) const {
     return error ? otherwise : value;
 }
 
-std::optional<quint64> DesktopEntry::number(const char* key) const {
-    bool isNumber = false;
-    const quint64 value = text(key).toULongLong(&isNumber);
-    return isNumber ? std::optional(value) : std::nullopt;
-}
-
 QStringList DesktopEntry::list(const char* key) const {
     g_auto(GStrv) values = g_key_file_get_string_list(file_.get(), kGroup, key, nullptr, nullptr);
     QStringList items;
@@ -136,8 +108,12 @@ QString DesktopEntry::program() const {
 }
 
 void DesktopEntry::setProgram(const QString& path) {
+    // The first argument, as a shell sees it.
+    static const QRegularExpression named(
+        QStringLiteral(R"(^(?:[^\s"'\\]++|\\.|"(?:[^"\\]++|\\.)*+"|'[^']*+')*+)"),
+        QRegularExpression::DotMatchesEverythingOption);
     const QString exec = text("Exec").trimmed();
-    setText("Exec", execFor(path) + exec.sliced(endOfFirstArgument(exec)));
+    setText("Exec", execFor(path) + exec.sliced(named.match(exec).capturedLength()));
 }
 
 void DesktopEntry::setText(const char* key, const QString& value) {

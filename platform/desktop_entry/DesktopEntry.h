@@ -25,7 +25,6 @@ public:
     /// `otherwise`.
     QString text(const char* key) const;
     bool flag(const char* key, bool otherwise) const;
-    std::optional<quint64> number(const char* key) const;
 
     /// Whether an autostart entry is one that the session starts: an application, not hidden, not switched
     /// off, and meant for one of `desktops`.

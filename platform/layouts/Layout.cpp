@@ -6,21 +6,23 @@
 #include "platform/layouts/FieldNote.h"
 #include "platform/layouts/Mnemonics.h"
 #include "platform/layouts/Slider.h"
-#include "platform/layouts/WheelFocus.h"
 #include "platform/locale/NumberFormatter.h"
 #include "platform/preferences/Preferences.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemModel>
+#include <QAbstractSpinBox>
 #include <QAction>
 #include <QBuffer>
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QDateTimeEdit>
+#include <QEvent>
 #include <QHash>
 #include <QLineEdit>
 #include <QMetaMethod>
 #include <QPointer>
+#include <QScrollBar>
 #include <QUiLoader>
 
 #include <optional>
@@ -31,7 +33,6 @@ namespace {
 constexpr qint64 kLargestLayout = 4 << 20;
 constexpr char kAction[] = "action";
 constexpr char kBinding[] = "binding";
-constexpr char kTag[] = "tag";
 
 QHash<QString, Layout::Factory>& factories() {
     static QHash<QString, Layout::Factory> registered;
@@ -39,8 +40,7 @@ QHash<QString, Layout::Factory>& factories() {
 }
 
 void addReason(QString* error, const QString& reason) {
-    if (error)
-        *error += (error->isEmpty() ? QString() : QStringLiteral(" ")) + reason;
+    *error += (error->isEmpty() ? QString() : QStringLiteral(" ")) + reason;
 }
 
 /// A new QUiLoader loads every widget plugin that Qt Designer has on this machine, and their libraries with
@@ -282,6 +282,32 @@ QString tie(QObject* control, QObject* owner) {
     return controlTie->watch() ? QString() : QStringLiteral("%1 reports no changes.").arg(name);
 }
 
+class WheelFilter : public QObject {
+public:
+    using QObject::QObject;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() != QEvent::Wheel || static_cast<QWidget*>(watched)->hasFocus())
+            return false;
+        event->ignore(); // goes on to what the control lies in
+        return true;
+    }
+};
+
+/// Keeps the mouse wheel from a control that changes its value by it (a choice, a slider, a number or date
+/// field) unless the control has the keyboard's focus, which the wheel does not give it either: otherwise
+/// what lies around it scrolls. Does nothing to any other object.
+void actOnWheelOnlyWithFocus(QObject* control) {
+    const bool slider = qobject_cast<QAbstractSlider*>(control) && !qobject_cast<QScrollBar*>(control);
+    if (!slider && !qobject_cast<QComboBox*>(control) && !qobject_cast<QAbstractSpinBox*>(control))
+        return;
+    auto* widget = static_cast<QWidget*>(control);
+    if (widget->focusPolicy() == Qt::WheelFocus)
+        widget->setFocusPolicy(Qt::StrongFocus);
+    widget->installEventFilter(new WheelFilter(widget));
+}
+
 /// Assistive programs say a button's text, and of "(&M)" Qt takes but the mark away.
 void nameButton(QObject* object) {
     auto* button = qobject_cast<QAbstractButton*>(object);
@@ -329,7 +355,7 @@ std::unique_ptr<QWidget> Layout::load(const QString& name, QObject* owner, QStri
 }
 
 int Layout::tag(const QObject* control) {
-    return control->property(kTag).toInt();
+    return control->property("tag").toInt();
 }
 
 QObject* Layout::objectNamed(QWidget* root, const char* objectName, const QMetaObject& type, QString* error) {

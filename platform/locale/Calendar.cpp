@@ -47,8 +47,6 @@ std::int64_t Calendar::instant(const CalendarFields& fields, const QTimeZone& zo
     // The offset of the day before is the one in force before any change near this time; in a gap and in an
     // overlap alike it is the one to use.
     const int before = offsetAt(zone, wall - kDay);
-    if (offsetAt(zone, wall - before) == before)
-        return wall - before;
     const int after = offsetAt(zone, wall - before);
     return offsetAt(zone, wall - after) == after ? wall - after : wall - before;
 }

@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr float kLargest = std::numeric_limits<float>::max();
+constexpr double kLargest = std::numeric_limits<float>::max();
 
 template <typename... Precision>
 QString plainText(Precision... precision) {
@@ -108,12 +108,9 @@ QString NumberFormatter::localized(const QString& text) {
 
 std::optional<float> NumberFormatter::number(const QString& text) {
     const auto [number, isAll] = leading(text);
-    return isAll && std::abs(number) <= static_cast<double>(kLargest)
-               ? std::optional(static_cast<float>(number))
-               : std::nullopt;
+    return isAll && std::abs(number) <= kLargest ? std::optional(static_cast<float>(number)) : std::nullopt;
 }
 
 float NumberFormatter::leadingNumber(const QString& text) {
-    constexpr double kLimit = kLargest;
-    return static_cast<float>(std::clamp(leading(text).number, -kLimit, kLimit));
+    return static_cast<float>(std::clamp(leading(text).number, -kLargest, kLargest));
 }

@@ -16,7 +16,7 @@
 namespace {
 
 QString fromICU(const icu::UnicodeString& text) {
-    return QString(reinterpret_cast<const QChar*>(text.getBuffer()), text.length());
+    return QString::fromUtf16(text.getBuffer(), text.length());
 }
 
 QString cityOf(const QByteArray& zone, const icu::TimeZoneNames& names) {

@@ -10,10 +10,12 @@ namespace {
 
 using StoredLocation::Place;
 
-std::optional<Place> placeInTable(const QString& table, const QByteArray& zoneId) {
-    for (const ZoneTable::Row& row : ZoneTable::rowsWith(zoneId, table)) {
-        if (row.zone == zoneId)
-            return row.place;
+std::optional<Place> placeInTables(const QByteArray& zoneId) {
+    for (const auto& table : {QStringLiteral("zone1970.tab"), QStringLiteral("zone.tab")}) {
+        for (const ZoneTable::Row& row : ZoneTable::rowsWith(zoneId, table)) {
+            if (row.zone == zoneId)
+                return row.place;
+        }
     }
     return std::nullopt;
 }
@@ -27,18 +29,13 @@ QByteArray canonicalName(const QByteArray& zoneId) {
     return zoneId;
 }
 
-std::optional<Place> placeInTables(const QByteArray& zoneId) {
-    for (const char* table : {"zone1970.tab", "zone.tab"}) {
-        if (const auto place = placeInTable(QString::fromLatin1(table), zoneId))
-            return place;
-    }
-    return std::nullopt;
-}
+} // namespace
 
-/// The place of a zone's city. The last answer is kept: the tables don't change under a running program.
-std::optional<Place> placeOfZone(const QByteArray& zoneId) {
+std::optional<Place> StoredLocation::place() {
+    // The last answer is kept: the tables don't change under a running program.
     static QByteArray lastZone;
     static std::optional<Place> lastPlace;
+    const QByteArray zoneId = TimeZone::systemTimeZone().id();
     if (zoneId != lastZone) {
         lastZone = zoneId;
         lastPlace = placeInTables(zoneId);
@@ -46,10 +43,4 @@ std::optional<Place> placeOfZone(const QByteArray& zoneId) {
             lastPlace = placeInTables(name);
     }
     return lastPlace;
-}
-
-} // namespace
-
-std::optional<Place> StoredLocation::place() {
-    return placeOfZone(TimeZone::systemTimeZone().id());
 }

@@ -10,15 +10,9 @@ Q_LOGGING_CATEGORY(lumivaneLog, "lumivane", QtInfoMsg)
 /// Whether a character would not show where it stands: a control, or one that turns the order of those around
 /// it.
 bool isInvisible(QChar character) {
-    switch (character.category()) {
-    case QChar::Other_Control:
-    case QChar::Other_Format:
-    case QChar::Separator_Line:
-    case QChar::Separator_Paragraph:
-        return true;
-    default:
-        return false;
-    }
+    const QChar::Category category = character.category();
+    return category == QChar::Other_Control || category == QChar::Other_Format ||
+           category == QChar::Separator_Line || category == QChar::Separator_Paragraph;
 }
 
 QString escaped(const QString& message) {

@@ -6,18 +6,13 @@
 #include "platform/locale/NumberFormatter.h"
 #include "platform/log/Log.h"
 
-#include <QDir>
 #include <QFileInfo>
 #include <QSettings>
 #include <QStringDecoder>
 
-#include <optional>
 #include <utility>
 
-#include <fcntl.h>
 #include <glib.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace {
 
@@ -40,80 +35,51 @@ QString keepAside(const QString& path) {
     return {};
 }
 
-/// Whether something stands in the file's place that must not even be opened as one.
-bool isOfNoUse(const QString& path) {
-    return RegularFile::isOtherThing(path) || QFileInfo(path).size() > kLargestFile;
-}
-
-/// Takes from all others what they may do with a file or folder.
-void narrow(const QString& path) {
-    constexpr mode_t kOthers = S_IRWXG | S_IRWXO;
-    const QByteArray name = QFile::encodeName(path);
-    struct stat status {};
-    if (stat(name.constData(), &status) == 0 && (status.st_mode & kOthers) != 0)
-        chmod(name.constData(), status.st_mode & 07777 & ~kOthers);
-}
-
-/// The preferences tell where the user lives: the folder and the file are for nobody else. QSettings keeps
-/// the permissions of the file that it writes anew, but makes one that everybody may read.
+/// Takes from all others what they may do with the file and its folder: the preferences tell where the user
+/// lives.
 void makePrivate(const QString& path) {
-    const QString folder = QFileInfo(path).absolutePath();
-    g_mkdir_with_parents(QFile::encodeName(folder).constData(), S_IRWXU);
-    narrow(folder);
-    const int made =
-        open(QFile::encodeName(path).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR);
-    if (made >= 0)
-        close(made);
-    else if (!RegularFile::isOtherThing(path))
+    const auto narrow = [](const QString& name) {
+        constexpr auto kOthers = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup | QFile::ReadOther |
+                                 QFile::WriteOther | QFile::ExeOther;
+        if (const auto given = QFile::permissions(name); given & kOthers)
+            QFile::setPermissions(name, given & ~kOthers);
+    };
+    narrow(QFileInfo(path).absolutePath());
+    if (!RegularFile::isOtherThing(path))
         narrow(path);
 }
 
-/// The value that a text of the file stands for, or nothing.
-template <typename T>
-std::optional<T> parsed(const QString& text, const PreferenceRange& range);
-
-template <>
-std::optional<bool> parsed(const QString& text, const PreferenceRange&) {
-    for (const char* yes : {"true", "yes", "1"}) {
-        if (text.compare(QLatin1String(yes), Qt::CaseInsensitive) == 0)
-            return true;
+/// The value of the kind that a text of the file stands for, or an invalid one.
+QVariant parsed(const QString& text, QMetaType kind, const PreferenceRange& range) {
+    const auto isAmong = [&text](const QStringList& words) {
+        return words.contains(text, Qt::CaseInsensitive);
+    };
+    bool isOfKind = true;
+    QVariant value = text;
+    switch (kind.id()) {
+    case QMetaType::Bool:
+        value = isAmong({QStringLiteral("true"), QStringLiteral("yes"), QStringLiteral("1")});
+        isOfKind =
+            value.toBool() || isAmong({QStringLiteral("false"), QStringLiteral("no"), QStringLiteral("0")});
+        break;
+    case QMetaType::Int:
+        value = text.toInt(&isOfKind);
+        break;
+    case QMetaType::Float:
+        value = text.toFloat(&isOfKind);
+        // Not a number is in no range.
+        isOfKind = isOfKind && value.toFloat() >= range.smallest && value.toFloat() <= range.largest;
+        break;
+    default:
+        break;
     }
-    for (const char* no : {"false", "no", "0"}) {
-        if (text.compare(QLatin1String(no), Qt::CaseInsensitive) == 0)
-            return false;
-    }
-    return std::nullopt;
+    return isOfKind ? value : QVariant();
 }
 
-template <>
-std::optional<int> parsed(const QString& text, const PreferenceRange&) {
-    bool ok = false;
-    const int value = text.toInt(&ok);
-    return ok ? std::optional(value) : std::nullopt;
-}
-
-template <>
-std::optional<float> parsed(const QString& text, const PreferenceRange& range) {
-    bool ok = false;
-    const float value = text.toFloat(&ok);
-    // Not a number is in no range.
-    return ok && value >= range.smallest && value <= range.largest ? std::optional(value) : std::nullopt;
-}
-
-template <>
-std::optional<QString> parsed(const QString& text, const PreferenceRange&) {
-    return text;
-}
-
-template <typename T>
-QVariant stored(const T& value) {
-    return value;
-}
-
-/// The shortest text that reads back as the same number: 5.4, not 5.400000095367432.
-template <>
-QVariant stored(const float& value) {
-    return NumberFormatter::plainString(value); // 5.4, not 5.400000095367432
+/// A value as the file has it: of a number the shortest text that reads back as the same, 5.4 and not
+/// 5.400000095367432.
+QVariant stored(const QVariant& value) {
+    return value.typeId() == QMetaType::Float ? NumberFormatter::plainString(value.toFloat()) : value;
 }
 
 } // namespace
@@ -130,12 +96,12 @@ Preferences::Preferences(const QString& path) {
 Preferences::~Preferences() = default;
 
 void Preferences::openFile(const QString& path) {
-    narrow(QFileInfo(path).absolutePath());
-    if (!RegularFile::isOtherThing(path))
-        narrow(path);
+    makePrivate(path);
     QString error;
     const auto bytes = RegularFile::read(path, kLargestFile, &error);
-    bool damaged = bytes ? !isText(*bytes) : isOfNoUse(path);
+    // Something else in its place, or too large a file, must not even be opened as one.
+    bool damaged =
+        bytes ? !isText(*bytes) : RegularFile::isOtherThing(path) || QFileInfo(path).size() > kLargestFile;
     if (!bytes && !damaged && QFileInfo::exists(path))
         logLine(
             QStringLiteral("The preferences in %1 can't be read (%2); the defaults serve.").arg(path, error));
@@ -147,17 +113,16 @@ void Preferences::openFile(const QString& path) {
         return;
     settings_.reset();
     const QString aside = keepAside(path);
-    if (aside.isEmpty()) {
-        // Without a place to keep it the user's file must not be written over: settings go to a file of their
-        // own.
+    if (aside.isEmpty())
         logLine(QStringLiteral("The preferences in %1 are damaged and can't be moved; the defaults serve.")
                     .arg(path));
-        settings_ = std::make_unique<QSettings>(path + QStringLiteral(".new"), QSettings::IniFormat);
-        return;
-    }
-    logLine(QStringLiteral("The preferences in %1 are damaged; kept as %2, the defaults serve.")
-                .arg(path, aside));
-    settings_ = std::make_unique<QSettings>(path, QSettings::IniFormat);
+    else
+        logLine(QStringLiteral("The preferences in %1 are damaged; kept as %2, the defaults serve.")
+                    .arg(path, aside));
+    // Without a place to keep it the user's file must not be written over: settings go to a file of their
+    // own.
+    settings_ = std::make_unique<QSettings>(aside.isEmpty() ? path + QStringLiteral(".new") : path,
+                                            QSettings::IniFormat);
 }
 
 void Preferences::prepareFile() {
@@ -167,30 +132,17 @@ void Preferences::prepareFile() {
         if (RegularFile::isOtherThing(file))
             logLine(QStringLiteral("%1 is no regular file; kept as %2.").arg(file, keepAside(file)));
     }
+    g_mkdir_with_parents(QFile::encodeName(QFileInfo(path).absolutePath()).constData(), 0700);
+    // QSettings keeps the permissions of the file that it writes anew, but makes one that everybody may read.
+    QFile(path).open(QIODevice::WriteOnly | QIODevice::NewOnly, QFile::ReadOwner | QFile::WriteOwner);
     makePrivate(path);
 }
 
-template <typename T>
-void Preferences::registerKey(const PreferenceKey<T>& key, const std::type_identity_t<T>& fallback) {
-    registered_.insert(key.name, stored<T>(fallback));
-    ranges_.insert(key.name, key.range);
-}
-
-template <typename T>
-T Preferences::value(const PreferenceKey<T>& key) const {
-    return read<T>(key.name, key.range, key.fallback);
-}
-
-template <typename T>
-void Preferences::set(const PreferenceKey<T>& key, const std::type_identity_t<T>& value) {
-    store(key.name, stored<T>(value));
-}
-
-template <typename T>
-T Preferences::read(const QString& name, const PreferenceRange& range, const T& fallback) const {
+QVariant Preferences::read(const QString& name, const PreferenceRange& range,
+                           const QVariant& fallback) const {
     if (const QVariant own = settings_->value(name); own.isValid()) {
-        if (const std::optional<T> value = parsed<T>(own.toString(), range))
-            return *value;
+        if (const QVariant value = parsed(own.toString(), fallback.metaType(), range); value.isValid())
+            return value;
         if (!reported_.contains(name)) {
             reported_.append(name);
             logLine(QStringLiteral(
@@ -198,60 +150,36 @@ T Preferences::read(const QString& name, const PreferenceRange& range, const T& 
                         .arg(name, own.toString()));
         }
     }
-    const QVariant registered = registered_.value(name);
-    return registered.isValid() ? parsed<T>(registered.toString(), {}).value_or(fallback) : fallback;
+    return registered_.value(name, {fallback, {}}).fallback;
 }
 
-int Preferences::integerForKey(const QString& name) const {
-    return read<int>(name, {}, 0);
-}
-
-float Preferences::floatForKey(const QString& name) const {
-    return read<float>(name, rangeForKey(name), 0.0F);
-}
-
-bool Preferences::boolForKey(const QString& name) const {
-    return read<bool>(name, {}, false);
-}
-
-void Preferences::setInteger(int value, const QString& name) {
-    store(name, value);
-}
-
-void Preferences::setFloat(float value, const QString& name) {
-    store(name, stored(value));
-}
-
-void Preferences::setBool(bool value, const QString& name) {
-    store(name, value);
-}
-
-QVariant Preferences::answer(const QString& name) const {
-    const QVariant own = settings_->value(name);
-    return own.isValid() ? own : registered_.value(name);
+QString Preferences::answer(const QString& name) const {
+    return settings_->value(name, stored(registered_.value(name).fallback)).toString();
 }
 
 void Preferences::store(const QString& name, const QVariant& value) {
-    const QString before = answer(name).toString();
-    if (settings_->contains(name) && before == value.toString())
+    const QString before = answer(name);
+    const QVariant after = stored(value);
+    if (settings_->contains(name) && before == after.toString())
         return;
     prepareFile();
-    settings_->setValue(name, value);
+    settings_->setValue(name, after);
     synchronizeLater();
-    if (before != value.toString())
+    if (before != after.toString())
         Q_EMIT valueChanged(name);
 }
 
 void Preferences::forget(const QString& name) {
-    const QString before = answer(name).toString();
+    const QString before = answer(name);
     prepareFile();
     settings_->remove(name);
     synchronizeLater();
-    if (before != answer(name).toString())
+    if (before != answer(name))
         Q_EMIT valueChanged(name);
 }
 
 bool Preferences::synchronize() {
+    synchronizesLater_ = false;
     prepareFile();
     if (settings_->status() == QSettings::NoError) {
         settings_->sync();
@@ -270,27 +198,5 @@ bool Preferences::synchronize() {
 
 void Preferences::synchronizeLater() {
     if (!std::exchange(synchronizesLater_, true))
-        QMetaObject::invokeMethod(
-            this,
-            [this] {
-                synchronizesLater_ = false;
-                synchronize();
-            },
-            Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, &Preferences::synchronize, Qt::QueuedConnection);
 }
-
-template void Preferences::registerKey(const PreferenceKey<bool>&, const bool&);
-template bool Preferences::value(const PreferenceKey<bool>&) const;
-template void Preferences::set(const PreferenceKey<bool>&, const bool&);
-
-template void Preferences::registerKey(const PreferenceKey<int>&, const int&);
-template int Preferences::value(const PreferenceKey<int>&) const;
-template void Preferences::set(const PreferenceKey<int>&, const int&);
-
-template void Preferences::registerKey(const PreferenceKey<float>&, const float&);
-template float Preferences::value(const PreferenceKey<float>&) const;
-template void Preferences::set(const PreferenceKey<float>&, const float&);
-
-template void Preferences::registerKey(const PreferenceKey<QString>&, const QString&);
-template QString Preferences::value(const PreferenceKey<QString>&) const;
-template void Preferences::set(const PreferenceKey<QString>&, const QString&);

@@ -5,7 +5,8 @@
 
 #include <QHash>
 #include <QObject>
-#include <QVariantMap>
+#include <QStringList>
+#include <QVariant>
 
 #include <memory>
 #include <type_traits>
@@ -32,15 +33,21 @@ public:
         registerKey(key, key.fallback);
     }
     template <typename T>
-    void registerKey(const PreferenceKey<T>& key, const std::type_identity_t<T>& fallback);
+    void registerKey(const PreferenceKey<T>& key, const std::type_identity_t<T>& fallback) {
+        registered_.insert(key.name, {fallback, key.range});
+    }
 
     /// The user's value, else the default. A stored value of another kind or outside the key's range is
     /// logged once, and the default is given.
     template <typename T>
-    T value(const PreferenceKey<T>& key) const;
+    T value(const PreferenceKey<T>& key) const {
+        return read(key.name, key.range, key.fallback).template value<T>();
+    }
 
     template <typename T>
-    void set(const PreferenceKey<T>& key, const std::type_identity_t<T>& value);
+    void set(const PreferenceKey<T>& key, const std::type_identity_t<T>& value) {
+        store(key.name, value);
+    }
 
     /// Forgets the user's value, so that the default answers again.
     template <typename T>
@@ -51,13 +58,13 @@ public:
     // The same by name, for controls that a layout binds to a preference. The default of a name that is not
     // registered is 0 or false, and its range all numbers.
 
-    PreferenceRange rangeForKey(const QString& name) const { return ranges_.value(name); }
-    int integerForKey(const QString& name) const;
-    float floatForKey(const QString& name) const;
-    bool boolForKey(const QString& name) const;
-    void setInteger(int value, const QString& name);
-    void setFloat(float value, const QString& name);
-    void setBool(bool value, const QString& name);
+    PreferenceRange rangeForKey(const QString& name) const { return registered_.value(name).range; }
+    int integerForKey(const QString& name) const { return read(name, {}, 0).toInt(); }
+    float floatForKey(const QString& name) const { return read(name, rangeForKey(name), 0.0F).toFloat(); }
+    bool boolForKey(const QString& name) const { return read(name, {}, false).toBool(); }
+    void setInteger(int value, const QString& name) { store(name, value); }
+    void setFloat(float value, const QString& name) { store(name, value); }
+    void setBool(bool value, const QString& name) { store(name, value); }
 
     /// Writes what is pending to disk, atomically, as happens by itself soon after each change; false when
     /// the disk refuses, with a log line the first time. What it refused goes with the next change or at the
@@ -69,18 +76,21 @@ Q_SIGNALS:
     void valueChanged(const QString& name);
 
 private:
+    struct Registered {
+        QVariant fallback;
+        PreferenceRange range;
+    };
+
     void synchronizeLater();
-    QVariant answer(const QString& name) const;
+    QString answer(const QString& name) const;
+    QVariant read(const QString& name, const PreferenceRange& range, const QVariant& fallback) const;
     void store(const QString& name, const QVariant& value);
     void forget(const QString& name);
     void openFile(const QString& path);
     void prepareFile();
-    template <typename T>
-    T read(const QString& name, const PreferenceRange& range, const T& fallback) const;
 
     std::unique_ptr<QSettings> settings_;
-    QVariantMap registered_;
-    QHash<QString, PreferenceRange> ranges_;
+    QHash<QString, Registered> registered_;
     mutable QStringList reported_;
     bool synchronizesLater_ = false;
     bool refused_ = false; ///< by the disk, the last time

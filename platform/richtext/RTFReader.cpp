@@ -19,7 +19,6 @@ namespace {
 
 constexpr qsizetype kMaxInput = 1 << 16;
 constexpr std::size_t kMaxDepth = 100;
-constexpr int kMaxColours = 256;
 constexpr int kMaxHalfPoints = 400;
 constexpr int kMaxTwips = 2880;
 constexpr double kTwipsInPixel = 15;
@@ -44,54 +43,45 @@ QString linkTarget(const QString& instruction) {
 
 class Reader {
 public:
-    Reader(const QByteArray& rtf, QTextDocument& document) : rtf_(rtf), cursor_(&document) {}
+    explicit Reader(QTextDocument& document) : cursor_(&document) {}
 
     /// An empty string, or what is wrong with the text.
-    QString read();
+    QString read(const QByteArray& rtf);
 
 private:
-    bool atEnd() const { return position_ >= rtf_.size(); }
-    void readControl();
-    void readHexByte();
-    std::optional<int> readParameter();
-    void obey(const QByteArray& word, std::optional<int> parameter);
-    void obeyInColourTable(const QByteArray& word, int parameter);
-    void obeyInText(const QByteArray& word, std::optional<int> parameter);
+    void take(const QRegularExpressionMatch& token);
+    void obey(const QString& word, std::optional<int> parameter);
+    void obeyInColourTable(const QString& word, int parameter);
+    void obeyInText(const QString& word, std::optional<int> parameter);
     void addCharacter(QChar character);
     void setLink(const QString& target);
     void endParagraph();
 
-    const QByteArray& rtf_;
-    qsizetype position_ = 0;
     QString reason_;
     std::vector<Group> groups_;
     bool isOptional_ = false; ///< the next word's destination, which a reader that lacks it skips
-    std::vector<QColor> colours_;
+    QList<QColor> colours_;
     QColor colour_;
     QTextCursor cursor_;
     QTextBlockFormat paragraph_; ///< of the last character
     bool paragraphEnded_ = false;
 };
 
-QString Reader::read() {
-    if (rtf_.size() > kMaxInput)
+QString Reader::read(const QByteArray& rtf) {
+    if (rtf.size() > kMaxInput)
         return QStringLiteral("It is too large.");
-    if (!rtf_.startsWith("{\\rtf"))
+    if (!rtf.startsWith("{\\rtf"))
         return QStringLiteral("It is not RTF.");
+    // A word with its number, a byte's digits or another character behind a backslash, or one that stands for
+    // itself. A line's end stands for nothing.
+    static const QRegularExpression token(
+        QStringLiteral(R"(\\(?:([A-Za-z]+)(-?[0-9]+)? ?|'([0-9A-Fa-f]{2})|(.))|([^\\\r\n]))"),
+        QRegularExpression::DotMatchesEverythingOption);
+    auto tokens = token.globalMatch(QString::fromLatin1(rtf));
     cursor_.beginEditBlock();
-    do {
-        const char byte = rtf_[position_++];
-        if (byte == '{')
-            groups_.push_back(groups_.empty() ? Group() : Group(groups_.back()));
-        else if (byte == '}')
-            groups_.pop_back();
-        else if (byte == '\\')
-            readControl();
-        else if (byte != '\r' && byte != '\n')
-            addCharacter(QLatin1Char(byte));
-        if (groups_.size() > kMaxDepth)
-            reason_ = QStringLiteral("Its groups are nested too deep.");
-    } while (reason_.isEmpty() && !groups_.empty() && !atEnd());
+    do
+        take(tokens.next());
+    while (reason_.isEmpty() && !groups_.empty() && tokens.hasNext());
     if (!paragraphEnded_)
         cursor_.setBlockFormat(paragraph_);
     cursor_.endEditBlock();
@@ -100,67 +90,45 @@ QString Reader::read() {
     return reason_;
 }
 
-void Reader::readControl() {
-    const auto isLetter = [](char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); };
-    const qsizetype start = position_;
-    while (!atEnd() && isLetter(rtf_[position_]))
-        ++position_;
-    if (position_ > start) {
-        const QByteArray word = rtf_.mid(start, position_ - start);
-        obey(word, readParameter());
-    } else if (!atEnd()) {
-        const char symbol = rtf_[position_++];
-        if (symbol == '\'')
-            readHexByte();
-        else if (symbol == '*')
-            isOptional_ = true;
-        else if (symbol == '\\' || symbol == '{' || symbol == '}')
-            addCharacter(QLatin1Char(symbol));
-    }
-}
-
-std::optional<int> Reader::readParameter() {
-    const qsizetype start = position_;
-    if (!atEnd() && rtf_[position_] == '-')
-        ++position_;
-    while (!atEnd() && rtf_[position_] >= '0' && rtf_[position_] <= '9')
-        ++position_;
-    bool isNumber = false;
-    const int number = rtf_.mid(start, position_ - start).toInt(&isNumber);
-    if (!atEnd() && rtf_[position_] == ' ')
-        ++position_;
-    return isNumber ? std::optional(number) : std::nullopt;
-}
-
-/// The upper half of the western character set, but for its quotes and dashes, is Latin-1.
-void Reader::readHexByte() {
-    const QByteArray digits = rtf_.mid(position_, 2);
-    const bool isHexadecimal =
-        digits.size() == 2 && std::ranges::all_of(digits, [](char c) {
-            return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F');
-        });
-    if (!isHexadecimal) {
+void Reader::take(const QRegularExpressionMatch& token) {
+    const QString escaped = token.captured(4);
+    const QString plain = token.captured(5);
+    if (token.hasCaptured(1)) {
+        bool isNumber = false;
+        const int number = token.captured(2).toInt(&isNumber);
+        obey(token.captured(1), isNumber ? std::optional(number) : std::nullopt);
+    } else if (token.hasCaptured(3)) {
+        // The upper half of the western character set, but for its quotes and dashes, is Latin-1.
+        addCharacter(QChar(token.captured(3).toUShort(nullptr, 16)));
+    } else if (plain == u"{") {
+        groups_.push_back(groups_.empty() ? Group() : groups_.back());
+        if (groups_.size() > kMaxDepth)
+            reason_ = QStringLiteral("Its groups are nested too deep.");
+    } else if (plain == u"}") {
+        groups_.pop_back();
+    } else if (escaped == u"*") {
+        isOptional_ = true;
+    } else if (escaped == u"'") {
         reason_ = QStringLiteral("It holds a malformed character.");
-        return;
+    } else if (escaped.isEmpty() || QStringView(u"\\{}").contains(escaped)) {
+        addCharacter((plain + escaped).front());
     }
-    position_ += 2;
-    addCharacter(QLatin1Char(QByteArray::fromHex(digits).front()));
 }
 
-void Reader::obey(const QByteArray& word, std::optional<int> parameter) {
+void Reader::obey(const QString& word, std::optional<int> parameter) {
     Group& group = groups_.back();
     const bool isOptional = std::exchange(isOptional_, false);
     if (group.destination == Destination::Skipped)
         return;
-    if (word == "field")
+    if (word == u"field")
         group.fieldInstruction = std::make_shared<QString>();
-    else if (word == "fldinst")
+    else if (word == u"fldinst")
         group.destination = Destination::FieldInstruction;
-    else if (word == "fldrslt" && group.fieldInstruction)
+    else if (word == u"fldrslt" && group.fieldInstruction)
         setLink(linkTarget(*group.fieldInstruction));
-    else if (word == "colortbl")
+    else if (word == u"colortbl")
         group.destination = Destination::Colours;
-    else if (isOptional || word == "fonttbl" || word == "stylesheet" || word == "info" || word == "pict")
+    else if (isOptional || word == u"fonttbl" || word == u"stylesheet" || word == u"info" || word == u"pict")
         group.destination = Destination::Skipped;
     else if (group.destination == Destination::Colours)
         obeyInColourTable(word, std::clamp(parameter.value_or(0), 0, 255));
@@ -168,44 +136,42 @@ void Reader::obey(const QByteArray& word, std::optional<int> parameter) {
         obeyInText(word, parameter);
 }
 
-void Reader::obeyInColourTable(const QByteArray& word, int parameter) {
+void Reader::obeyInColourTable(const QString& word, int parameter) {
     if (!colour_.isValid())
         colour_ = Qt::black;
-    if (word == "red")
+    if (word == u"red")
         colour_.setRed(parameter);
-    else if (word == "green")
+    else if (word == u"green")
         colour_.setGreen(parameter);
-    else if (word == "blue")
+    else if (word == u"blue")
         colour_.setBlue(parameter);
 }
 
-void Reader::obeyInText(const QByteArray& word, std::optional<int> parameter) {
+void Reader::obeyInText(const QString& word, std::optional<int> parameter) {
     Group& group = groups_.back();
     const auto within = [&](int largest) { return std::clamp(parameter.value_or(0), 0, largest); };
-    if (word == "par") {
+    if (word == u"par") {
         endParagraph();
-    } else if (word == "line") {
+    } else if (word == u"line") {
         addCharacter(QChar::LineSeparator);
-    } else if (word == "pard") {
+    } else if (word == u"pard") {
         group.paragraph = {};
-    } else if (word == "qc") {
+    } else if (word == u"qc") {
         group.paragraph.setAlignment(Qt::AlignHCenter);
-    } else if (word == "sb") {
+    } else if (word == u"sb") {
         group.paragraph.setTopMargin(within(kMaxTwips) / kTwipsInPixel);
-    } else if (word == "sa") {
+    } else if (word == u"sa") {
         group.paragraph.setBottomMargin(within(kMaxTwips) / kTwipsInPixel);
-    } else if (word == "b") {
+    } else if (word == u"b") {
         group.characters.setFontWeight(parameter == 0 ? QFont::Normal : QFont::Bold);
-    } else if (word == "i") {
+    } else if (word == u"i") {
         group.characters.setFontItalic(parameter != 0);
-    } else if (word == "fs" && within(kMaxHalfPoints) > 0) {
+    } else if (word == u"fs" && within(kMaxHalfPoints) > 0) {
         group.characters.setFontPointSize(within(kMaxHalfPoints) / 2.0);
-    } else if (word == "cf") {
-        const auto index = static_cast<std::size_t>(within(kMaxColours));
-        if (index < colours_.size() && colours_[index].isValid())
-            group.characters.setForeground(colours_[index]);
-        else
-            group.characters.clearForeground();
+    } else if (word == u"cf") {
+        group.characters.clearForeground();
+        if (const QColor colour = colours_.value(parameter.value_or(0)); colour.isValid())
+            group.characters.setForeground(colour);
     }
 }
 
@@ -224,9 +190,7 @@ void Reader::addCharacter(QChar character) {
     const Group& group = groups_.back();
     isOptional_ = false;
     if (group.destination == Destination::Colours && character == u';') {
-        if (colours_.size() < kMaxColours)
-            colours_.push_back(colour_);
-        colour_ = QColor();
+        colours_.append(std::exchange(colour_, QColor()));
     }
     if (character.category() == QChar::Other_Control)
         return;
@@ -253,10 +217,6 @@ void Reader::endParagraph() {
 std::unique_ptr<QTextDocument> documentFromRTF(const QByteArray& rtf, QString* error) {
     auto document = std::make_unique<QTextDocument>();
     document->setUndoRedoEnabled(false);
-    const QString reason = Reader(rtf, *document).read();
-    if (reason.isEmpty())
-        return document;
-    if (error)
-        *error = reason;
-    return nullptr;
+    *error = Reader(*document).read(rtf);
+    return error->isEmpty() ? std::move(document) : nullptr;
 }

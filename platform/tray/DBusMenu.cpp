@@ -60,40 +60,7 @@ QVariantMap allProperties(const QAction& action) {
     return properties;
 }
 
-const QStringList& propertyNames() {
-    static const QStringList names{QStringLiteral("type"),        QStringLiteral("label"),
-                                   QStringLiteral("enabled"),     QStringLiteral("visible"),
-                                   QStringLiteral("toggle-type"), QStringLiteral("toggle-state"),
-                                   QStringLiteral("shortcut")};
-    return names;
-}
-
 } // namespace
-
-QDBusArgument& operator<<(QDBusArgument& argument, const DBusMenuLayout& layout) {
-    argument.beginStructure();
-    argument << layout.id << layout.properties;
-    argument.beginArray(QMetaType::fromType<QDBusVariant>());
-    for (const DBusMenuLayout& child : layout.children)
-        argument << QDBusVariant(QVariant::fromValue(child));
-    argument.endArray();
-    argument.endStructure();
-    return argument;
-}
-
-const QDBusArgument& operator>>(const QDBusArgument& argument, DBusMenuLayout& layout) {
-    argument.beginStructure();
-    argument >> layout.id >> layout.properties;
-    argument.beginArray();
-    while (!argument.atEnd()) {
-        QDBusVariant child;
-        argument >> child;
-        layout.children.append(qdbus_cast<DBusMenuLayout>(child.variant()));
-    }
-    argument.endArray();
-    argument.endStructure();
-    return argument;
-}
 
 DBusMenu::DBusMenu(QObject* parent) : QObject(parent) {
     qDBusRegisterMetaType<DBusMenuLayout>();
@@ -105,8 +72,6 @@ DBusMenu::DBusMenu(QObject* parent) : QObject(parent) {
     qDBusRegisterMetaType<QList<DBusMenuEvent>>();
     qDBusRegisterMetaType<QList<QStringList>>();
 }
-
-DBusMenu::~DBusMenu() = default;
 
 void DBusMenu::setMenu(QMenu* menu) {
     if (menu_ == menu)
@@ -239,7 +204,7 @@ DBusMenuLayout DBusMenu::layoutOf(int id, int depth, const QStringList& names) {
     layoutChanged_ = false;
     const QList<QAction*> actions = menu_->actions();
     for (QAction* action : actions)
-        layout.children.append(layoutOf(idOf(action), 0, names));
+        layout.children.append(QVariant::fromValue(layoutOf(idOf(action), 0, names)));
     return layout;
 }
 
@@ -274,6 +239,10 @@ void DBusMenu::scheduleUpdate() {
 }
 
 void DBusMenu::sendUpdates() {
+    static const QStringList all{QStringLiteral("type"),        QStringLiteral("label"),
+                                 QStringLiteral("enabled"),     QStringLiteral("visible"),
+                                 QStringLiteral("toggle-type"), QStringLiteral("toggle-state"),
+                                 QStringLiteral("shortcut")};
     updateScheduled_ = false;
     QList<DBusMenuItem> updated;
     QList<DBusMenuItemKeys> removed;
@@ -281,7 +250,7 @@ void DBusMenu::sendUpdates() {
         if (!actions_.contains(id))
             continue;
         updated.append({id, propertiesOf(id, {})});
-        QStringList defaulted = propertyNames();
+        QStringList defaulted = all;
         defaulted.removeIf([&](const QString& name) { return updated.last().properties.contains(name); });
         removed.append({id, defaulted});
     }

@@ -15,7 +15,9 @@
 struct DBusMenuLayout {
     int id = 0;
     QVariantMap properties;
-    QList<DBusMenuLayout> children;
+    QVariantList children; ///< layouts
+
+    static auto fields(auto& self) { return std::tie(self.id, self.properties, self.children); }
 };
 
 /// An item's properties, `(ia{sv})`.
@@ -44,9 +46,6 @@ struct DBusMenuEvent {
     static auto fields(auto& self) { return std::tie(self.id, self.name, self.data, self.timestamp); }
 };
 
-QDBusArgument& operator<<(QDBusArgument& argument, const DBusMenuLayout& layout);
-const QDBusArgument& operator>>(const QDBusArgument& argument, DBusMenuLayout& layout);
-
 /// Shows a QMenu to other programs as `com.canonical.dbusmenu`: texts, shortcuts, separators, check marks.
 /// Item 0 is the menu itself. `QMenu::aboutToShow` is emitted before a menu's items are given away, so that
 /// texts and check marks set there are fresh; what changes later is sent after them. The object does nothing
@@ -61,7 +60,6 @@ class DBusMenu : public QObject, protected QDBusContext {
 
 public:
     explicit DBusMenu(QObject* parent = nullptr);
-    ~DBusMenu() override;
 
     /// The menu stays the caller's; without one the layout is empty.
     void setMenu(QMenu* menu);

@@ -30,8 +30,6 @@ XEmbedTray::XEmbedTray(QObject* parent) : QObject(parent) {
     findOwner();
 }
 
-XEmbedTray::~XEmbedTray() = default;
-
 void XEmbedTray::findOwner() {
     const auto cookie = xcb_get_selection_owner(connection_, selection_);
     const auto answer = X11::owned(xcb_get_selection_owner_reply(connection_, cookie, nullptr));
@@ -49,20 +47,13 @@ bool XEmbedTray::nativeEventFilter(const QByteArray& eventType, void* message, q
     if (eventType != "xcb_generic_event_t")
         return false;
     const auto* const event = static_cast<const xcb_generic_event_t*>(message);
-    bool concernsTray = false;
-    switch (event->response_type & 0x7f) {
-    case XCB_CLIENT_MESSAGE: {
-        const auto* const sent = reinterpret_cast<const xcb_client_message_event_t*>(event);
-        concernsTray = sent->type == manager_ && sent->data.data32[1] == selection_;
-        break;
-    }
-    case XCB_DESTROY_NOTIFY:
-        concernsTray = reinterpret_cast<const xcb_destroy_notify_event_t*>(event)->window == owner_;
-        break;
-    default:
-        break;
-    }
-    if (concernsTray) {
+    const auto* const sent = reinterpret_cast<const xcb_client_message_event_t*>(event);
+    const auto* const destroyed = reinterpret_cast<const xcb_destroy_notify_event_t*>(event);
+    const int type = event->response_type & 0x7f;
+    const bool isNew =
+        type == XCB_CLIENT_MESSAGE && sent->type == manager_ && sent->data.data32[1] == selection_;
+    const bool isGone = type == XCB_DESTROY_NOTIFY && destroyed->window == owner_;
+    if (isNew || isGone) {
         // Later, when Qt has taken note of the event as well.
         QMetaObject::invokeMethod(
             this,

@@ -13,7 +13,6 @@ class XEmbedTray : public QObject, private QAbstractNativeEventFilter {
 
 public:
     explicit XEmbedTray(QObject* parent = nullptr);
-    ~XEmbedTray() override;
 
     bool isThere() const { return owner_ != XCB_NONE; }
 

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/updates/Appcast.h"
 
+#include "platform/updates/FeedFetcher.h"
+
+#include <QRegularExpression>
 #include <QStringDecoder>
 #include <QXmlStreamReader>
 
@@ -9,7 +12,7 @@
 namespace {
 
 constexpr int kDeepestElement = 32;
-constexpr qsizetype kMostItems = 1000;
+constexpr int kMostItems = 1000;
 constexpr qsizetype kLongestTag = 4096;
 constexpr qsizetype kLongestNotes = 65536;
 constexpr qsizetype kLongestLine = 200;
@@ -52,52 +55,25 @@ QString tidyLine(const QString& text, qsizetype longest) {
 
 QUrl securePage(const QString& address) {
     const QString trimmed = address.trimmed();
-    if (trimmed.size() > kLongestAddress)
-        return {};
-    const QUrl url(trimmed);
+    const QUrl url(trimmed.size() > kLongestAddress ? QString() : trimmed);
     // A user name in an address serves only to make its host look like another.
-    return url.isValid() && url.scheme() == u"https" && !url.host().isEmpty() && url.userInfo().isEmpty()
-               ? url
-               : QUrl();
-}
-
-qsizetype endOfTag(QStringView xml, qsizetype from) {
-    QChar quote;
-    for (qsizetype at = from; at < xml.size(); ++at) {
-        const QChar character = xml[at];
-        if (!quote.isNull())
-            quote = character == quote ? QChar() : quote;
-        else if (character == u'"' || character == u'\'')
-            quote = character;
-        else if (character == u'>')
-            return at + 1;
-    }
-    return xml.size();
+    return isSecure(url) && url.userInfo().isEmpty() ? url : QUrl();
 }
 
 /// Whether a tag is longer than any honest feed's. The reader's time grows with the square of the number of a
 /// tag's attributes, so that it must not even see such a tag.
-bool hasOverlongTag(QStringView xml) {
-    struct Section {
-        QStringView start;
-        QStringView end;
-    };
-    static constexpr Section sections[] = {{u"<!--", u"-->"}, {u"<![CDATA[", u"]]>"}, {u"<?", u"?>"}};
-    qsizetype at = xml.indexOf(u'<');
-    while (at >= 0) {
-        const auto section = std::ranges::find_if(
-            sections, [&](const Section& candidate) { return xml.sliced(at).startsWith(candidate.start); });
-        if (section == std::end(sections)) {
-            const qsizetype end = endOfTag(xml, at);
-            if (end - at > kLongestTag)
-                return true;
-            at = xml.indexOf(u'<', end);
-        } else {
-            const qsizetype end = xml.indexOf(section->end, at + section->start.size());
-            at = end < 0 ? -1 : xml.indexOf(u'<', end);
-        }
+bool hasOverlongTag(const QString& xml) {
+    // A comment, a section or an instruction, else a tag; what does not end takes all that follows.
+    static const QRegularExpression markup(
+        QStringLiteral(R"(<!--.*?(?:-->|\z)|<!\[CDATA\[.*?(?:\]\]>|\z)|<\?.*?(?:\?>|\z))"
+                       R"(|(<(?:[^>"']++|"[^"]*+(?:"|\z)|'[^']*+(?:'|\z))*+(?:>|\z)))"),
+        QRegularExpression::DotMatchesEverythingOption);
+    auto found = markup.globalMatch(xml);
+    while (found.hasNext()) {
+        if (found.next().capturedLength(1) > kLongestTag)
+            return true;
     }
-    return false;
+    return !found.isValid(); // it costs more than a match may
 }
 
 /// Walks rss/channel/item. It does not recurse, so that nesting costs no stack.
@@ -105,13 +81,13 @@ class FeedReader {
 public:
     explicit FeedReader(const QString& feed) : xml_(feed) {}
 
-    std::optional<QList<AppcastItem>> read(QString* error) {
+    std::optional<AppcastItem> newest(QString* error) {
         while (!xml_.atEnd())
             takeToken(xml_.readNext());
-        if (!xml_.hasError() && items_.isEmpty())
+        if (!xml_.hasError() && !newest_)
             xml_.raiseError(QStringLiteral("it offers no version"));
         if (!xml_.hasError())
-            return items_;
+            return newest_;
         *error = QStringLiteral("line %1: %2").arg(xml_.lineNumber()).arg(xml_.errorString());
         return std::nullopt;
     }
@@ -194,21 +170,24 @@ private:
     }
 
     void endItem() {
-        if (items_.size() == kMostItems)
-            return xml_.raiseError(QStringLiteral("it has too many items"));
         const Fields fields = *std::exchange(item_, std::nullopt);
         if (!isBuildNumber(fields.build))
             return;
+        if (++count_ > kMostItems)
+            return xml_.raiseError(QStringLiteral("it has too many items"));
+        if (newest_ && compareBuildNumbers(fields.build, newest_->build) <= 0)
+            return;
         const QString version = tidyLine(fields.version, kLongestVersion);
-        items_.append({.title = tidyLine(fields.title, kLongestLine),
-                       .notes = fields.notes.trimmed(),
-                       .build = fields.build,
-                       .version = version.isEmpty() ? fields.build : version,
-                       .page = securePage(fields.link)});
+        newest_ = {.title = tidyLine(fields.title, kLongestLine),
+                   .notes = fields.notes.trimmed(),
+                   .build = fields.build,
+                   .version = version.isEmpty() ? fields.build : version,
+                   .page = securePage(fields.link)};
     }
 
     QXmlStreamReader xml_;
-    QList<AppcastItem> items_;
+    std::optional<AppcastItem> newest_;
+    int count_ = 0;
     std::optional<Fields> item_;
     QString* text_ = nullptr;
     int depth_ = 0;
@@ -229,7 +208,7 @@ std::strong_ordering compareBuildNumbers(QStringView left, QStringView right) {
     return std::strong_ordering::equal;
 }
 
-std::optional<Appcast> Appcast::read(const QByteArray& feed, QString* error) {
+std::optional<AppcastItem> newestItem(const QByteArray& feed, QString* error) {
     // Decoded here, so that no declared encoding lets the check and the reader see two different texts.
     QStringDecoder decoder(QStringDecoder::Utf8);
     const QString text = decoder(feed);
@@ -241,12 +220,5 @@ std::optional<Appcast> Appcast::read(const QByteArray& feed, QString* error) {
         *error = QStringLiteral("it has an overlong tag");
         return std::nullopt;
     }
-    auto items = FeedReader(text).read(error);
-    return items ? std::optional(Appcast(std::move(*items))) : std::nullopt;
-}
-
-const AppcastItem& Appcast::newest() const {
-    return *std::ranges::max_element(items_, [](const AppcastItem& left, const AppcastItem& right) {
-        return compareBuildNumbers(left.build, right.build) < 0;
-    });
+    return FeedReader(text).newest(error);
 }

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QByteArray>
-#include <QList>
 #include <QString>
 #include <QUrl>
 
@@ -23,23 +22,8 @@ struct AppcastItem {
     QUrl page;       ///< where to get it, https; empty when the feed gives no such address
 };
 
-/// The feed: RSS whose items carry a build and a version on their enclosure, in whichever namespace. It is
-/// never trusted.
-class Appcast {
-public:
-    /// The versions in `feed` (UTF-8); nothing, with the reason in `error`, when it is no such feed, declares
-    /// a document type, goes beyond the limits of an honest feed or offers no version at all. An item without
-    /// a usable build number is passed over.
-    static std::optional<Appcast> read(const QByteArray& feed, QString* error);
-
-    /// In the feed's order, never empty.
-    const QList<AppcastItem>& items() const { return items_; }
-
-    /// The item with the latest build number, wherever in the feed it stands.
-    const AppcastItem& newest() const;
-
-private:
-    explicit Appcast(QList<AppcastItem> items) : items_(std::move(items)) {}
-
-    QList<AppcastItem> items_;
-};
+/// The item with the latest build number in `feed` (UTF-8), wherever it stands; nothing, with the reason in
+/// `error`, when there is none. The feed is RSS whose items carry a build and a version on their enclosure,
+/// in whichever namespace. It is never trusted: what is no such feed, declares a document type or goes beyond
+/// the limits of an honest feed is refused, and an item without a usable build number is passed over.
+std::optional<AppcastItem> newestItem(const QByteArray& feed, QString* error);

@@ -30,9 +30,9 @@ QString programName() {
     return Bundle::main().infoString(QStringLiteral("CFBundleName"));
 }
 
-QIcon programIcon(QStyle::StandardPixmap otherwise) {
+QIcon programIcon() {
     const QIcon icon = QApplication::windowIcon();
-    return icon.isNull() ? QApplication::style()->standardIcon(otherwise) : icon;
+    return icon.isNull() ? QApplication::style()->standardIcon(QStyle::SP_MessageBoxInformation) : icon;
 }
 
 /// One for each FetchFailure, in their order.
@@ -92,7 +92,7 @@ UpdateAlert::UpdateAlert(const QIcon& icon, const QString& headline, const QStri
 
 UpdateAlert* UpdateAlert::updateAvailable(const AppcastItem& item, const QString& currentVersion) {
     auto* alert = new UpdateAlert(
-        programIcon(QStyle::SP_MessageBoxInformation),
+        programIcon(),
         localized(QT_TRANSLATE_NOOP("Lumivane", "A new version of %1 is available!")).arg(programName()),
         localized(QT_TRANSLATE_NOOP("Lumivane", "%1 %2 is now available (you have %3)."))
             .arg(programName(), item.version, currentVersion));
@@ -121,8 +121,7 @@ UpdateAlert* UpdateAlert::updateAvailable(const AppcastItem& item, const QString
 
 UpdateAlert* UpdateAlert::upToDate(const QString& currentVersion) {
     auto* alert = new UpdateAlert(
-        programIcon(QStyle::SP_MessageBoxInformation),
-        localized(QT_TRANSLATE_NOOP("Lumivane", "You're up to date!")),
+        programIcon(), localized(QT_TRANSLATE_NOOP("Lumivane", "You're up to date!")),
         localized(QT_TRANSLATE_NOOP("Lumivane", "%1 %2 is currently the newest version available."))
             .arg(programName(), currentVersion));
     alert->buttons_->addButton(QDialogButtonBox::Ok);

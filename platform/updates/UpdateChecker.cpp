@@ -34,11 +34,7 @@ void bringForward(QWidget* window) {
 
 } // namespace
 
-UpdateChecker::UpdateChecker(QObject* parent) : UpdateChecker(UpdateCheckerTiming(), parent) {
-}
-
-UpdateChecker::UpdateChecker(const UpdateCheckerTiming& timing, QObject* parent)
-    : QObject(parent), timing_(timing) {
+UpdateChecker::UpdateChecker(const UpdateCheckerTiming& timing) : timing_(timing) {
     sinceStart_.start();
     timer_.setSingleShot(true);
     connect(&timer_, &QTimer::timeout, this, &UpdateChecker::timerFired);
@@ -115,8 +111,6 @@ void UpdateChecker::startCheck() {
 QUrl UpdateChecker::completeFeedURL() {
     const QList<FeedParameter> parameters =
         delegate_ ? delegate_->feedParametersForUpdater(this, false) : QList<FeedParameter>();
-    if (parameters.isEmpty())
-        return feedURL_;
     QUrl url = feedURL_;
     QString query = url.query(QUrl::FullyEncoded);
     for (const FeedParameter& parameter : parameters) {
@@ -159,15 +153,14 @@ void UpdateChecker::endCheck() {
 void UpdateChecker::feedFetched(const QByteArray& feed) {
     endCheck();
     QString error;
-    const std::optional<Appcast> appcast = Appcast::read(feed, &error);
-    if (!appcast)
+    const std::optional<AppcastItem> newest = newestItem(feed, &error);
+    if (!newest)
         return checkFailed(FetchFailure::Unusable, error);
-    const AppcastItem& newest = appcast->newest();
-    const bool isNewer = compareBuildNumbers(newest.build, runningBuild()) > 0;
+    const bool isNewer = compareBuildNumbers(newest->build, runningBuild()) > 0;
     const QString skipped = Preferences::standard()->value(SUSkippedVersionKey);
-    const bool isSkipped = !skipped.isEmpty() && compareBuildNumbers(newest.build, skipped) == 0;
+    const bool isSkipped = !skipped.isEmpty() && compareBuildNumbers(newest->build, skipped) == 0;
     if (isNewer && (asked_ || !isSkipped))
-        offer(newest);
+        offer(*newest);
     else if (asked_)
         answer(UpdateAlert::upToDate(runningVersion()));
     schedule();

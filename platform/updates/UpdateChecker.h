@@ -69,8 +69,7 @@ class UpdateChecker : public QObject {
     Q_OBJECT
 
 public:
-    explicit UpdateChecker(QObject* parent = nullptr);
-    explicit UpdateChecker(const UpdateCheckerTiming& timing, QObject* parent = nullptr);
+    explicit UpdateChecker(const UpdateCheckerTiming& timing = {});
     ~UpdateChecker() override;
 
     /// Where the feed is, and from now on checks by itself. Nothing but https is ever asked: with an empty or

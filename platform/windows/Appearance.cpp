@@ -4,7 +4,6 @@
 #include "platform/windows/SwayPlacement.h"
 
 #include <QApplication>
-#include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
@@ -64,8 +63,7 @@ private Q_SLOTS:
     void settingChanged(const QDBusMessage& change);
 
 private:
-    void askForAll();
-    void ask(const Setting& setting);
+    void ask();
     void follow(const Setting& setting, QVariant value);
 
     QDBusConnection bus_;
@@ -78,27 +76,24 @@ Follower::Follower(QObject* owner, const QDBusConnection& bus) : QObject(owner),
                  SLOT(settingChanged(QDBusMessage)));
     const auto* const portal =
         new QDBusServiceWatcher(kPortal, bus_, QDBusServiceWatcher::WatchForRegistration, this);
-    connect(portal, &QDBusServiceWatcher::serviceRegistered, this, &Follower::askForAll);
-    askForAll();
+    connect(portal, &QDBusServiceWatcher::serviceRegistered, this, &Follower::ask);
+    ask();
 }
 
-void Follower::askForAll() {
-    ask(kColorScheme);
-    ask(kAnimations);
-}
-
-void Follower::ask(const Setting& setting) {
-    QDBusMessage question =
-        QDBusMessage::createMethodCall(kPortal, kPortalPath, kSettings, QStringLiteral("Read"));
-    question.setArguments({setting.group, setting.key});
-    // A session that has started no portal has no use for one on our account.
-    question.setAutoStartService(false);
-    auto* const answer = new QDBusPendingCallWatcher(bus_.asyncCall(question), this);
-    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, setting, answer] {
-        answer->deleteLater();
-        if (const QDBusPendingReply<QDBusVariant> reply = *answer; reply.isValid())
-            follow(setting, reply.value().variant());
-    });
+void Follower::ask() {
+    for (const Setting& setting : {kColorScheme, kAnimations}) {
+        QDBusMessage question =
+            QDBusMessage::createMethodCall(kPortal, kPortalPath, kSettings, QStringLiteral("Read"));
+        question.setArguments({setting.group, setting.key});
+        // A session that has started no portal has no use for one on our account.
+        question.setAutoStartService(false);
+        auto* const answer = new QDBusPendingCallWatcher(bus_.asyncCall(question), this);
+        connect(answer, &QDBusPendingCallWatcher::finished, this, [this, setting, answer] {
+            answer->deleteLater();
+            if (const QDBusPendingReply<QDBusVariant> reply = *answer; reply.isValid())
+                follow(setting, reply.value().variant());
+        });
+    }
 }
 
 void Follower::settingChanged(const QDBusMessage& change) {
@@ -124,10 +119,6 @@ void Follower::follow(const Setting& setting, QVariant value) {
 }
 
 } // namespace
-
-void Appearance::followDesktop(QObject* owner) {
-    followDesktop(owner, QDBusConnection::sessionBus());
-}
 
 void Appearance::followDesktop(QObject* owner, const QDBusConnection& bus) {
     new Follower(owner, bus);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/windows/LayerShell.h"
 
+#ifdef LUMIVANE_LAYER_SHELL
+
 #include "platform/windows/SwayPlacement.h"
 
 #include <QGuiApplication>
@@ -8,8 +10,6 @@
 #include <QScreen>
 #include <QWidget>
 #include <QWindow>
-
-#ifdef LUMIVANE_LAYER_SHELL
 
 #include <LayerShellQt/Window>
 #include <wayland-client.h>
@@ -35,14 +35,6 @@ Layer* layerOf(QWidget* window) {
     return layer;
 }
 
-void notice(void* isThere, wl_registry*, std::uint32_t, const char* interface, std::uint32_t) {
-    if (interface == std::string_view("zwlr_layer_shell_v1"))
-        *static_cast<bool*>(isThere) = true;
-}
-
-void overlook(void*, wl_registry*, std::uint32_t) {
-}
-
 bool askCompositor() {
     // A connection that was handed down is for one use, and that is Qt's.
     if (qEnvironmentVariableIsSet("WAYLAND_SOCKET"))
@@ -51,7 +43,13 @@ bool askCompositor() {
                                                                                 &wl_display_disconnect);
     if (!display)
         return false;
-    constexpr wl_registry_listener kListener{.global = notice, .global_remove = overlook};
+    constexpr wl_registry_listener kListener{
+        .global =
+            [](void* isThere, wl_registry*, std::uint32_t, const char* interface, std::uint32_t) {
+                if (interface == std::string_view("zwlr_layer_shell_v1"))
+                    *static_cast<bool*>(isThere) = true;
+            },
+        .global_remove = [](void*, wl_registry*, std::uint32_t) {}};
     bool isThere = false;
     const std::unique_ptr<wl_registry, decltype(&wl_registry_destroy)> registry(
         wl_display_get_registry(display.get()), &wl_registry_destroy);
@@ -110,25 +108,6 @@ void LayerShell::placeOver(QWidget* sheet, const QWidget* window) {
     const bool isAtRight = below->anchors().testFlag(Layer::AnchorRight);
     layer->setMargins({isAtRight ? 0 : inside(margins.left()), margins.top(),
                        isAtRight ? inside(margins.right()) : 0, margins.bottom()});
-}
-
-#else
-
-bool LayerShell::isOffered() {
-    return false;
-}
-
-bool LayerShell::isUsed() {
-    return false;
-}
-
-void LayerShell::place(QWidget*, const QRect&, const QRect&, QScreen*) {
-}
-
-void LayerShell::takeInput(QWidget*) {
-}
-
-void LayerShell::placeOver(QWidget*, const QWidget*) {
 }
 
 #endif

@@ -67,11 +67,10 @@ QRect withoutStruts(xcb_connection_t* connection, const QScreen* screen) {
     const QRect native = Screen::without(struts(connection, root, QSize(desktop->width, desktop->height)),
                                          QRect(origin, whole.size() * scale))
                              .translated(-origin);
-    const auto inside = [scale](int edge, auto round) { return static_cast<int>(round(edge / scale)); };
-    const auto up = [](qreal number) { return std::ceil(number); };
-    const auto down = [](qreal number) { return std::floor(number); };
-    return QRect(QPoint(inside(native.left(), up), inside(native.top(), up)),
-                 QPoint(inside(native.right() + 1, down) - 1, inside(native.bottom() + 1, down) - 1))
+    const auto up = [scale](int edge) { return static_cast<int>(std::ceil(edge / scale)); };
+    const auto down = [scale](int edge) { return static_cast<int>(std::floor(edge / scale)); };
+    return QRect(QPoint(up(native.left()), up(native.top())),
+                 QPoint(down(native.right() + 1) - 1, down(native.bottom() + 1) - 1))
         .translated(origin);
 }
 

@@ -12,14 +12,11 @@
 #include <QWidget>
 
 #include <algorithm>
-#include <cerrno>
 #include <chrono>
 #include <cstring>
 
-#include <sys/socket.h>
-#include <sys/time.h>
-#include <sys/un.h>
-#include <unistd.h>
+#include <gio/gio.h>
+#include <gio/gunixsocketaddress.h>
 
 namespace {
 
@@ -32,7 +29,7 @@ constexpr quint32 kRunCommand = 0;
 constexpr quint32 kGetTree = 4;
 /// No tree is longer; the rest of a stream that is none of Sway's would be waited for in vain.
 constexpr quint32 kLongestPayload = 64U << 20;
-constexpr timeval kAnswerPatience{.tv_sec = 1, .tv_usec = 0};
+constexpr guint kAnswerPatience = 1; // seconds
 
 constexpr std::chrono::milliseconds kLook{10};
 constexpr int kMostLooks = 200;
@@ -43,58 +40,38 @@ QByteArray bytesOf(quint32 number) {
     return {reinterpret_cast<const char*>(&number), sizeof number};
 }
 
-/// A stream to a local server. Not Qt's: that comes with all of its network library, which nothing else needs
-/// here.
-class Socket {
-public:
-    Socket() : descriptor_(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
-        for (const int direction : {SO_RCVTIMEO, SO_SNDTIMEO})
-            setsockopt(descriptor_, SOL_SOCKET, direction, &kAnswerPatience, sizeof kAnswerPatience);
-    }
-    ~Socket() { close(descriptor_); }
-    Socket(const Socket&) = delete;
-    Socket& operator=(const Socket&) = delete;
-
-    /// Whether the server is reached and `message` goes out; else errno tells why.
-    bool send(const QByteArray& path, const QByteArray& message) const {
-        sockaddr_un address{.sun_family = AF_UNIX, .sun_path = {}};
-        if (static_cast<std::size_t>(path.size()) >= sizeof address.sun_path) {
-            errno = ENAMETOOLONG;
-            return false;
-        }
-        std::ranges::copy(path, std::begin(address.sun_path));
-        return connect(descriptor_, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0 &&
-               ::send(descriptor_, message.data(), static_cast<std::size_t>(message.size()), MSG_NOSIGNAL) ==
-                   message.size();
-    }
-
-    /// So many bytes, or nothing.
-    QByteArray receive(qsizetype size) const {
-        QByteArray bytes(size, '\0');
-        return recv(descriptor_, bytes.data(), static_cast<std::size_t>(size), MSG_WAITALL) == size
-                   ? bytes
-                   : QByteArray();
-    }
-
-private:
-    int descriptor_;
-};
+/// So many bytes, or nothing.
+QByteArray receive(GIOStream* stream, qsizetype size, GError** error) {
+    QByteArray bytes(size, '\0');
+    gsize read = 0;
+    g_input_stream_read_all(g_io_stream_get_input_stream(stream), bytes.data(), static_cast<gsize>(size),
+                            &read, nullptr, error);
+    return read == static_cast<gsize>(size) ? bytes : QByteArray();
+}
 
 /// Sway's answer, for which the program waits: it comes within milliseconds. Where there is none, an empty
-/// one, and errno tells why.
-QJsonDocument ask(quint32 type, const QString& payload = {}) {
+/// one, and the reason in `error`, if it is known. Not by Qt's sockets, which come with all of its network
+/// library.
+QJsonDocument ask(quint32 type, const QString& payload, GError** error) {
     const QByteArray bytes = payload.toUtf8();
-    const Socket socket;
-    errno = 0;
-    if (!socket.send(qgetenv(kSocketVariable),
-                     kMark + bytesOf(static_cast<quint32>(bytes.size())) + bytesOf(type) + bytes))
+    const QByteArray message = kMark + bytesOf(static_cast<quint32>(bytes.size())) + bytesOf(type) + bytes;
+    g_autoptr(GSocketClient) client = g_socket_client_new();
+    g_socket_client_set_timeout(client, kAnswerPatience);
+    g_socket_client_set_enable_proxy(client, FALSE);
+    g_autoptr(GSocketAddress) address = g_unix_socket_address_new(qgetenv(kSocketVariable).constData());
+    g_autoptr(GSocketConnection) connection =
+        g_socket_client_connect(client, G_SOCKET_CONNECTABLE(address), nullptr, error);
+    auto* const stream = reinterpret_cast<GIOStream*>(connection);
+    if (!stream || !g_output_stream_write_all(g_io_stream_get_output_stream(stream), message.constData(),
+                                              static_cast<gsize>(message.size()), nullptr, nullptr, error))
         return {};
     quint32 length = 0;
-    const QByteArray header = socket.receive(kMark.size() + 2 * qsizetype{sizeof length});
+    const QByteArray header = receive(stream, kMark.size() + 2 * qsizetype{sizeof length}, error);
     if (!header.startsWith(kMark))
         return {};
     std::memcpy(&length, header.constData() + kMark.size(), sizeof length);
-    return length > kLongestPayload ? QJsonDocument() : QJsonDocument::fromJson(socket.receive(length));
+    return length > kLongestPayload ? QJsonDocument()
+                                    : QJsonDocument::fromJson(receive(stream, length, error));
 }
 
 QRect rectangleOf(const QJsonObject& node) {
@@ -110,8 +87,8 @@ struct Found {
 };
 
 /// This process's floating window of that title.
-std::optional<Found> windowIn(const QJsonObject& tree, const QString& title) {
-    const QJsonArray outputs = tree[u"nodes"].toArray();
+std::optional<Found> windowNamed(const QString& title) {
+    const QJsonArray outputs = ask(kGetTree, {}, nullptr)[u"nodes"].toArray();
     for (const auto& output : outputs) {
         const QJsonArray workspaces = output[u"nodes"].toArray();
         for (const auto& workspace : workspaces) {
@@ -181,7 +158,7 @@ void SwayPlacement::place() {
 
 /// Looks whether the window has come up, and places it if so.
 void SwayPlacement::findWindow() {
-    auto found = windowIn(ask(kGetTree).object(), window_->windowTitle());
+    auto found = windowNamed(window_->windowTitle());
     if (!found) {
         if (++looks_ == kMostLooks)
             giveUp(QStringLiteral("it does not show the window"));
@@ -192,7 +169,7 @@ void SwayPlacement::findWindow() {
     // This also tells where the pointer is.
     if (!run(QStringLiteral("[con_id=%1] move position pointer").arg(identifier_)))
         return;
-    found = windowIn(ask(kGetTree).object(), window_->windowTitle());
+    found = windowNamed(window_->windowTitle());
     if (!found)
         return;
     surroundings_ = surroundingsOf(*found, window_->height());
@@ -210,11 +187,14 @@ void SwayPlacement::move() {
 
 /// Whether Sway obeys; else what it says is logged.
 bool SwayPlacement::run(const QString& command) {
-    const QJsonDocument answer = ask(kRunCommand, command);
+    g_autoptr(GError) error = nullptr;
+    const QJsonDocument answer = ask(kRunCommand, command, &error);
     if (answer[0][u"success"].toBool())
         return true;
     const QString said = answer[0][u"error"].toString();
-    giveUp(!said.isEmpty() ? said : errno ? qt_error_string() : QStringLiteral("its answer is none"));
+    giveUp(!said.isEmpty() ? said
+           : error         ? QString::fromUtf8(error->message)
+                           : QStringLiteral("its answer is none"));
     return false;
 }
 

@@ -36,8 +36,8 @@ protected:
     QList<DBusMenuItemKeys> removedKeys;
 };
 
-QVariant property(const DBusMenuLayout& item, const char* name) {
-    return item.properties.value(QString::fromLatin1(name));
+QVariant property(const QVariant& item, const char* name) {
+    return item.value<DBusMenuLayout>().properties.value(QString::fromLatin1(name));
 }
 
 } // namespace
@@ -62,8 +62,8 @@ TEST_F(DBusMenuTest, GivesTheWholeMenu) {
     EXPECT_EQ(property(root.children[2], "toggle-state"), 0);
     EXPECT_EQ(property(root.children[2], "visible"), false);
     EXPECT_TRUE(layout(0, 0).children.isEmpty());
-    EXPECT_EQ(layout(0, 1, {QStringLiteral("label")}).children[0].properties.keys(),
-              QStringList{QStringLiteral("label")});
+    const QVariant named = layout(0, 1, {QStringLiteral("label")}).children[0];
+    EXPECT_EQ(named.value<DBusMenuLayout>().properties.keys(), QStringList{QStringLiteral("label")});
 }
 
 TEST_F(DBusMenuTest, IsFreshWhenItIsGivenAndDoesNotAskToBeReadAgainForThat) {
@@ -109,7 +109,7 @@ TEST_F(DBusMenuTest, OutlivesItsMenu) {
     auto gone = std::make_unique<QMenu>();
     gone->addAction(QStringLiteral("Item"));
     exported.setMenu(gone.get());
-    const int id = layout().children.value(0).id;
+    const int id = layout().children.value(0).value<DBusMenuLayout>().id;
     gone.reset();
     EXPECT_TRUE(layout().children.isEmpty());
     EXPECT_EQ(exported.EventGroup({{id, QStringLiteral("clicked"), {}, 0}}), QList<int>{id});
@@ -138,7 +138,7 @@ TEST_F(DBusMenuTest, TriggersActionsOverTheBusOnceTheHostHasItsAnswer) {
     EXPECT_EQ(layoutAnswer.signature(), QStringLiteral("u(ia{sv}av)"));
     const auto root = qdbus_cast<DBusMenuLayout>(layoutAnswer.arguments().value(1));
     ASSERT_EQ(root.children.size(), 1);
-    const int id = root.children[0].id;
+    const int id = qdbus_cast<DBusMenuLayout>(root.children[0]).id;
 
     const QVariant nothing = QVariant::fromValue(QDBusVariant(0));
     click.emplace(PrivateBus::send(host, program.baseService(), path, interface, QStringLiteral("Event"),

@@ -10,17 +10,14 @@ namespace {
 /// The newest item of a feed; the reason why there is none as its title.
 AppcastItem newestOf(const QByteArray& feed) {
     QString error;
-    const auto appcast = Appcast::read(feed, &error);
-    EXPECT_EQ(appcast.has_value(), error.isEmpty());
-    AppcastItem newest = appcast ? appcast->newest() : AppcastItem();
-    if (!appcast)
-        newest.title = error;
-    return newest;
+    const auto newest = newestItem(feed, &error);
+    EXPECT_EQ(newest.has_value(), error.isEmpty());
+    return newest.value_or(AppcastItem{error, {}, {}, {}, {}});
 }
 
 bool isRead(const QByteArray& feed) {
     QString error;
-    return Appcast::read(feed, &error).has_value();
+    return newestItem(feed, &error).has_value();
 }
 
 QByteArray inItem(const QByteArray& children) {
