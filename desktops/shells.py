@@ -189,8 +189,10 @@ class Plasma(Shell):
         "battery", "keyboardlayout", "manage-inputmethod", "mediacontroller", "devicenotifier", "clipboard",
         "notifications"))]
 
+    release = "6" if shutil.which("kded6") else "5"
+
     def start_display(self, size):
-        os.environ.update(KDE_FULL_SESSION="true", KDE_SESSION_VERSION="5", KWIN_COMPOSE="Q")
+        os.environ.update(KDE_FULL_SESSION="true", KDE_SESSION_VERSION=self.release, KWIN_COMPOSE="Q")
         place = "formfactor=2\nlocation=4\nlastScreen=0"
         self.write("config/plasma-org.kde.plasma.desktop-appletsrc", "".join(
             "[Containments][%s]\n%s\n" % part for part in (
@@ -207,10 +209,11 @@ class Plasma(Shell):
         self.spawn(["kwin_x11"])
 
     def start_panel(self, edge):
-        self.spawn(["kded5"], env=dict(os.environ, **self.session))
-        wait_for("the watcher", lambda: self.bus_has("org.kde.kded5") and self.call(
-            "org.kde.kded5", "/kded", "org.kde.kded5", "loadModule",
-            GLib.Variant("(s)", ("statusnotifierwatcher",))).unpack()[0], PATIENCE)
+        kded = "kded" + self.release
+        self.spawn([kded], env=dict(os.environ, **self.session))
+        name = "org.kde." + kded
+        wait_for("the watcher", lambda: self.bus_has(name) and self.call(
+            name, "/kded", name, "loadModule", GLib.Variant("(s)", ("statusnotifierwatcher",))).unpack()[0], PATIENCE)
         self.run_panel()
 
 
