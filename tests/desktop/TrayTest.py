@@ -2,27 +2,20 @@
 # SPDX-License-Identifier: MIT
 """Desktops without a tray, and trays that come late."""
 
-import os
 import pathlib
 import subprocess
-import sys
 import time
 import unittest
 
+from cases import PROGRAM, DesktopCase
 from desktop import Desktop, wait_for
 
-PROGRAM = os.path.abspath(sys.argv.pop(1))
 
-
-class TrayTest(unittest.TestCase):
+class TrayTest(DesktopCase):
     # In the order of their names: the tray comes with the second.
     @classmethod
-    def setUpClass(cls):
-        cls.desktop = Desktop(tray=False)
-        cls.addClassCleanup(cls.desktop.close)
-
-    def tearDown(self):
-        self.desktop.stop()
+    def make_desktop(cls):
+        return Desktop(tray=False)
 
     def test_a_without_a_tray(self):
         desktop = self.desktop
