@@ -1,11 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/ui/LumivaneStatusItem.h"
 
-#include "app/ui/LumivaneWindow.h"
-
 #include <gtest/gtest.h>
-
-#include <tuple>
 
 namespace {
 
@@ -58,19 +54,4 @@ TEST(LumivaneStatusItemTest, WithoutAKnownIconItOpensInTheTraysCorner) {
     for (const int y : {0, 452})
         EXPECT_EQ(frame(QRect(290, y, 28, 28), QRect(0, 0, 320, 480), {0, 28, 0, 0}).topLeft(), QPoint(0, 28))
             << y;
-}
-
-TEST(LumivaneStatusItemTest, ADialogGoesBesideTheDropDown) {
-    const QRect available(0, 28, 1024, 740);
-    const QRect atRight(634, 28, 390, 650);
-    using Row = std::tuple<QRect, int, int>;
-    for (const auto& [panel, width, x] :
-         {Row{atRight, 540, 47}, Row{atRight, 700, 0}, Row{atRight.translated(-634, 0), 540, 437},
-          Row{atRight.translated(-634, 0), 700, 324}}) {
-        const QRect dialog(LumivaneWindow::besidePanel(panel, QSize(width, 380), 200, available),
-                           QSize(width, 380));
-        EXPECT_EQ(dialog.topLeft(), QPoint(x, 200));
-        EXPECT_TRUE(available.contains(dialog));
-        EXPECT_EQ(dialog.intersects(panel), width > 634);
-    }
 }
