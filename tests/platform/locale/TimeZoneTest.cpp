@@ -4,9 +4,6 @@
 #include "tests/TestMain.h"
 
 #include <QFile>
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 
 #include <ctime>
 
