@@ -28,30 +28,26 @@ public:
                                  "export PATH=/usr/bin:/bin\n"
                                  "output=$(readlink /proc/$$/fd/1)\n"
                                  "cd '%1/starts'\n"
-                                 "{ cut -d' ' -f6 /proc/$$/stat; echo $output; env; } > $$.env\n"
-                                 "printf '%s\\n' \"$@\" > $$.part\n"
-                                 "mv $$.part %2.$$\n"_s.arg(programs(), name)
+                                 "{ cut -d' ' -f6 /proc/$$/stat; echo $output; env; } > env\n"
+                                 "printf '%s\\n' \"$*\" >> %2\n"_s.arg(programs(), name)
                                      .toUtf8());
         QFile::setPermissions(program(name), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     }
 
     /// The arguments of each start of a program since the last call, a line each; waits for the first.
     std::string starts(const char* name) const {
-        const QDir folder(program(u"starts"_s));
-        const QString prefix = QLatin1String(name) + u'.';
-        const auto files = [&] { return folder.entryList({prefix + u'*'}); };
-        waitFor([&] { return !files().isEmpty(); });
-        QStringList all;
-        for (const QString& file : files()) {
-            all.append(linesOf(folder.filePath(file)).join(u' '));
-            QFile::remove(folder.filePath(file));
-            lastPid_ = file.mid(prefix.size());
-        }
-        return all.join(u'\n').toStdString();
+        const QString file = program(u"starts/"_s + QLatin1String(name));
+        if (!waitFor([&] { return QFileInfo(file).size() > 0; }))
+            return "none";
+        const QByteArray lines = readFile(file);
+        QFile::remove(file);
+        return lines.trimmed().toStdString();
     }
 
-    /// The session, the output and the environment of the start that `starts` found last.
-    QStringList surroundings() const { return linesOf(program(u"starts/%1.env"_s.arg(lastPid_))); }
+    /// The session, the output and the environment of the last start.
+    QStringList surroundings() const {
+        return QString::fromUtf8(readFile(program(u"starts/env"_s))).split(u'\n', Qt::SkipEmptyParts);
+    }
 
 private:
     FakeDesktop() : folder_(QDir::tempPath() + u"/moon $HOME XXXXXX"_s) {
@@ -72,10 +68,5 @@ private:
         EXPECT_TRUE(waitFor([] { return DefaultApplications::forScheme(u"mailto"_s).has_value(); }));
     }
 
-    static QStringList linesOf(const QString& path) {
-        return QString::fromUtf8(readFile(path)).split(u'\n', Qt::SkipEmptyParts);
-    }
-
     QTemporaryDir folder_;
-    mutable QString lastPid_;
 };

@@ -51,8 +51,7 @@ TEST_F(PanelModelTest, EveryMoveStopsAtTheTablesEnds) {
     const Clock::Hold present(gmt(2026, 7, 1));
     const std::int64_t first = firstMoment();
     const std::int64_t last = lastMoment();
-    for (const Zone& zone :
-         {Zone{1, 0}, {2, 0}, {3, 12.75F}, {3, -3.75F}, {3, 1000.0F}, {3, -1e6F}, {3, 3e38F}}) {
+    for (const Zone& zone : {Zone{1, 0}, {2, 0}, {3, 12.75F}, {3, 1000.0F}, {3, -1e6F}, {3, 3e38F}}) {
         SCOPED_TRACE(zone.hours);
         use(zone);
         const auto expectAfter = [this](auto move, auto value, std::int64_t moment) {

@@ -42,6 +42,9 @@ TEST(QuartersTest, QuartersMeetAtTheirInstants) {
         EXPECT_NE(Quarters::latest(instant - 1), quarter);
     }
     EXPECT_EQ(Quarters::next(0), std::nullopt);
+    const Clock::Hold present(
+        QDateTime::fromSecsSinceEpoch(lunation->fullMoon + ExtraDateUtilities::kReferenceInstant + 3 * 3600));
+    EXPECT_EQ(Quarters::distance(lunation->fullMoon), u"3 hours ago");
 }
 
 TEST(QuartersTest, EachQuarterIsToldOnceAndWhileItIsNews) {

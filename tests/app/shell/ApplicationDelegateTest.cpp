@@ -27,11 +27,10 @@ TEST_F(ApplicationDelegateTest, APersonsFirstStartReadsTheDefaults) {
     defaults->set(SUAllowsAutomaticUpdatesKey, true);
     defaults->set(SUAutomaticallyUpdateKey, true);
     const ApplicationDelegate delegate;
-    for (const auto& [name, number] : {std::pair{"LVTimeZoneType", 2.0},
-                                       {"LVLatitude", 40.714},
-                                       {"LVLongitude", -74.006},
-                                       {"LVBrightness", 0.5},
-                                       {"SUScheduledCheckInterval", 604800}})
+    using Row = std::pair<const char*, double>;
+    for (const auto& [name, number] :
+         {Row{"LVTimeZoneType", 2.0}, Row{"LVLatitude", 40.714}, Row{"LVLongitude", -74.006},
+          Row{"LVBrightness", 0.5}, Row{"SUScheduledCheckInterval", 604800}})
         EXPECT_NEAR(defaults->floatForKey(QLatin1String(name)), number, 0.001) << name;
     for (const char* name : {"LVMoonDisclosure", "LVSettingsDisclosure", "SUEnableAutomaticChecks"})
         EXPECT_TRUE(defaults->boolForKey(QLatin1String(name))) << name;

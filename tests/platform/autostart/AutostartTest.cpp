@@ -26,19 +26,15 @@ QByteArray application(const QByteArray& exec, const QByteArray& more = {}) {
     return "[Desktop Entry]\nType=Application\nName=Some\nExec=" + exec + '\n' + more;
 }
 
-/// Names that a shell, a desktop entry, a keyfile or a terminal would take for something else.
-const QString kHostileNames[] = {
-    u"my \"quoted\" app %f Möon"_s,  u"$HOME `id` $(id) ; & | > <"_s, u"back\\slash \\n \\\\ end\\"_s,
-    u"new\nline\tand\rtab"_s,        u" blanks at both ends "_s,      u"Hidden=true"_s,
-    u"it's #1 (x) * ? ~ 100%% %U"_s,
-};
-
 } // namespace
 
 TEST_F(AutostartTest, WhatIsAddedIsListedAndLaunchedByGLib) {
     const QString result = path(u"result"_s);
     QStringList added;
-    for (const QString& name : kHostileNames) {
+    // Names that a shell, a desktop entry, a keyfile or a terminal would take for something else.
+    for (const QString& name :
+         {u"my \"quoted\" app %f Möon"_s, u"$HOME `id` $(id) ; & | > <"_s, u"back\\slash \\n \\\\ end\\"_s,
+          u"new\nline\tand\rtab"_s, u" blanks at both ends "_s, u"it's #1 (x) * ? ~ 100%% %U"_s}) {
         added.append(makeProgram(u"programs/"_s + name,
                                  "#!/bin/sh\nprintf '%s|%s' \"$0\" $# > '" + result.toUtf8() + "'\n"));
         ASSERT_EQ(Autostart::append(added.constLast(), false), std::error_code()) << qPrintable(name);
@@ -122,13 +118,12 @@ TEST_F(AutostartTest, OthersEntriesAreReadAndKeptAndTheOrderIsTheOneOfAdding) {
 }
 
 TEST_F(AutostartTest, WhatTheDesktopDoesNotStartIsNoLoginItem) {
-    for (const auto& [file, keys] : {std::pair{u"off1.desktop"_s, "Hidden=true"},
-                                     {u"off2.desktop"_s, "X-GNOME-Autostart-enabled=false"},
-                                     {u"off3.desktop"_s, "OnlyShowIn=KDE;GNOME;"},
-                                     {u"off4.desktop"_s, "NotShowIn=KDE;XFCE;"},
-                                     {u".hidden.desktop"_s, ""},
-                                     {u"on1.desktop"_s, "OnlyShowIn=KDE;XFCE;\nHidden=false"},
-                                     {u"on2.desktop"_s, "NotShowIn=KDE;"}})
+    using Row = std::pair<QString, const char*>;
+    for (const auto& [file, keys] :
+         {Row{u"off1.desktop"_s, "Hidden=true"}, Row{u"off2.desktop"_s, "X-GNOME-Autostart-enabled=false"},
+          Row{u"off3.desktop"_s, "OnlyShowIn=KDE;GNOME;"}, Row{u"off4.desktop"_s, "NotShowIn=KDE;XFCE;"},
+          Row{u".hidden.desktop"_s, ""}, Row{u"on1.desktop"_s, "OnlyShowIn=KDE;XFCE;\nHidden=false"},
+          Row{u"on2.desktop"_s, "NotShowIn=KDE;"}})
         writeEntry(file, application("/bin/" + file.left(3).toUtf8(), keys));
     writeEntry(u"link.desktop"_s, "[Desktop Entry]\nType=Link\nURL=/\n");
     writeEntry(u"none.desktop"_s, "[Desktop Entry]\nType=Application\nName=No program\n");

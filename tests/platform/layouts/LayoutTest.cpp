@@ -10,7 +10,6 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDateTimeEdit>
-#include <QDoubleSpinBox>
 #include <QLineEdit>
 #include <QMetaProperty>
 #include <QPushButton>
@@ -82,16 +81,7 @@ protected:
 
     template <typename T = QWidget>
     T* get(const char* name) {
-        T* object = nullptr;
-        QString error;
-        EXPECT_TRUE(Layout::connectOutlet(root_.get(), name, object, &error)) << qPrintable(error);
-        return object;
-    }
-
-    void show() {
-        root_->show();
-        root_->activateWindow();
-        QApplication::processEvents();
+        return root_->findChild<T*>(QLatin1String(name));
     }
 
     const OtherResources resources_;
@@ -159,7 +149,7 @@ TEST_F(LayoutTest, ABoundTextFieldTakesNumbersWithinTheRangeOnly) {
         for (const char* letter = text; *letter; ++letter)
             press(field, 0, QString(QLatin1Char(*letter)));
         press(field, Qt::Key_Return);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        deletePending();
     };
     EXPECT_EQ(field->text(), u"1.5");
     press(field, Qt::Key_Return);
@@ -179,15 +169,13 @@ TEST_F(LayoutTest, ABoundTextFieldTakesNumbersWithinTheRangeOnly) {
     type("90");
     EXPECT_EQ(owner_.seen.size(), 2);
     EXPECT_TRUE(root_->findChildren<FieldNote*>().isEmpty()) << "it goes with the next edit";
-    EXPECT_TRUE(field->accessibleDescription().isEmpty());
-
     const InLocale german("de_DE");
     type("48,123455");
     EXPECT_EQ(field->text(), u"48,123455");
     EXPECT_EQ(field->cursorPosition(), 0);
     defaults()->set(kFloat, 5.4F);
     EXPECT_EQ(field->text(), u"5,4");
-    show();
+    showActive(root_.get());
     field->setFocus();
     ASSERT_TRUE(field->hasFocus());
     press(field, 0, u"7"_s);
@@ -197,15 +185,13 @@ TEST_F(LayoutTest, ABoundTextFieldTakesNumbersWithinTheRangeOnly) {
 
 TEST_F(LayoutTest, TheWheelChangesOnlyTheControlThatHasTheFocus) {
     ASSERT_EQ(load(control("QComboBox", "box") + control("Slider", "slider") +
-                   control("QDoubleSpinBox", "number") + control("QDateTimeEdit", "date") +
-                   control("QPushButton", "elsewhere")),
+                   control("QDateTimeEdit", "date") + control("QPushButton", "elsewhere")),
               QString());
     get<QComboBox>("box")->addItems({u"a"_s, u"b"_s, u"c"_s});
     get<QSlider>("slider")->setValue(50);
-    get<QDoubleSpinBox>("number")->setValue(50);
     get<QDateTimeEdit>("date")->setDateTime(gmt(2026, 7, 15));
-    show();
-    for (const char* name : {"box", "slider", "number", "date"}) {
+    showActive(root_.get());
+    for (const char* name : {"box", "slider", "date"}) {
         auto* controlled = get(name);
         const auto value = [&] { return controlled->metaObject()->userProperty().read(controlled); };
         for (const bool focused : {false, true}) {

@@ -33,11 +33,10 @@ TEST(CitiesTest, AreNamedAndSortedInEachLanguage) {
 TEST(CitiesTest, AreFoundByAnyPartWithoutAccents) {
     const Cities::City saoPaulo{u"São Paulo"_s, u"Brazil"_s, {}, {}};
     const Cities::City portAuPrince{u"太子港"_s, u"Haïti"_s, u"Port-au-Prince"_s, {}};
-    for (const auto& [typed, match] : {std::pair{u""_s, Match::Start},
-                                       {u"SAO p"_s, Match::Start},
-                                       {u" são"_s, Match::Start},
-                                       {u"brazil s"_s, Match::Part},
-                                       {u"sao x"_s, Match::None}})
+    using Row = std::pair<QString, Match>;
+    for (const auto& [typed, match] :
+         {Row{u""_s, Match::Start}, Row{u"SAO p"_s, Match::Start}, Row{u" são"_s, Match::Start},
+          Row{u"brazil s"_s, Match::Part}, Row{u"sao x"_s, Match::None}})
         EXPECT_EQ(Cities::match(saoPaulo, typed), match) << qPrintable(typed);
     EXPECT_EQ(Cities::match(portAuPrince, u"port au haiti"_s), Match::Part);
 }

@@ -103,11 +103,10 @@ TEST_F(TrayIconTest, DescribesItselfAndGivesEverySizeInNetworkByteOrder) {
     EXPECT_EQ(log.lines().size(), 1);
 
     const QVariantMap properties = panel->itemProperties();
-    for (const auto& [name, value] : {std::pair{u"Category"_s, QVariant(u"ApplicationStatus"_s)},
-                                      {u"Id"_s, u"moon"_s},
-                                      {u"Title"_s, u"Moon"_s},
-                                      {u"Status"_s, u"Active"_s},
-                                      {u"ItemIsMenu"_s, false}})
+    using Row = std::pair<QString, QVariant>;
+    for (const auto& [name, value] :
+         {Row{u"Category"_s, QVariant(u"ApplicationStatus"_s)}, Row{u"Id"_s, u"moon"_s},
+          Row{u"Title"_s, u"Moon"_s}, Row{u"Status"_s, u"Active"_s}, Row{u"ItemIsMenu"_s, false}})
         EXPECT_EQ(properties.value(name), value) << qPrintable(name);
     EXPECT_EQ(properties.value(u"Menu"_s).value<QDBusObjectPath>().path(), u"/NO_DBUSMENU");
     const QVariant pixmaps = properties.value(u"IconPixmap"_s);
@@ -177,14 +176,11 @@ TEST_F(TrayIconTest, KnowsWhereTheClickWas) {
     const auto panel = panelWithItem();
     EXPECT_FALSE(item.iconGeometry());
     // The panel has its answer while the click is still being worked on.
-    std::optional<QDBusPendingCallWatcher> click;
-    std::optional<bool> answeredMeanwhile;
-    const auto working = QObject::connect(&item, &TrayIcon::clicked, &item, [&] {
-        answeredMeanwhile = waitFor([&] { return click->isFinished(); });
-    });
-    click.emplace(panel->callItem("Activate", 120, 3));
-    EXPECT_TRUE(waitFor([&] { return answeredMeanwhile.has_value(); }));
-    EXPECT_EQ(answeredMeanwhile, true);
+    const QDBusPendingCallWatcher click(panel->callItem("Activate", 120, 3));
+    bool isAnswered = false;
+    const auto working = QObject::connect(&item, &TrayIcon::clicked, &item,
+                                          [&] { isAnswered = waitFor([&] { return click.isFinished(); }); });
+    EXPECT_TRUE(waitFor([&] { return isAnswered; }));
     QObject::disconnect(working);
     EXPECT_EQ(item.iconGeometry(), QRect(120, 3, 1, 1));
     // Some hosts tell nothing of use.

@@ -20,8 +20,6 @@ protected:
                                                });
     }
 
-    static void deletePending() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
-
     QWidget panel_;
     QList<std::tuple<QString, bool, int>> outcomes_;
 };
@@ -66,22 +64,4 @@ TEST_F(AskNumberTest, EscapeAndTheCloseButtonCancel) {
     }
     const std::tuple cancelled(u"1.5"_s, false, 0);
     EXPECT_EQ(outcomes_, (QList{cancelled, cancelled}));
-}
-
-TEST_F(AskNumberTest, WithoutAWindowTheCallReturnsWithTheAnswer) {
-    QTimer::singleShot(0, [this] {
-        QWidget* const dialog = QApplication::activeModalWidget();
-        ASSERT_NE(dialog, nullptr);
-        EXPECT_EQ(dialog->windowModality(), Qt::ApplicationModal);
-        EXPECT_TRUE(outcomes_.isEmpty());
-        dialog->findChild<QPushButton*>(u"okButton_"_s)->click();
-    });
-    const auto dialog = open(u"12"_s, nullptr);
-    EXPECT_EQ(outcomes_.value(0), std::tuple(u"12"_s, true, 0));
-    ASSERT_NE(dialog, nullptr) << "the caller still reads it";
-    EXPECT_EQ(dialog->defaultlUserText(), u"12");
-    deletePending();
-    EXPECT_EQ(dialog, nullptr);
-    const OtherResources resources;
-    EXPECT_EQ(open(u"1"_s, &panel_), nullptr) << "nothing opens without its layout";
 }

@@ -95,12 +95,11 @@ TEST_F(InternetConfigTest, AMissingBrowserIsToldOnce) {
                           {u"Browser not found."_s, u"url: <x-gone:page%251>, browser: <"_s + gone + u'>'}}));
 
     // A browser that the caller chose and that is gone gives way to the default.
-    for (const QString& path : {u"/nowhere"_s, desktop.programs(), u"/etc/passwd"_s}) {
-        InternetConfig().launchURL(u"http://a.example"_s,
-                                   QUrl::fromLocalFile(path).toString(QUrl::FullyEncoded));
+    for (const QString& browser : {u"file:///nowhere"_s, u"file:///etc/passwd"_s}) {
+        InternetConfig().launchURL(u"http://a.example"_s, browser);
         EXPECT_EQ(desktop.starts("browser"), onePage(u"http://a.example"_s));
     }
-    EXPECT_EQ(alerts.size(), 4);
+    EXPECT_EQ(alerts.size(), 3);
 
     // So does one that is put right while the alert stands.
     InternetConfig::showAlert = [&](const QString&, const QString&) { desktop.writeProgram(u"gone"_s); };
@@ -133,25 +132,22 @@ TEST_F(InternetConfigTest, WhatIsStartedStandsOnItsOwn) {
     EXPECT_NE(found[0].toInt(), getsid(0));
     EXPECT_EQ(found[1], u"/dev/null"_s);
     EXPECT_TRUE(found.contains(u"LD_LIBRARY_PATH=/opt/lib"_s));
-    EXPECT_TRUE(found.filter(u".mount_moon"_s).isEmpty());
-    EXPECT_TRUE(found.filter(u"XDG_ACTIVATION_TOKEN"_s).isEmpty());
+    EXPECT_TRUE((found.filter(u".mount_moon"_s) + found.filter(u"XDG_ACTIVATION_TOKEN"_s)).isEmpty());
     EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1);
     EXPECT_EQ(errno, ECHILD);
 }
 
 TEST(InternetConfigAlertTest, ShowsMarkupAsItIsAndReturnsWhenClosed) {
-    QStringList texts;
+    int shown = 0;
     QTimer::singleShot(0, [&] {
         auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         ASSERT_NE(box, nullptr);
-        for (const QLabel* label : box->findChildren<QLabel*>()) {
-            if (label->textFormat() == Qt::PlainText)
-                texts.append(label->text());
-        }
+        for (const QLabel* label : box->findChildren<QLabel*>())
+            shown += label->textFormat() == Qt::PlainText && label->text() == u"<b>x</b>";
         box->accept();
     });
-    InternetConfig::showAlert(u"Browser not found."_s, u"url: <b>x</b>"_s);
-    EXPECT_TRUE(texts.contains(u"Browser not found.") && texts.contains(u"url: <b>x</b>"));
+    InternetConfig::showAlert(u"<b>x</b>"_s, u"<b>x</b>"_s);
+    EXPECT_EQ(shown, 2) << "message and details";
 }
 
 } // namespace

@@ -47,9 +47,13 @@ TEST(NSImageUtilitiesTest, TintingMapsTheMiddleToTheColour) {
 }
 
 TEST(NSImageUtilitiesTest, TurningIsExactByHalfAndCounterClockwiseByAQuarter) {
+    for (const int side : {7, 8}) {
+        QImage image = red(side, side);
+        image.setPixelColor(side - 1, 1, Qt::blue);
+        EXPECT_EQ(NSImageUtilities::imageByRotatingDegrees(image, 180.0F), image.mirrored(true, true));
+    }
     QImage wide = red(7, 2);
     wide.setPixelColor(6, 0, Qt::blue);
-    EXPECT_EQ(NSImageUtilities::imageByRotatingDegrees(red(7, 7), 180.0F), red(7, 7));
     const QImage turned = NSImageUtilities::imageByRotatingDegrees(wide, 90.0F);
     EXPECT_EQ(turned.size(), QSize(2, 7));
     EXPECT_EQ(turned.pixelColor(0, 0), QColor(Qt::blue))
