@@ -52,6 +52,7 @@ class TrayTest(DesktopCase):
         wait_for("the full moon", lambda: "Moon is full" in desktop.lines())
         desktop.start_panel("bottom")
         wait_for("the window to go", lambda: not desktop.titled("Lumivane"))
+        self.assertEqual(len(desktop.items()), 1)
         desktop.crash_panel()
         time.sleep(5)
         self.assertFalse(desktop.titled("Lumivane"))
