@@ -60,7 +60,7 @@ TEST(QuartersTest, EachQuarterIsToldOnceAndWhileItIsNews) {
         {gmt(2026, 11, 24, 14, 55), 2},
         {gmt(2026, 11, 24, 15), kNothing},
         {gmt(2026, 11, 17, 12), kNothing}, // set back, over two quarters
-        {gmt(2026, 11, 24, 14, 54), kNothing},
+        {gmt(2026, 11, 24, 14, 56), kNothing},
         {gmt(2026, 12, 1, 18, 30), kNothing}, // slept for longer than half a day
         {gmt(2026, 12, 1, 18), kNothing},
         {gmt(2026, 12, 9, 12, 30), 0}, // for not quite as long
