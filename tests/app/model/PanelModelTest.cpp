@@ -88,8 +88,9 @@ TEST_F(PanelModelTest, AnotherZoneKeepsThePickerAndMovesTheMoment) {
     model_.moveTo(moment);
     const QDateTime shown = model_.pickerDate();
     using Row = std::tuple<Zone, int>;
-    for (const auto& [zone, moved] : {Row{Zone{1, 0}, -4 * 3600}, Row{Zone{3, 5.5F}, -4 * 3600 - 19800},
-                                      Row{Zone{3, -3.75F}, -900}, Row{Zone{2, 0}, 0}}) {
+    for (const auto& [zone, moved] :
+         {Row{Zone{1, 0}, -4 * 3600}, Row{Zone{3, 5.5F}, -4 * 3600 - 19800}, Row{Zone{3, -3.75F}, -900},
+          Row{Zone{3, 1e30F}, -4 * 3600}, Row{Zone{2, 0}, 0}}) {
         use(zone);
         EXPECT_EQ(model_.pickerDate(), shown);
         EXPECT_EQ(static_cast<std::int32_t>(model_.moment() - moment), moved) << zone.hours;
