@@ -41,7 +41,7 @@ TEST_F(CMoonHelperTest, TemplatesAndDurations) {
     EXPECT_EQ(log.lines(), (QStringList{u"Unknown name or info: 30."_s, u"Unknown info: 14."_s}));
     using Row = std::tuple<const char*, int, const char*>;
     for (const auto& [text, span, expected] :
-         {Row{"^dd ^hh ^mm", -169261, "1d 23h 1m"}, Row{"^Dd ^hh ^mm ^d", 59, "0d 0h 0m 0"},
+         {Row{"^dd ^hh ^mm", -169201, "1d 23h 0m"}, Row{"^Dd ^hh ^mm ^d", 59, "0d 0h 0m 0"},
           Row{"^d", std::numeric_limits<std::int32_t>::min(), "24855"}}) {
         QString line = QLatin1String(text);
         CMoonHelper::SubstituteDaysHoursMinutes(line, span);
