@@ -3,8 +3,6 @@
 
 #include <QCoreApplication>
 
-#include <gtest/gtest.h>
-
 int main(int argc, char** argv) {
     const TestEnvironment environment;
     testing::InitGoogleTest(&argc, argv);

@@ -37,6 +37,18 @@ inline void press(QPointer<QWidget> widget, int key, const QString& text = {}) {
     }
 }
 
+/// Deletes what asked to be deleted later.
+inline void deletePending() {
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+/// Shows a window that takes the keyboard.
+inline void showActive(QWidget* window) {
+    window->show();
+    window->activateWindow();
+    QApplication::processEvents();
+}
+
 /// The windows of a kind that are on the screen.
 template <typename T>
 QList<T*> shownWindows() {

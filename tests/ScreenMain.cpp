@@ -3,8 +3,6 @@
 
 #include <QApplication>
 
-#include <gtest/gtest.h>
-
 int main(int argc, char** argv) {
     const TestEnvironment environment;
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))

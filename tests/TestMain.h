@@ -8,8 +8,9 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
+#include <gtest/gtest.h>
+
 #include <tuple>
-#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -21,10 +22,6 @@ public:
 private:
     QTemporaryDir home_;
 };
-
-/// A table of cases.
-template <typename... Column>
-using Rows = std::vector<std::tuple<Column...>>;
 
 /// Sets an environment variable for a test's span.
 class WithEnvironment {

@@ -7,8 +7,6 @@
 #include "shared/utilities/classes/values/ExtraDateUtilities.h"
 #include "tests/TestMain.h"
 
-#include <gtest/gtest.h>
-
 /// An instant as the engine counts it.
 inline std::uint32_t seconds(const QDateTime& date) {
     return static_cast<std::uint32_t>(date.toSecsSinceEpoch() - ExtraDateUtilities::kReferenceInstant);

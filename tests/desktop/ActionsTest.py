@@ -3,30 +3,25 @@
 """Everything that the panel can do, through its real controls."""
 
 import datetime
-import os
 import pathlib
 import subprocess
-import sys
 import time
 import unittest
 
-from desktop import Desktop, wait_for
+from cases import PROGRAM, DesktopCase
+from desktop import wait_for
 
-PROGRAM = os.path.abspath(sys.argv.pop(1))
+FULL = datetime.datetime(2009, 12, 31, 14, 13, 52)
 
 
-class ActionsTest(unittest.TestCase):
+class ActionsTest(DesktopCase):
     @classmethod
     def setUpClass(cls):
-        cls.desktop = Desktop()
-        cls.addClassCleanup(cls.desktop.close)
+        super().setUpClass()
         cls.desktop.install_browser()
 
-    def tearDown(self):
-        self.assertIn(self.desktop.stop(), (0, -15, None))
-
-    def show(self, moment="2009-12-20 12:00:00", zone="America/New_York", **keywords):
-        self.desktop.start(PROGRAM, moment, zone, **keywords)
+    def show(self, **keywords):
+        self.desktop.start(PROGRAM, "2009-12-20 12:00:00", "America/New_York", **keywords)
         return self.desktop.open_panel()
 
     def moment(self):
@@ -37,17 +32,13 @@ class ActionsTest(unittest.TestCase):
     def wait_moment(self, expected):
         wait_for("%s in place of %s" % (expected, self.moment()), lambda: self.moment() == expected)
 
-    def hidden(self):
-        wait_for("the panel to hide", lambda: not self.desktop.window())
-
     def test_keys(self):
         desktop = self.desktop
         self.show()
         desktop.key("alt+3")
-        full = datetime.datetime(2009, 12, 31, 14, 13, 52)
-        self.wait_moment(full)
+        self.wait_moment(FULL)
         desktop.key("alt+Next", "alt+Right")
-        self.wait_moment(full + datetime.timedelta(hours=25))
+        self.wait_moment(FULL + datetime.timedelta(hours=25))
         desktop.key("ctrl+t")
         wait_for("the present", lambda: abs(self.moment() - datetime.datetime(2009, 12, 20, 12)).seconds < 90)
         # A month typed into the picker, and what is selected in a field goes before the whole.
@@ -64,27 +55,6 @@ class ActionsTest(unittest.TestCase):
         self.assertRegex(desktop.clipboard(), r"^March 20, 2009\n(.*\n)+Longitude/Latitude -74.006386/40.71417$")
         self.assertEqual(desktop.clipboard("ClipboardTag%d" % desktop.program.pid), ".")
         self.assertEqual(desktop.clipboard("PasswordPboardType"), "PasswordPboardType")
-
-    def test_what_is_chosen_is_remembered(self):
-        self.show()
-        desktop = self.desktop
-
-        def popup():
-            """The time zone popup, whose name is its choice."""
-            return next(node for node in desktop.walk(desktop.window()) if node.get_role_name() == "combo box")
-        desktop.open_popup(lambda: desktop.click_at_start(popup()))
-        desktop.key("End", "Return")
-        wait_for("the dialog", desktop.dialog)
-        desktop.type("-3.75")
-        desktop.key("Return")
-        wait_for("the offset", lambda: popup().get_name() == "GMT -3.8")
-        wait_for("an hour of quarters", lambda: "12/31/09, 3:28 PM" in desktop.lines())
-        desktop.click_control("Moon")
-        wait_for("folding", lambda: desktop.line("Moon is") is None)
-        desktop.stop()
-        self.show(fresh=False)
-        self.assertEqual(popup().get_name(), "GMT -3.8")
-        self.assertIsNone(desktop.line("Moon is"))
 
     def test_windoid_and_back(self):
         desktop = self.desktop
@@ -106,13 +76,12 @@ class ActionsTest(unittest.TestCase):
         dropped_again()
         desktop.open_utility_window()
         desktop.click_control("Full moon")
-        full = datetime.datetime(2009, 12, 31, 14, 13, 52)
-        self.wait_moment(full)
+        self.wait_moment(FULL)
         subprocess.run(["xdotool", "windowminimize", "--sync", desktop.titled("Lumivane")[0]], check=True)
         self.hidden()
         desktop.click_icon()
         wait_for("the minimised window", desktop.window)
-        self.assertEqual(self.moment(), full, "nobody has put it away")
+        self.assertEqual(self.moment(), FULL, "nobody has put it away")
         desktop.key("ctrl+w")
         dropped_again()
         desktop.click_control("Hide")

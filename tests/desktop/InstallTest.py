@@ -6,17 +6,17 @@ import os
 import pathlib
 import shutil
 import subprocess
-import sys
 import tempfile
 import unittest
 
-from desktop import Desktop, Gio, GLib, wait_for
+from cases import PROGRAM, DesktopCase
+from desktop import Gio, GLib, wait_for
 
-BUILD = pathlib.Path(sys.argv.pop(1)).resolve().parents[3] / "dev"
+BUILD = pathlib.Path(PROGRAM).parents[3] / "dev"
 IDENTIFIER = "com.corvanta.Lumivane"
 
 
-class InstallTest(unittest.TestCase):
+class InstallTest(DesktopCase):
     @classmethod
     def setUpClass(cls):
         folder = tempfile.mkdtemp(prefix="moved $100 install ")
@@ -28,28 +28,24 @@ class InstallTest(unittest.TestCase):
         layout.write_text(layout.read_text().replace("<string>&amp;Latitude:", "<string>Moved:"))
         # The session's bus starts what the menu asks for.
         os.environ["XDG_DATA_DIRS"] = "{}:/usr/local/share:/usr/share".format(cls.prefix / "share")
-        cls.desktop = Desktop()
-        cls.addClassCleanup(cls.desktop.close)
+        super().setUpClass()
 
     def pid(self):
         return self.desktop.call("org.freedesktop.DBus", "/", "org.freedesktop.DBus", "GetConnectionUnixProcessID",
                                  GLib.Variant("(s)", (IDENTIFIER,))).unpack()[0]
 
-    def menu(self):
-        """As the desktop's menu starts it."""
-        Gio.DesktopAppInfo.new(IDENTIFIER + ".desktop").launch([], None)
-
     def test_menu_starts_shows_and_quits(self):
-        self.menu()
+        menu = Gio.DesktopAppInfo.new(IDENTIFIER + ".desktop")
+        menu.launch([], None)
         wait_for("the panel of a new copy, with its own layout", lambda: "Moved:" in self.desktop.lines())
         first = self.pid()
         self.desktop.click_icon()
-        wait_for("the panel to go", lambda: not self.desktop.window())
-        self.menu()
+        self.hidden()
+        menu.launch([], None)
         wait_for("the panel of the running copy", self.desktop.window)
         self.assertEqual(self.pid(), first)
         self.desktop.click_icon()
-        wait_for("the panel to go", lambda: not self.desktop.window())
+        self.hidden()
         subprocess.run(["gapplication", "action", IDENTIFIER, "show"], check=True, timeout=30)
         wait_for("the panel after the action", self.desktop.window)
         subprocess.run(["gapplication", "action", IDENTIFIER, "quit"], check=True, timeout=30)

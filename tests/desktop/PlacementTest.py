@@ -2,32 +2,19 @@
 # SPDX-License-Identifier: MIT
 """The panel opens at the icon, whichever edge of the screen the tray is at."""
 
-import os
 import shutil
 import subprocess
-import sys
 import unittest
 
-from gi.repository import GLib
+from cases import PROGRAM, DesktopCase
+from desktop import GLib, rectangle, wait_for
 
-from desktop import Desktop, rectangle, wait_for
-from placement import PlacementCase
-
-PROGRAM = os.path.abspath(sys.argv.pop(1))
 BAR = 29
 ROOM = {"top": rectangle(0, BAR, 1280, 800 - BAR), "bottom": rectangle(0, 0, 1280, 800 - BAR),
         "left": rectangle(BAR, 0, 1280 - BAR, 800), "right": rectangle(0, 0, 1280 - BAR, 800)}
 
 
-class PlacementTest(PlacementCase):
-    @classmethod
-    def setUpClass(cls):
-        cls.desktop = Desktop()
-        cls.addClassCleanup(cls.desktop.close)
-
-    def tearDown(self):
-        self.assertIn(self.desktop.stop(), (0, -15))
-
+class PlacementTest(DesktopCase):
     def move_panel(self, edge):
         """Moves the tray with the program's icon in it."""
         self.desktop.move_panel(edge)
@@ -38,21 +25,21 @@ class PlacementTest(PlacementCase):
                     "right": icon.x > 1243}[edge]
         wait_for("the tray at the %s edge" % edge, is_there)
 
-    def hide(self):
-        self.desktop.click_icon()
-        wait_for("the panel to hide", lambda: not self.desktop.titled("Lumivane"))
-
-    def test_every_edge(self):
+    def check(self, edges, rooms):
         self.desktop.start(PROGRAM)
-        for edge in ("right", "left", "bottom", "top"):
+        for edge in edges:
             with self.subTest(edge=edge):
                 self.move_panel(edge)
                 self.desktop.open_panel()
-                self.assert_at_icon(self.desktop.icon(), self.desktop.rectangle, ROOM[edge])
-                self.hide()
+                self.assert_at_icon(self.desktop.icon(), rooms[edge])
+                self.desktop.click_icon()
+                self.hidden()
+
+    def test_every_edge(self):
+        self.check(("right", "left", "bottom", "top"), ROOM)
         # Some trays tell nonsense about the place of a click. The pointer is on the icon still.
         self.desktop.call_item("Activate", GLib.Variant("(ii)", (5, 700)))
-        self.assert_at_icon(self.desktop.icon(), self.desktop.rectangle, ROOM["top"])
+        self.assert_at_icon(self.desktop.icon(), ROOM["top"])
 
     def test_folding_keeps_the_panel_at_the_icon(self):
         self.desktop.start(PROGRAM)
@@ -62,21 +49,22 @@ class PlacementTest(PlacementCase):
         for section in ("Moon", "Settings"):
             self.desktop.click_control(section)
         wait_for("the panel to shrink", lambda: self.desktop.rectangle().height < high - 100)
-        self.assert_at_icon(self.desktop.icon(), self.desktop.rectangle, ROOM["bottom"])
+        self.assert_at_icon(self.desktop.icon(), ROOM["bottom"])
         # One that opens low and grows would leave the screen.
-        self.hide()
+        self.desktop.click_icon()
+        self.hidden()
         self.desktop.open_panel()
         for section in ("Moon", "Settings"):
             self.desktop.click_control(section)
         wait_for("the panel to grow", lambda: self.desktop.rectangle().height == high)
-        self.assert_at_icon(self.desktop.icon(), self.desktop.rectangle, ROOM["bottom"])
+        self.assert_at_icon(self.desktop.icon(), ROOM["bottom"])
 
     def test_scaled_screen(self):
         self.desktop.start(PROGRAM, environment={"QT_SCALE_FACTOR": "2"})
         self.move_panel("top")
         self.desktop.open_panel()
         # Twice as wide, and no higher than the screen.
-        self.assert_at_icon(self.desktop.icon(), self.desktop.rectangle, ROOM["top"])
+        self.assert_at_icon(self.desktop.icon(), ROOM["top"])
         self.assertGreater(self.desktop.rectangle().width, 600)
 
     @unittest.skipUnless(shutil.which("xrandr"), "needs xrandr")
@@ -87,13 +75,7 @@ class PlacementTest(PlacementCase):
                                     ("lower", "1280/340x500/140+0+300", "none")):
             subprocess.run(["xrandr", "--setmonitor", name, size, outputs], check=True, stdout=subprocess.DEVNULL)
             self.addCleanup(subprocess.run, ["xrandr", "--delmonitor", name], check=True)
-        self.desktop.start(PROGRAM)
-        for edge, room in rooms.items():
-            with self.subTest(edge=edge):
-                self.move_panel(edge)
-                self.desktop.open_panel()
-                self.assert_at_icon(self.desktop.icon(), self.desktop.rectangle, room)
-                self.hide()
+        self.check(rooms, rooms)
 
 
 if __name__ == "__main__":

@@ -7,31 +7,32 @@ import os
 import pathlib
 import shutil
 import subprocess
-import sys
 import time
 import unittest
 
 import sway
+from cases import PROGRAM, DesktopCase
 from desktop import rectangle, wait_for
-from placement import PlacementCase
 
-PROGRAM = os.path.abspath(sys.argv.pop(1))
 # The whole panel is higher than either.
 ROOM = {"top": rectangle(0, sway.BAR, 1280, 720 - sway.BAR), "bottom": rectangle(0, 0, 1280, 720 - sway.BAR)}
 
 
 @unittest.skipIf(sway.MISSING, "needs " + ", ".join(sway.MISSING))
-class SwayTest(PlacementCase):
+class SwayTest(DesktopCase):
     @classmethod
     def setUpClass(cls):
         cls.program = sway.leave_root(PROGRAM)
         if cls.program != PROGRAM:
             cls.addClassCleanup(shutil.rmtree, pathlib.Path(cls.program).parent.parent)
-        cls.desktop = sway.SwayDesktop("top")
-        cls.addClassCleanup(cls.desktop.close)
+        super().setUpClass()
 
-    def tearDown(self):
-        self.assertIn(self.desktop.stop(), (0, -15))
+    @classmethod
+    def make_desktop(cls):
+        return sway.SwayDesktop("top")
+
+    def at_icon(self):
+        self.assert_at_icon(self.desktop.icon(), ROOM[self.desktop.edge])
 
     def hide(self):
         self.desktop.key("Escape")
@@ -40,11 +41,10 @@ class SwayTest(PlacementCase):
     def check(self, shell):
         self.desktop.open_panel()
         self.assertEqual(wait_for("the panel", self.desktop.windows)[0]["shell"], shell)
-        self.assert_at_icon(self.desktop.icon(), self.desktop.rectangle, ROOM[self.desktop.edge])
         whole = self.desktop.rectangle().height
         self.desktop.click_control("Moon")
         wait_for("the panel to shrink", lambda: self.desktop.rectangle().height < whole - 100)
-        self.assert_at_icon(self.desktop.icon(), self.desktop.rectangle, ROOM[self.desktop.edge])
+        self.at_icon()
         self.hide()
 
     def test_x11(self):
@@ -55,7 +55,7 @@ class SwayTest(PlacementCase):
         wait_for("its window to go", lambda: not self.desktop.windows())
         subprocess.run(["wl-copy", "other"], env=dict(os.environ, **self.desktop.session), check=True)
         self.desktop.open_panel()
-        self.assert_at_icon(self.desktop.icon(), self.desktop.rectangle, ROOM[self.desktop.edge])
+        self.at_icon()
         self.desktop.click_control("Menu")
         time.sleep(0.5)
         self.desktop.key("Down", "Return")
@@ -67,9 +67,7 @@ class SwayTest(PlacementCase):
         self.check("xdg_shell")
 
     def test_without_answer(self):
-        nobody = os.path.join(self.desktop.home, "nobody")
-        open(nobody, "w").close()
-        self.desktop.start(self.program, environment={"SWAYSOCK": nobody})
+        self.desktop.start(self.program, environment={"SWAYSOCK": self.desktop.home})
         self.desktop.open_panel()
         wait_for("the complaint", lambda: "Sway does not place the panel" in self.desktop.logged())
         self.hide()

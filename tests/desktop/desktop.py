@@ -256,11 +256,6 @@ class Desktop:
     def type(self, text):
         self.xdotool("type", "--delay", "20", "--", text)
 
-    def click_at_start(self, node):
-        """Clicks a control at its leading end."""
-        box = self.resting(node)
-        self.click(box.x + 8, box.y + box.height // 2)
-
     def clipboard(self, target="UTF8_STRING"):
         return output("xclip", "-selection", "clipboard", "-o", "-t", target)
 
@@ -416,20 +411,6 @@ class Desktop:
     def line(self, start):
         """The panel's line that starts so."""
         return next((line for line in self.lines() if line.startswith(start)), None)
-
-    def picture(self, path):
-        """The Moon's picture in the panel as an image file."""
-        image = next(node for node in self.walk(self.window()) if node.get_role_name() == "image")
-        box = self.resting(image)
-        side = min(box.width, box.height)
-        x = box.x + (box.width - side) // 2
-
-        def painted():
-            subprocess.run(["import", "-window", "root", "-crop",
-                            "%dx%d+%d+%d" % (side, side, x, box.y), "+repage", path], check=True)
-            return output("convert", path, "-format", "%k", "info:") != "1"
-        # A window is there before it is painted.
-        wait_for("more than one colour", painted)
 
     def shown_text(self, text):
         """Whether any window of the program shows this text."""

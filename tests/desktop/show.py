@@ -6,7 +6,7 @@ show.py PROGRAM SCREENSHOT"""
 import os
 import sys
 
-from desktop import Desktop, wait_for
+from desktop import Desktop, output, wait_for
 
 
 def main():
@@ -19,8 +19,12 @@ def main():
         wait_for("the panel's text", desktop.lines)
         # Not the captions of fields, whose texts are no labels.
         print("\n".join(line for line in desktop.lines() if not line.endswith(":")))
-        desktop.picture(screenshot)  # comes when the panel is painted
-        desktop.screenshot(screenshot)
+        panel = "%(width)dx%(height)d+%(x)d+%(y)d" % vars(desktop.rectangle())
+
+        def painted():  # a window is there before it is
+            desktop.screenshot(screenshot)
+            return output("convert", screenshot, "-crop", panel, "-format", "%k", "info:") != "1"
+        wait_for("more than one colour", painted)
         print("\nScreenshot: " + os.path.abspath(screenshot))
     finally:
         sys.stderr.write(desktop.logged() if desktop.program else "")

@@ -11,7 +11,7 @@ import subprocess
 import tempfile
 import time
 
-from desktop import Desktop, at_rest, rectangle, wait_for
+from desktop import Desktop, at_rest, output, rectangle, wait_for
 
 MISSING = [program for program in ("sway", "swaymsg", "waybar", "Xwayland", "wl-paste") if not shutil.which(program)]
 SCREEN = (1280, 720)
@@ -83,8 +83,7 @@ class SwayDesktop(Desktop):
 
     def windows(self):
         """What Sway tells of the program's windows."""
-        tree = subprocess.run(["swaymsg", "-s", self.session["SWAYSOCK"], "-t", "get_tree", "-r"], check=True,
-                              capture_output=True, text=True).stdout
+        tree = output("swaymsg", "-s", self.session["SWAYSOCK"], "-t", "get_tree", "-r")
 
         def walk(node):
             if node.get("pid") == self.program.pid:

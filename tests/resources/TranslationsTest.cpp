@@ -11,7 +11,6 @@
 
 #include <QDialog>
 #include <QDir>
-#include <QFile>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLibraryInfo>
@@ -19,11 +18,8 @@
 #include <QProcess>
 #include <QPushButton>
 #include <QRegularExpression>
-#include <QTemporaryDir>
 #include <QTextDocument>
 #include <QXmlStreamReader>
-
-#include <gtest/gtest.h>
 
 namespace {
 
@@ -31,8 +27,7 @@ const QString kRoot = QStringLiteral(TESTS_SOURCE_DIR "/..");
 
 /// The translations in a .ts file by their source texts; unfinished ones are empty.
 QMap<QString, QString> messagesIn(const QString& path) {
-    const QByteArray bytes = readFile(path);
-    QXmlStreamReader xml(bytes);
+    QXmlStreamReader xml(readFile(path));
     QMap<QString, QString> messages;
     QString source;
     bool hasForms = false;
@@ -108,12 +103,10 @@ TEST_F(TranslationsTest, EveryLanguageHasEveryTextWhole) {
         use(language.toLatin1().constData());
         EXPECT_NE(CMoonHelper::stringForMoonName(MoonName::WaxingCrescent), u"a waxing crescent")
             << qPrintable(file);
-        const QString qtCatalogue =
-            QLibraryInfo::path(QLibraryInfo::TranslationsPath) + u"/qtbase_%1.qm"_s.arg(language);
-        if (QFile::exists(qtCatalogue)) {
-            EXPECT_NE(QCoreApplication::translate("QWidgetTextControl", "&Paste"), u"&Paste"_s)
-                << qPrintable(file);
-        }
+        const QString catalogues = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+        EXPECT_TRUE(!QFile::exists(catalogues + u"/qtbase_%1.qm"_s.arg(language)) ||
+                    QCoreApplication::translate("QWidgetTextControl", "&Paste") != u"&Paste")
+            << qPrintable(file);
     }
 }
 
@@ -178,7 +171,6 @@ TEST_F(TranslationsTest, TheUsersLanguagesReachTheTexts) {
     bundle.installTranslations({u"nl"_s, u"de-AT"_s, u"fr"_s});
     EXPECT_EQ(CMoonHelper::stringForMoonName(MoonName::WaxingCrescent), u"Zunehmende Mondsichel"_s);
     EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel"), u"&Abbrechen"_s);
-    EXPECT_EQ(QGuiApplication::layoutDirection(), Qt::LeftToRight);
     use("ar");
     EXPECT_EQ(QGuiApplication::layoutDirection(), Qt::RightToLeft);
     bundle.installTranslations({u"fi"_s, u"en-GB"_s, u"ar"_s});
@@ -190,10 +182,8 @@ TEST_F(TranslationsTest, TheCreditsWordsAreAmongTheTexts) {
     const QStringList untranslated{u"Lumivane"_s, u"Jean Meeus, Astronomical Algorithms"_s,
                                    u"Astronomy on the Personal Computer"_s};
     const Bundle& bundle = Bundle::main();
-    QFile file(bundle.resourcePath() + u"/Credits.rtf"_s);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     QString error;
-    const auto credits = documentFromRTF(file.readAll(), &error);
+    const auto credits = documentFromRTF(readFile(bundle.resourcePath() + u"/Credits.rtf"_s), &error);
     ASSERT_TRUE(credits) << qPrintable(error);
     const QStringList texts = sourceTexts() + untranslated;
     for (const QString& line : credits->toPlainText().split(u'\n', Qt::SkipEmptyParts))

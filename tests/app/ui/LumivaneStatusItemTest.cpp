@@ -1,76 +1,45 @@
 // SPDX-License-Identifier: MIT
 #include "app/ui/LumivaneStatusItem.h"
 
-#include "app/ui/LumivaneWindow.h"
-
 #include <gtest/gtest.h>
-
-#include <tuple>
 
 namespace {
 
-constexpr QSize kPanel(340, 700);
+// Left of and above another screen, so that nothing counts from zero.
+constexpr QRect kScreen(-1920, -300, 1920, 1080);
 
-QRect frame(const std::optional<QRect>& icon, const QRect& screen, const QMargins& bars,
-            const QSize& size = kPanel) {
-    const QRect available = screen.marginsRemoved(bars);
-    const QRect result = LumivaneStatusItem::panelFrame(icon, size, screen, available);
+QRect frame(const std::optional<QRect>& icon, const QMargins& bars, const QSize& size = QSize(340, 700)) {
+    const QRect available = kScreen.marginsRemoved(bars);
+    const QRect result = LumivaneStatusItem::panelFrame(icon, size, kScreen, available);
     EXPECT_EQ(result.size(), size);
-    EXPECT_TRUE(size.height() > available.height() || available.contains(result))
-        << result.x() << ' ' << result.y();
-    return result;
+    EXPECT_TRUE(size.height() > available.height() || available.contains(result)) << result.y();
+    return result.translated(-kScreen.topLeft());
 }
+
+QRect iconAt(int x, int y) {
+    return QRect(kScreen.topLeft() + QPoint(x, y), QSize(28, 28));
+}
+
+constexpr QMargins kTop(0, 28, 0, 0);
+constexpr QMargins kBottom(0, 0, 0, 28);
 
 } // namespace
 
 TEST(LumivaneStatusItemTest, ThePanelOpensAtTheIconOnEveryEdgeOfTheScreen) {
-    // A second screen, left of and above the first, shows that nothing counts from zero.
-    for (const QPoint& origin : {QPoint(0, 0), QPoint(-1920, -300)}) {
-        const QRect screen(origin, QSize(1920, 1080));
-        const auto icon = [&](int x, int y) { return QRect(origin + QPoint(x, y), QSize(28, 28)); };
-        const QMargins top(0, 28, 0, 0);
-        const QMargins bottom(0, 0, 0, 28);
-
-        const QRect under = frame(icon(1000, 0), screen, top);
-        EXPECT_EQ(under.top(), screen.top() + 28) << "level with the icon's lower edge";
-        EXPECT_NEAR(under.center().x(), screen.left() + 1013, 1) << "centred on it";
-        const QRect above = frame(icon(1000, 1052), screen, bottom);
-        EXPECT_EQ(above.bottom(), screen.top() + 1051);
-        EXPECT_EQ(above.x(), under.x());
-
-        for (const int y : {0, 28, 500, 600, 1000, 1052}) {
-            EXPECT_EQ(frame(icon(0, y), screen, {28, 0, 0, 0}).left(), screen.left() + 28) << y;
-            EXPECT_EQ(frame(icon(1892, y), screen, {0, 0, 28, 0}).right(), screen.left() + 1891) << y;
-        }
-        for (const int x : {0, 20, 1880, 1892}) {
-            EXPECT_EQ(frame(icon(x, 0), screen, top).top(), screen.top() + 28) << x;
-            EXPECT_EQ(frame(icon(x, 1052), screen, bottom).bottom(), screen.top() + 1051) << x;
-        }
+    EXPECT_NEAR(frame(iconAt(1000, 0), kTop).center().x(), 1013, 1);
+    for (const int x : {0, 20, 1000, 1892}) {
+        EXPECT_EQ(frame(iconAt(x, 0), kTop).top(), 28) << x;
+        EXPECT_EQ(frame(iconAt(x, 1052), kBottom).bottom(), 1051) << x;
     }
+    for (const int y : {0, 28, 500, 600, 1052}) {
+        EXPECT_EQ(frame(iconAt(0, y), {28, 0, 0, 0}).left(), 28) << y;
+        EXPECT_EQ(frame(iconAt(1892, y), {0, 0, 28, 0}).right(), 1891) << y;
+    }
+    EXPECT_EQ(frame(iconAt(1000, 1052), kTop, QSize(340, 2000)).top(), 28) << "too high, it shows its top";
 }
 
 TEST(LumivaneStatusItemTest, WithoutAKnownIconItOpensInTheTraysCorner) {
-    const QRect screen(0, 0, 1280, 800);
-    EXPECT_EQ(frame(std::nullopt, screen, {0, 28, 0, 0}).topRight(), QPoint(1279, 28));
-    EXPECT_EQ(frame(std::nullopt, screen, {0, 0, 0, 28}).bottomRight(), QPoint(1279, 771));
-    EXPECT_EQ(frame(std::nullopt, screen, {}).bottomRight(), QPoint(1279, 799));
-    // One that is larger than the screen shows its top.
-    for (const int y : {0, 452})
-        EXPECT_EQ(frame(QRect(290, y, 28, 28), QRect(0, 0, 320, 480), {0, 28, 0, 0}).topLeft(), QPoint(0, 28))
-            << y;
-}
-
-TEST(LumivaneStatusItemTest, ADialogGoesBesideTheDropDown) {
-    const QRect available(0, 28, 1024, 740);
-    const QRect atRight(634, 28, 390, 650);
-    using Row = std::tuple<QRect, int, int>;
-    for (const auto& [panel, width, x] :
-         {Row{atRight, 540, 47}, Row{atRight, 700, 0}, Row{atRight.translated(-634, 0), 540, 437},
-          Row{atRight.translated(-634, 0), 700, 324}}) {
-        const QRect dialog(LumivaneWindow::besidePanel(panel, QSize(width, 380), 200, available),
-                           QSize(width, 380));
-        EXPECT_EQ(dialog.topLeft(), QPoint(x, 200));
-        EXPECT_TRUE(available.contains(dialog));
-        EXPECT_EQ(dialog.intersects(panel), width > 634);
-    }
+    EXPECT_EQ(frame(std::nullopt, kTop).topRight(), QPoint(1919, 28));
+    EXPECT_EQ(frame(std::nullopt, kBottom).bottomRight(), QPoint(1919, 1051));
+    EXPECT_EQ(frame(std::nullopt, {}).bottomRight(), QPoint(1919, 1079));
 }

@@ -7,8 +7,6 @@
 #include <QDir>
 #include <QFile>
 
-#include <gtest/gtest.h>
-
 /// An autostart folder, and a folder for programs, of a test's own.
 class TestAutostart : public testing::Test {
 protected:

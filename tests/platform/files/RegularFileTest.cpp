@@ -1,18 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "platform/files/RegularFile.h"
 
-#include "app/engine/CMoon.h"
-#include "platform/bundle/PropertyList.h"
-#include "platform/layouts/Layout.h"
 #include "platform/log/Log.h"
-#include "shared/utilities/classes/NSImageUtilities.h"
 #include "tests/TestMain.h"
 
 #include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
 
-#include <gtest/gtest.h>
 #include <sys/stat.h>
 
 TEST(RegularFile, ReadsNothingThatOnlyStandsInAFilesPlace) {
@@ -40,22 +33,6 @@ TEST(RegularFile, ReadsNothingThatOnlyStandsInAFilesPlace) {
         EXPECT_EQ(RegularFile::read(path(name), 1 << 20, &error), std::nullopt) << name;
         EXPECT_FALSE(RegularFile::isOtherThing(path(name)) && *name) << name;
     }
-}
-
-TEST(RegularFile, NoResourceIsWaitedFor) {
-    const OtherResources resources;
-    for (const char* name : {"Lunations.plist", "M07.png", "AskNumber.ui"})
-        ASSERT_EQ(mkfifo(qPrintable(resources.path(QLatin1String(name))), 0600), 0);
-    const CaughtLog log;
-    CMoon moon;
-    moon.Init();
-    EXPECT_TRUE(NSImageUtilities::imageNamed(u"M07"_s).isNull());
-    ASSERT_EQ(log.lines().size(), 2);
-    for (const QString& line : log.lines())
-        EXPECT_TRUE(line.contains(u"no regular file")) << qPrintable(line);
-    QString error;
-    EXPECT_FALSE(Layout::load(u"AskNumber"_s, nullptr, &error));
-    EXPECT_TRUE(error.contains(u"no regular file")) << qPrintable(error);
 }
 
 TEST(LogTest, AForeignTextIsOneVisibleLine) {

@@ -3,8 +3,6 @@
 
 #include "tests/TestMain.h"
 
-#include <gtest/gtest.h>
-
 #include <unicode/locid.h>
 
 namespace {
@@ -23,12 +21,9 @@ public:
 TEST(DatePickerTest, ShowsTheLocalesOwnPatternWithSeconds) {
     using Row = std::tuple<const char*, const char*>;
     for (const auto& [locale, shown] :
-         {Row{"da_DK.UTF-8", "23.11.2026 14.05.09"}, Row{"id_ID.UTF-8", "23/11/2026 14.05.09"},
-          Row{"fr_CA", "2026-11-23 14 h 05 min 09 s"}, Row{"zh_TW", "2026/11/23 下午2:05:09"},
-          Row{"fa_IR", "۲۰۲۶/۱۱/۲۳ ۱۴:۰۵:۰۹"}, Row{"ar_EG", "٢٣\u200F/١١\u200F/٢٠٢٦ ٢:٠٥:٠٩ م"},
-          Row{"el_GR", "23/11/2026 2:05:09 μ.μ."}, Row{"ca_ES@valencia", "23/11/2026 14:05:09"},
-          Row{"C", "11/23/2026 2:05:09 PM"}, Row{"POSIX", "11/23/2026 2:05:09 PM"},
-          Row{"C.UTF-8", "11/23/2026 2:05:09 PM"}}) {
+         {Row{"da_DK.UTF-8", "23.11.2026 14.05.09"}, Row{"fr_CA", "2026-11-23 14 h 05 min 09 s"},
+          Row{"zh_TW", "2026/11/23 下午2:05:09"}, Row{"ar_EG", "٢٣\u200F/١١\u200F/٢٠٢٦ ٢:٠٥:٠٩ م"},
+          Row{"ca_ES@valencia", "23/11/2026 14:05:09"}, Row{"C.UTF-8", "11/23/2026 2:05:09 PM"}}) {
         const WithEnvironment here("LC_ALL", locale);
         Picker picker;
         picker.setDateValue(gmt(2026, 11, 23, 14, 5, 9));

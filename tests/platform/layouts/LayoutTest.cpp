@@ -7,17 +7,13 @@
 #include "tests/Interaction.h"
 #include "tests/TestMain.h"
 
-#include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDateTimeEdit>
-#include <QDoubleSpinBox>
 #include <QLineEdit>
 #include <QMetaProperty>
 #include <QPushButton>
 #include <QWheelEvent>
-
-#include <gtest/gtest.h>
 
 namespace {
 
@@ -84,12 +80,8 @@ protected:
     }
 
     template <typename T = QWidget>
-    T* get(const char* name, const char* complaint = "") {
-        T* object = nullptr;
-        QString error;
-        EXPECT_EQ(Layout::connectOutlet(root_.get(), name, object, &error), !*complaint);
-        EXPECT_TRUE(error.contains(QLatin1String(complaint))) << error.toStdString();
-        return object;
+    T* get(const char* name) {
+        return root_->findChild<T*>(QLatin1String(name));
     }
 
     const OtherResources resources_;
@@ -100,50 +92,16 @@ protected:
 } // namespace
 
 TEST_F(LayoutTest, TellsWhyALayoutCannotBeLoaded) {
-    using Row = std::tuple<QString, const char*>;
     for (const auto& [child, reason] :
-         {Row{control("NoSuchClass", "a"), "NoSuchClass"},
-          Row{control("QPushButton", "a", "nothing"), "nothing"},
-          Row{control("QPushButton", "a", "notASlot"), "notASlot"},
-          Row{control("QPushButton", "a", "withoutSender"), "withoutSender"},
-          Row{control("QLabel", "a", "pushed"), "reports no changes"},
-          Row{control("QPushButton", "a", "", "LayoutBool"), "LayoutBool"}}) // it can't be checked
+         {std::pair{control("NoSuchClass", "a"), "NoSuchClass"},
+          {control("QPushButton", "a", "notASlot"), "notASlot"},
+          {control("QPushButton", "a", "withoutSender"), "withoutSender"},
+          {control("QPushButton", "a", "", "LayoutBool"), "LayoutBool"}}) // it can't be checked
         EXPECT_TRUE(load(child).contains(QLatin1String(reason))) << reason;
     EXPECT_TRUE(load({}, "<ui><widget").contains(u"damaged"));
     QString error;
     EXPECT_EQ(Layout::load(u"Absent"_s, &owner_, &error), nullptr);
     EXPECT_TRUE(error.contains(u"Absent"));
-}
-
-TEST_F(LayoutTest, ChangesByTheUserReachTheSlot) {
-    ASSERT_EQ(load(control("QPushButton", "button", "pushed", "",
-                           "<property name=\"tag\" stdset=\"0\"><number>-7</number></property>") +
-                   control("QComboBox", "box", "pushed") + control("Slider", "slider", "pushed") +
-                   control("QDateTimeEdit", "date", "pushed") + control("QLineEdit", "field", "pushed") +
-                   u"<action name=\"item\"><property name=\"action\" stdset=\"0\">"
-                   "<string notr=\"true\">pushed</string></property></action>"_s),
-              QString());
-    EXPECT_EQ(Layout::tag(get("button")), -7);
-    EXPECT_EQ(Layout::tag(get("box")), 0);
-    EXPECT_EQ(get("Trial"), root_.get());
-    EXPECT_EQ(get<QComboBox>("button", "QComboBox"), nullptr);
-    EXPECT_EQ(get("absent_", "absent_"), nullptr);
-
-    get<QComboBox>("box")->addItems({u"a"_s, u"b"_s});
-    auto* field = get<QLineEdit>("field");
-    field->setText(u"by the program"_s);
-    press(field, Qt::Key_Return);
-    EXPECT_TRUE(owner_.senders.isEmpty()) << "nothing was done by the user";
-    get<QPushButton>("button")->click();
-    press(get("box"), Qt::Key_Down);
-    press(get("slider"), Qt::Key_Up);
-    get<QDateTimeEdit>("date")->stepBy(1);
-    press(field, Qt::Key_X, u"x"_s);
-    press(field, Qt::Key_Return);
-    press(field, Qt::Key_Return);
-    get<QAction>("item")->trigger();
-    EXPECT_EQ(owner_.senders, (QList<QObject*>{get("button"), get("box"), get("slider"), get("date"), field,
-                                               get<QAction>("item")}));
 }
 
 TEST_F(LayoutTest, ABoundControlFollowsAndStoresItsPreference) {
@@ -191,17 +149,16 @@ TEST_F(LayoutTest, ABoundTextFieldTakesNumbersWithinTheRangeOnly) {
         for (const char* letter = text; *letter; ++letter)
             press(field, 0, QString(QLatin1Char(*letter)));
         press(field, Qt::Key_Return);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        deletePending();
     };
     EXPECT_EQ(field->text(), u"1.5");
+    press(field, Qt::Key_Return);
+    EXPECT_TRUE(owner_.senders.isEmpty()) << "nothing was changed";
     type(" -33.25 ");
     EXPECT_EQ(owner_.seen, QList<float>{-33.25F});
     EXPECT_EQ(field->text(), u"-33.25");
-    const QString noNumber = u"This is not a number. Example: 12.5"_s;
-    using Row = std::tuple<const char*, QString>;
-    for (const auto& [typed, reason] :
-         {Row{"north", noNumber}, Row{"", noNumber}, Row{"1,234", noNumber}, Row{"1e99", noNumber},
-          Row{"90.5", u"90.5 is not between -90 and 90."_s}}) {
+    for (const auto& [typed, reason] : {std::pair{"1,234", u"This is not a number. Example: 12.5"_s},
+                                        {"90.5", u"90.5 is not between -90 and 90."_s}}) {
         type(typed);
         EXPECT_EQ(field->text(), u"-33.25") << typed;
         EXPECT_EQ(field->accessibleDescription(), reason) << typed;
@@ -212,18 +169,13 @@ TEST_F(LayoutTest, ABoundTextFieldTakesNumbersWithinTheRangeOnly) {
     type("90");
     EXPECT_EQ(owner_.seen.size(), 2);
     EXPECT_TRUE(root_->findChildren<FieldNote*>().isEmpty()) << "it goes with the next edit";
-    EXPECT_TRUE(field->accessibleDescription().isEmpty());
-
     const InLocale german("de_DE");
     type("48,123455");
     EXPECT_EQ(field->text(), u"48,123455");
     EXPECT_EQ(field->cursorPosition(), 0);
-    EXPECT_EQ(defaults()->value(kFloat), 48.123455F);
     defaults()->set(kFloat, 5.4F);
     EXPECT_EQ(field->text(), u"5,4");
-    root_->show();
-    root_->activateWindow();
-    QApplication::processEvents();
+    showActive(root_.get());
     field->setFocus();
     ASSERT_TRUE(field->hasFocus());
     press(field, 0, u"7"_s);
@@ -233,17 +185,13 @@ TEST_F(LayoutTest, ABoundTextFieldTakesNumbersWithinTheRangeOnly) {
 
 TEST_F(LayoutTest, TheWheelChangesOnlyTheControlThatHasTheFocus) {
     ASSERT_EQ(load(control("QComboBox", "box") + control("Slider", "slider") +
-                   control("QDoubleSpinBox", "number") + control("QDateTimeEdit", "date") +
-                   control("QPushButton", "elsewhere")),
+                   control("QDateTimeEdit", "date") + control("QPushButton", "elsewhere")),
               QString());
     get<QComboBox>("box")->addItems({u"a"_s, u"b"_s, u"c"_s});
     get<QSlider>("slider")->setValue(50);
-    get<QDoubleSpinBox>("number")->setValue(50);
     get<QDateTimeEdit>("date")->setDateTime(gmt(2026, 7, 15));
-    root_->show();
-    root_->activateWindow();
-    QApplication::processEvents();
-    for (const char* name : {"box", "slider", "number", "date"}) {
+    showActive(root_.get());
+    for (const char* name : {"box", "slider", "date"}) {
         auto* controlled = get(name);
         const auto value = [&] { return controlled->metaObject()->userProperty().read(controlled); };
         for (const bool focused : {false, true}) {

@@ -4,9 +4,6 @@
 #include "tests/TestMain.h"
 
 #include <QFile>
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 
 #include <ctime>
 
@@ -55,11 +52,11 @@ TEST(TimeZoneTest, ReadsTheZoneAsTheCLibraryDoes) {
         EXPECT_TRUE(log.lines().isEmpty()) << name;
     }
     for (const char* unknown :
-         {"No/Such", "FOO", "Europe", "/dev/zero", "/usr/share/zoneinfo/zone.tab", "CET-1CEST,M3"}) {
+         {"No/Such", "FOO", "/dev/zero", "/usr/share/zoneinfo/zone.tab", "CET-1CEST,M3"}) {
         const CaughtLog log;
         const InZone here(unknown);
-        EXPECT_EQ(offset(kSummer), 0) << unknown;
-        EXPECT_EQ(offset(kSummer), 0) << unknown;
+        for (const QDateTime& moment : {kWinter, kSummer})
+            EXPECT_EQ(offset(moment), 0) << unknown;
         EXPECT_EQ(log.lines().size(), 1) << unknown;
     }
 }

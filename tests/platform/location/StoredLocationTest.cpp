@@ -3,11 +3,6 @@
 
 #include "tests/TestMain.h"
 
-#include <QFile>
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
-
 namespace {
 
 void expectPlace(const char* zone, double latitude, double longitude) {

@@ -14,17 +14,15 @@ const FetchLimits kLimits{.time = std::chrono::seconds(5), .bytes = 4096};
 std::pair<QByteArray, Failure> fetch(const QUrl& url, const FetchLimits& limits = kLimits) {
     std::pair<QByteArray, Failure> outcome;
     int ends = 0;
-    const auto underWay = fetchFeed(url, limits,
-                                    {.fetched =
-                                         [&](const QByteArray& feed) {
-                                             outcome.first = feed;
-                                             ++ends;
-                                         },
-                                     .failed =
-                                         [&](FetchFailure failure, const QString&) {
-                                             outcome.second = failure;
-                                             ++ends;
-                                         }});
+    const auto fetched = [&](const QByteArray& feed) {
+        outcome.first = feed;
+        ++ends;
+    };
+    const auto failed = [&](FetchFailure failure, const QString&) {
+        outcome.second = failure;
+        ++ends;
+    };
+    const auto underWay = fetchFeed(url, limits, {.fetched = fetched, .failed = failed});
     EXPECT_EQ(ends, 0) << "the outcome comes later";
     EXPECT_TRUE(waitFor([&] { return ends > 0; }));
     letPass(20);
@@ -51,7 +49,6 @@ TEST(FeedFetcher, OnlyAFeedFromATrustedHostIsTaken) {
              Row{server.url(u"long"_s), 0, FetchFailure::Unusable},
              Row{server.url(u"endless"_s), 0, FetchFailure::Unusable},
              Row{server.url(u"feed"_s, "selfsigned"), 0, FetchFailure::Untrusted},
-             Row{server.url(u"feed"_s, "elsewhere"), 0, FetchFailure::Untrusted},
              Row{server.url(to(server.url(u"feed"_s, "selfsigned"))), 0, FetchFailure::Untrusted},
              Row{server.url(u"feed"_s, "plain"), 0, FetchFailure::NoFeed},
              Row{QUrl(), 0, FetchFailure::NoFeed},
@@ -67,7 +64,6 @@ TEST(FeedFetcher, OnlyAFeedFromATrustedHostIsTaken) {
         EXPECT_TRUE(request.startsWith(u"trusted /")) << qPrintable(request) << " was told of the user";
     EXPECT_EQ(fetch(server.url(u"silent"_s), {.time = std::chrono::milliseconds(300)}).second,
               FetchFailure::TooSlow);
-    EXPECT_TRUE(fetch(server.url(u"endless-headers"_s)).second);
     {
         const WithEnvironment noPrograms("PATH", "/nowhere");
         EXPECT_EQ(fetch(server.url(u"feed"_s)).second, FetchFailure::NoCurl);

@@ -4,14 +4,10 @@
 #include "tests/Interaction.h"
 #include "tests/TestMain.h"
 
-#include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
-#include <QTemporaryDir>
 #include <QUrl>
-
-#include <gtest/gtest.h>
 
 #include <stdexcept>
 
@@ -27,9 +23,9 @@ inline QByteArray feedWith(const QByteArray& build, const QByteArray& version,
            "</channel></rss>";
 }
 
-/// A feed's web server on the loopback: one honest host, one with another host's certificate, one with a
-/// certificate that nobody vouches for, and one without TLS, which is also a proxy that lets nothing through.
-/// Its authority is trusted while the object lives.
+/// A feed's web server on the loopback: one honest host, one with a certificate that nobody vouches for, and
+/// one without TLS, which is also a proxy that lets nothing through. Its authority is trusted while the
+/// object lives.
 class FeedServer {
 public:
     FeedServer() {

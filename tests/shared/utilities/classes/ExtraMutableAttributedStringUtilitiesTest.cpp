@@ -6,15 +6,12 @@
 #include <QTextCursor>
 #include <QTextDocument>
 
-#include <gtest/gtest.h>
-
 using ExtraMutableAttributedStringUtilities::replaceAllAttributedStrings;
 
 TEST(ExtraMutableAttributedStringUtilitiesTest, ReplacesEveryMarkerOnceAndCounts) {
     using Row = std::tuple<QString, QString, QString, QString, int>;
     for (const auto& [plain, target, with, expected, count] :
          {Row{u"v[V], again [V]\n[V]"_s, u"[V]"_s, u"1.0"_s, u"v1.0, again 1.0\n1.0"_s, 3},
-          Row{u"[v] [V"_s, u"[V]"_s, u"1.0"_s, u"[v] [V"_s, 0},
           Row{u"one\ntwo"_s, u"e\nt"_s, u"-"_s, u"on-wo"_s, 1},
           Row{u"text"_s, QString(), u"x"_s, u"text"_s, 0},
           Row{u"[V[V]]"_s, u"[V]"_s, QString(), QString(), 2}, // one arises from the other's removal

@@ -2,12 +2,9 @@
 #include "shared/utilities/classes/InternetConfig.h"
 
 #include "tests/FakeDesktop.h"
-#include "tests/TestMain.h"
 
-#include <QApplication>
 #include <QLabel>
 #include <QMessageBox>
-#include <QTimer>
 
 #include <cerrno>
 
@@ -45,15 +42,12 @@ TEST_F(InternetConfigTest, AddressesGoToTheApplicationOfTheirSchemeAsDataOrNotAt
           Row{u" \r\n\twww.example.com/moon \n"_s, "browser", u"http://www.example.com/moon"_s},
           Row{u"example.com"_s, "browser", u"http://example.com"_s}, Row{hostile, "browser", hostile},
           Row{u"mailto:moon@example.com?subject=it's%20full"_s, "mail",
-              u"mailto:moon@example.com?subject=it's%20full"_s},
-          Row{u"x-long:page"_s, "long", u"x-long:page"_s}}) {
+              u"mailto:moon@example.com?subject=it's%20full"_s}}) {
         InternetConfig::launchURL(u" \n\t"_s);
         InternetConfig::launchURL(address);
         EXPECT_EQ(desktop.starts(program), onePage(opened));
     }
-    for (const QString& address :
-         {u"http://example.com/%u"_s, u"http://example.com/\"x\""_s, u"http://a b/"_s, u"http://a/`x`"_s,
-          u"--profile=/tmp/x://y"_s, u"http://example.com/m\u00f6nd"_s}) {
+    for (const QString& address : {u"http://example.com/%u"_s, u"--profile=/tmp/x://y"_s}) {
         const CaughtLog log;
         InternetConfig::launchURL(address);
         ASSERT_EQ(log.lines().size(), 2) << qPrintable(address);
@@ -70,36 +64,28 @@ TEST_F(InternetConfigTest, LocalPagesGoToTheBrowserAndOtherFilesToTheSystemsChoi
     const QString pageURL = QUrl::fromLocalFile(page).toString(QUrl::FullyEncoded);
     const QString notesURL = QUrl::fromLocalFile(notes).toString(QUrl::FullyEncoded);
     // GIO hands local files over by their paths, as desktop entries allow.
-    InternetConfig::launchURL(pageURL);
-    EXPECT_EQ(desktop.starts("browser"), onePage(page));
-    InternetConfig::launchURL(QString(pageURL).replace(u"file:///"_s, u"file:/"_s));
-    EXPECT_EQ(desktop.starts("browser"), onePage(page));
+    for (const QString& url : {pageURL, QString(pageURL).replace(u"file:///"_s, u"file:/"_s)}) {
+        InternetConfig::launchURL(url);
+        EXPECT_EQ(desktop.starts("browser"), onePage(page));
+    }
     InternetConfig::launchURL(notesURL);
     EXPECT_EQ(desktop.starts("viewer"), onePage(notes));
-
-    const QString mail = QUrl::fromLocalFile(desktop.entry(u"mail.desktop"_s)).toString();
-    InternetConfig().launchURL(notesURL, mail);
+    InternetConfig().launchURL(notesURL, QUrl::fromLocalFile(desktop.entry(u"mail.desktop"_s)).toString());
     EXPECT_EQ(desktop.starts("mail"), onePage(notes));
 
     CaughtLog log;
     InternetConfig::launchURL(u"file:///nowhere/page.html"_s);
-    ASSERT_EQ(log.lines().size(), 2);
-    EXPECT_EQ(log.lines()[0], u"InternetConfig 236"_s);
-    EXPECT_TRUE(
-        log.lines()[1].startsWith(u"LSOpenFromURLSpec faiure.  Returned (-43) with URL <file:///nowhere/p"));
+    EXPECT_EQ(log.lines().value(0), u"InternetConfig 236");
+    EXPECT_TRUE(log.lines().value(1).startsWith(
+        u"LSOpenFromURLSpec faiure.  Returned (-43) with URL <file:///nowhere/p"));
 }
 
 TEST_F(InternetConfigTest, NoPreferenceForASchemeIsLoggedAndRaised) {
+    EXPECT_THROW(InternetConfig().launchURL(u"x-unknown:page"_s, QString()), InternetConfigException);
     CaughtLog log;
-    try {
-        InternetConfig().launchURL(u"x-unknown:page"_s, QString());
-        ADD_FAILURE() << "nothing raised";
-    } catch (const InternetConfigException& failure) {
-        EXPECT_EQ(failure.name(), u"InternetConfigException"_s);
-        EXPECT_STREQ(failure.what(), "ICGetPref faiure.  Can't find default browser.  Returned -666");
-    }
-    EXPECT_EQ(log.lines(), QStringList(u"-[InternetConfig defaultBrowserForScheme:] 78 error=-666"_s));
-    EXPECT_NO_THROW(InternetConfig::launchURL(u"x-unknown:page"_s));
+    InternetConfig::launchURL(u"x-unknown:page"_s);
+    EXPECT_EQ(log.lines(), (QStringList{u"-[InternetConfig defaultBrowserForScheme:] 78 error=-666"_s,
+                                        u"ICGetPref faiure.  Can't find default browser.  Returned -666"_s}));
 }
 
 TEST_F(InternetConfigTest, AMissingBrowserIsToldOnce) {
@@ -109,12 +95,11 @@ TEST_F(InternetConfigTest, AMissingBrowserIsToldOnce) {
                           {u"Browser not found."_s, u"url: <x-gone:page%251>, browser: <"_s + gone + u'>'}}));
 
     // A browser that the caller chose and that is gone gives way to the default.
-    for (const QString& path : {u"/nowhere"_s, desktop.programs(), u"/etc/passwd"_s}) {
-        InternetConfig().launchURL(u"http://a.example"_s,
-                                   QUrl::fromLocalFile(path).toString(QUrl::FullyEncoded));
+    for (const QString& browser : {u"file:///nowhere"_s, u"file:///etc/passwd"_s}) {
+        InternetConfig().launchURL(u"http://a.example"_s, browser);
         EXPECT_EQ(desktop.starts("browser"), onePage(u"http://a.example"_s));
     }
-    EXPECT_EQ(alerts.size(), 4);
+    EXPECT_EQ(alerts.size(), 3);
 
     // So does one that is put right while the alert stands.
     InternetConfig::showAlert = [&](const QString&, const QString&) { desktop.writeProgram(u"gone"_s); };
@@ -125,12 +110,10 @@ TEST_F(InternetConfigTest, AMissingBrowserIsToldOnce) {
 
 TEST_F(InternetConfigTest, AnApplicationThatCantBeFoundLeavesTheAddressToTheSystem) {
     const WithEnvironment path("PATH", desktop.programs().toLocal8Bit());
-    {
-        CaughtLog log;
-        InternetConfig::launchURL(u"x-missing:page"_s);
-        EXPECT_EQ(log.lines(), QStringList(QStringLiteral(
-                                   "Can't find default browser from LaunchServices or InternetConfig.")));
-    }
+    const CaughtLog log;
+    InternetConfig::launchURL(u"x-missing:page"_s);
+    EXPECT_EQ(log.lines(),
+              QStringList(u"Can't find default browser from LaunchServices or InternetConfig."_s));
     desktop.writeProgram(u"xdg-open"_s);
     InternetConfig::launchURL(u"x-missing:page"_s);
     EXPECT_EQ(desktop.starts("xdg-open"), "x-missing:page");
@@ -140,7 +123,6 @@ TEST_F(InternetConfigTest, AnApplicationThatCantBeFoundLeavesTheAddressToTheSyst
 TEST_F(InternetConfigTest, WhatIsStartedStandsOnItsOwn) {
     const WithEnvironment folder("APPDIR", "/tmp/.mount_moon");
     const WithEnvironment libraries("LD_LIBRARY_PATH", "/tmp/.mount_moon/usr/lib:/opt/lib");
-    const WithEnvironment plugins("QT_PLUGIN_PATH", "/tmp/.mount_moon/plugins");
     const WithEnvironment token("XDG_ACTIVATION_TOKEN", "stale");
     InternetConfig::launchURL(u"http://a.example"_s);
     ASSERT_EQ(desktop.starts("browser"), onePage(u"http://a.example"_s));
@@ -150,25 +132,22 @@ TEST_F(InternetConfigTest, WhatIsStartedStandsOnItsOwn) {
     EXPECT_NE(found[0].toInt(), getsid(0));
     EXPECT_EQ(found[1], u"/dev/null"_s);
     EXPECT_TRUE(found.contains(u"LD_LIBRARY_PATH=/opt/lib"_s));
-    EXPECT_TRUE(found.filter(u".mount_moon"_s).isEmpty());
-    EXPECT_TRUE(found.filter(u"XDG_ACTIVATION_TOKEN"_s).isEmpty());
+    EXPECT_TRUE((found.filter(u".mount_moon"_s) + found.filter(u"XDG_ACTIVATION_TOKEN"_s)).isEmpty());
     EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1);
     EXPECT_EQ(errno, ECHILD);
 }
 
 TEST(InternetConfigAlertTest, ShowsMarkupAsItIsAndReturnsWhenClosed) {
-    QStringList texts;
+    int shown = 0;
     QTimer::singleShot(0, [&] {
         auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         ASSERT_NE(box, nullptr);
-        for (const QLabel* label : box->findChildren<QLabel*>()) {
-            if (label->textFormat() == Qt::PlainText)
-                texts.append(label->text());
-        }
+        for (const QLabel* label : box->findChildren<QLabel*>())
+            shown += label->textFormat() == Qt::PlainText && label->text() == u"<b>x</b>";
         box->accept();
     });
-    InternetConfig::showAlert(u"Browser not found."_s, u"url: <b>x</b>"_s);
-    EXPECT_TRUE(texts.contains(u"Browser not found.") && texts.contains(u"url: <b>x</b>"));
+    InternetConfig::showAlert(u"<b>x</b>"_s, u"<b>x</b>"_s);
+    EXPECT_EQ(shown, 2) << "message and details";
 }
 
 } // namespace

@@ -9,7 +9,7 @@
 
 TEST(SimpleTextWindowTest, ShowsACopyOfTheTextWholeAndClosesWithAnyKeyForIt) {
     QWidget panel;
-    for (const auto& [lines, key] : Rows<int, Qt::Key>{{12, Qt::Key_Return}, {1200, Qt::Key_Escape}}) {
+    for (const auto& [lines, key] : {std::pair{12, Qt::Key_Return}, {1200, Qt::Key_Escape}}) {
         auto text = std::make_unique<QTextDocument>();
         text->setHtml(u"<b>Lumivane</b><br>"_s.repeated(lines));
         const QString html = text->toHtml();
@@ -23,7 +23,7 @@ TEST(SimpleTextWindowTest, ShowsACopyOfTheTextWholeAndClosesWithAnyKeyForIt) {
         EXPECT_LE(dialog->window()->height(), dialog->window()->screen()->availableSize().height());
         press(dialog->window()->focusWidget(), key);
         EXPECT_FALSE(dialog->window()->isVisible());
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        deletePending();
         EXPECT_EQ(dialog, nullptr);
     }
 }

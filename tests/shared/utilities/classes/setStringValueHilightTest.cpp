@@ -3,8 +3,6 @@
 
 #include "tests/TestMain.h"
 
-#include <gtest/gtest.h>
-
 #include <cmath>
 
 namespace {
@@ -34,9 +32,8 @@ TEST(setStringValueHilightTest, AChangeIsReadablyRedUntilTheNextUpdateThatLeaves
     put(0xEF, Qt::black);
     using Row = std::tuple<bool, QString, bool>;
     for (const auto& [keepBlack, text, isRed] :
-         {Row{true, u"first"_s, false}, Row{false, u"first"_s, false}, Row{false, u"second"_s, true},
-          Row{false, u"third"_s, true}, Row{false, u"third"_s, false}, Row{false, u"fourth"_s, true},
-          Row{true, u"fifth"_s, false}, Row{false, u"sixth"_s, true}}) {
+         {Row{true, u"first"_s, false}, Row{false, u"second"_s, true}, Row{false, u"second"_s, false},
+          Row{false, u"third"_s, true}, Row{true, u"fourth"_s, false}, Row{false, u"fifth"_s, true}}) {
         gKeepBlack = keepBlack;
         setStringValueHilight(&field, text);
         EXPECT_EQ(field.text(), text);
@@ -48,10 +45,7 @@ TEST(setStringValueHilightTest, AChangeIsReadablyRedUntilTheNextUpdateThatLeaves
         EXPECT_GE((luminance(shown()) + 0.05) / (luminance(QColor(grey, grey, grey)) + 0.05), 4.5) << grey;
         EXPECT_GT(shown().red(), shown().green());
     }
-    put(0xFF, Qt::black);
-    EXPECT_EQ(shown(), darkRed);
-    put(0, Qt::white);
-    setStringValueHilight(&field, u"sixth"_s);
+    setStringValueHilight(&field, u"fifth"_s);
     EXPECT_EQ(shown(), QColor(Qt::white));
     gKeepBlack = true;
 }

@@ -3,8 +3,6 @@
 
 #include "tests/TestMain.h"
 
-#include <gtest/gtest.h>
-
 TEST(ExtraURLUtilitiesTest, TakesAStringAsItStandsOrNotAtAll) {
     using ExtraURLUtilities::urlWithURLString;
     for (const char* text : {"http://a.example/%20?q=a+b#c", "mailto:a@b.example", "www.example.com/x",

@@ -39,17 +39,14 @@ TEST_F(LoginItemsAE, ListAppendAndRemoveAreWhatTheFolderHolds) {
     list();
     writeEntry(u"aa.desktop"_s, "[Desktop Entry]\nType=Application\nExec=/bin/other\n");
     EXPECT_EQ(LIAERemove(0), kLIAEFileNotFound);
-    EXPECT_EQ(files().size(), 2);
     for (const QUrl& url : {QUrl::fromLocalFile(path(u"gone"_s)), QUrl(u"https://example.org/"_s), QUrl()})
         EXPECT_EQ(LIAEAddURLAtEnd(&url, false), kLIAEFileNotFound) << url.toString().toStdString();
 }
 
 TEST(LoginItemsAEDeathTest, PreconditionsAreFatal) {
     testing::FLAGS_gtest_death_test_style = "threadsafe";
-    EXPECT_DEATH(LIAECopyLoginItems(nullptr), "LIAECopyLoginItems: LoginItemsAE: .*: itemsPtr != NULL");
     auto taken = std::make_unique<LoginItemsList>();
     EXPECT_DEATH(LIAECopyLoginItems(&taken), "LIAECopyLoginItems: LoginItemsAE: .*: \\*itemsPtr == NULL");
-    EXPECT_DEATH(LIAEAddRefAtEnd(nullptr, false), "LIAEAddRefAtEnd: LoginItemsAE: .*: item != NULL");
     EXPECT_DEATH(LIAEAddURLAtEnd(nullptr, false), "LIAEAddURLAtEnd: LoginItemsAE: .*: item != NULL");
     EXPECT_DEATH(LIAERemove(-1), "LIAERemove: LoginItemsAE: .*: itemIndex >= 0");
 }

@@ -1,10 +1,13 @@
 # SPDX-License-Identifier: MIT
-"""What the tests of the panel's place have in common."""
+"""What the tests of the program on a desktop have in common."""
 
+import os
+import sys
 import unittest
 
-from desktop import wait_for
+from desktop import Desktop, wait_for
 
+PROGRAM = os.path.abspath(sys.argv.pop(1))
 NEAR = 40
 
 
@@ -20,11 +23,28 @@ def lies_within(inner, outer):
             outer.y <= inner.y and inner.y + inner.height <= outer.y + outer.height)
 
 
-class PlacementCase(unittest.TestCase):
-    """A test with a desktop."""
+class DesktopCase(unittest.TestCase):
+    """Tests on one desktop, which each leaves without the program."""
 
-    def assert_at_icon(self, icon, place, room):
-        """The panel comes to lie at the icon, and wholly in `room`; `place` tells where it is."""
+    @classmethod
+    def make_desktop(cls):
+        return Desktop()
+
+    @classmethod
+    def setUpClass(cls):
+        cls.desktop = cls.make_desktop()
+        cls.addClassCleanup(cls.desktop.close)
+
+    def tearDown(self):
+        self.assertIn(self.desktop.stop(), (0, -15, None))
+
+    def hidden(self):
+        wait_for("the panel to hide", lambda: not self.desktop.window())
+
+    def assert_at_icon(self, icon, room):
+        """The panel comes to lie at the icon, and wholly in `room`."""
+        place = self.desktop.rectangle
+
         def is_there():
             panel = place()
             return distance(panel, icon) <= NEAR and lies_within(panel, room)
