@@ -149,7 +149,10 @@ void TrayIcon::setMenu(QMenu* menu) {
 std::optional<QRect> TrayIcon::iconGeometry() const {
     if (xembedIcon_)
         return xembedIcon_->geometry();
-    if (const auto click = notifier_->lastClick())
-        return QRect(*click, QSize(1, 1));
-    return std::nullopt;
+    const auto click = notifier_->lastClick();
+    if (!click)
+        return std::nullopt;
+    QRect around(0, 0, kHeight, kHeight);
+    around.moveCenter(*click);
+    return around;
 }
