@@ -206,7 +206,8 @@ class Plasma(Shell):
         super().start_display(size)
 
     def start_window_manager(self):
-        self.spawn(["kwin_x11"])
+        # None is drawn by KWin 6, which knows no other way than the graphics card's on X11.
+        self.spawn(["kwin_x11"], env=dict(os.environ, KWIN_COMPOSE="QN"[self.release == "6"]))
 
     def start_panel(self, edge):
         kded = "kded" + self.release
