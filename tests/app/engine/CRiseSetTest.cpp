@@ -1,21 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/engine/CRiseSet.h"
 
-#include <limits>
-
 #include <gtest/gtest.h>
-
-TEST(CRiseSetTest, WhatIsNoNumberHasNoRise) {
-    CRiseSet calculator;
-    calculator.Calculate({std::numeric_limits<double>::quiet_NaN(), 10, 0, 1, 1, 2026});
-    tRiseSetPair sun{};
-    calculator.GetSunInfo(sun);
-    EXPECT_EQ(sun.state, kRiseSetAlwaysBelow);
-}
-
-TEST(CRiseSetTest, TheFifteenthOfOctober1582FollowsTheFourth) {
-    EXPECT_EQ(CRiseSet::MJD(15, 10, 1582, 0) - CRiseSet::MJD(4, 10, 1582, 0), 1.0);
-}
 
 // The short way to the altitude must not lose what the way through right ascension and declination has, least
 // of all near 12 hours, where the Sun is in September.

@@ -137,19 +137,6 @@ TEST_F(Panel, ThePictureIsBlueAndSouthOfTheEquatorTurned) {
     EXPECT_EQ(picture(1075), grey.mirrored(true, true).convertToFormat(picture(1075).format()));
 }
 
-TEST_F(Panel, AChangedLineIsDarkRedForOneUpdate) {
-    const Clock::Hold present(gmt(2026, 7, 1));
-    load();
-    const auto isRed = [this](const char* line) {
-        return get(line)->palette().color(QPalette::WindowText) == QColor::fromRgbF(0.5F, 0.0F, 0.0F);
-    };
-    EXPECT_FALSE(isRed("illumination_"));
-    click("hourOn_");
-    EXPECT_TRUE(isRed("illumination_") && !isRed("lunation_"));
-    controller_->updateStaticMoonInfo();
-    EXPECT_FALSE(isRed("illumination_"));
-}
-
 TEST_F(Panel, TheSettingsSpeakTheLocaleAndAreKept) {
     const InLocale german("de_DE");
     defaults()->set(PreferenceKeys::customOffsetTitle, u"GMT +5.5"_s);

@@ -182,12 +182,12 @@ TEST_F(TrayIconTest, KnowsWhereTheClickWas) {
                                           [&] { isAnswered = waitFor([&] { return click.isFinished(); }); });
     EXPECT_TRUE(waitFor([&] { return isAnswered; }));
     QObject::disconnect(working);
-    EXPECT_EQ(item.iconGeometry(), QRect(109, -8, 22, 22));
+    EXPECT_EQ(item.iconGeometry(), QRect(110, -7, 22, 22));
     // Some hosts tell nothing of use.
     panel->callItem("Activate", 0, 0);
     panel->callItem("Activate", -5000, 70000);
     EXPECT_TRUE(waitFor([this] { return clicks == 3; }));
-    EXPECT_EQ(item.iconGeometry(), QRect(109, -8, 22, 22));
+    EXPECT_EQ(item.iconGeometry(), QRect(110, -7, 22, 22));
 
     panel->callItem("ContextMenu", 90, 40);
     EXPECT_TRUE(waitFor([&] { return menu.isVisible(); }));
