@@ -109,18 +109,18 @@ void DialogOrSheetController::placeOver(const QWidget* window) {
 }
 
 bool DialogOrSheetController::eventFilter(QObject* watched, QEvent* event) {
-    if (watched != window_) {
-        if (window_ && (event->type() == QEvent::Move || event->type() == QEvent::Resize))
-            placeOver(static_cast<QWidget*>(watched));
-        return false;
-    }
-    const bool escape =
-        event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->matches(QKeySequence::Cancel);
-    if (escape || event->type() == QEvent::Close) {
-        // QDialog would hide before anybody is told; an answer is given while the dialog still stands.
-        dismissed();
-        event->setAccepted(true);
-        return true;
-    }
-    return QObject::eventFilter(watched, event);
+    const QEvent::Type type = event->type();
+    const bool moves = type == QEvent::Move || type == QEvent::Resize;
+    const bool dismisses =
+        type == QEvent::Close ||
+        (type == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->matches(QKeySequence::Cancel));
+    // Other events may be those of a dialog that is half gone, and no more to be compared with.
+    if (moves && window_ && watched != window_)
+        placeOver(static_cast<QWidget*>(watched));
+    if (!dismisses || watched != window_)
+        return QObject::eventFilter(watched, event);
+    // QDialog would hide before anybody is told; an answer is given while the dialog still stands.
+    dismissed();
+    event->setAccepted(true);
+    return true;
 }
