@@ -69,7 +69,10 @@ make_root() {
   [[ $from != https:* ]] || options+=(--include=ca-certificates)
   timeout --foreground 900 debootstrap "${options[@]}" "$release" "$root" "$from" >"$root.log" 2>&1 ||
     { tail "$root.log"; fail "no bare Debian"; }
-  cp -a /etc/apt/apt.conf.d/. "$root/etc/apt/apt.conf.d/"
+  local file
+  for file in /etc/apt/apt.conf.d/*; do # this machine's settings; what packages bring they bring there too
+    dpkg-query -S "$file" >/dev/null 2>&1 || cp "$file" "$root/etc/apt/apt.conf.d/"
+  done
   cp -L /etc/resolv.conf /etc/hosts "$root/etc/"
   # Nothing that comes along starts a service.
   printf '#!/bin/sh\nexit 101\n' >"$root/usr/sbin/policy-rc.d"
