@@ -20,9 +20,11 @@
 #include "shared/utilities/classes/NSImageUtilities.h"
 
 #include <QApplication>
+#include <QBuffer>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QIcon>
+#include <QImageReader>
 #include <QMenu>
 #include <QPainter>
 #include <QScreen>
@@ -48,8 +50,11 @@ QImage installedIcon(int side) {
         QStringLiteral("%1/../icons/hicolor/%2x%2/apps/%3.png")
             .arg(Bundle::main().resourcePath(), QString::number(side), Bundle::main().bundleIdentifier());
     QString error;
-    const auto png = RegularFile::read(path, kLargestPicture, &error);
-    const QImage image = QImage::fromData(png.value_or(QByteArray()), "png");
+    QByteArray png = RegularFile::read(path, kLargestPicture, &error).value_or(QByteArray());
+    QBuffer file(&png);
+    QImageReader reader(&file, "png");
+    reader.setAutoDetectImageFormat(false); // which loads plugins
+    const QImage image = reader.read();
     if (image.isNull() && QFileInfo::exists(path))
         logLine(QStringLiteral("The icon %1 can't be read. %2").arg(path, error));
     return image;
