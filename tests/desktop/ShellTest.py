@@ -67,7 +67,7 @@ class ShellTest(DesktopCase):
         program = str(tree / "bin/Lumivane")
         self.desktop.start(program)
         warning = "Lumivane is not installed among your applications."
-        wait_for("the warning", lambda: self.desktop.shown_text(warning))
+        wait_for("the warning to have the keys", lambda: self.desktop.shown_text(warning) and self.desktop.dialog())
         self.desktop.key("Return")
         wait_for("the warning to go", lambda: not self.desktop.shown_text(warning))
         entry, = wait_for("the login item", self.autostart)

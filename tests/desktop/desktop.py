@@ -366,9 +366,12 @@ class Desktop:
         wait_for("the focus", lambda: self.has_state(node, Atspi.StateType.FOCUSED))
 
     def open_panel(self):
-        """Clicks the icon and waits for the panel."""
+        """Clicks the icon and waits for the panel, until it has the keys as well."""
+        def active():
+            panel = self.window()
+            return panel if panel and self.has_state(panel, Atspi.StateType.ACTIVE) else None
         self.click_icon()
-        return wait_for("the panel", self.window)
+        return wait_for("the panel", active)
 
     def open_popup(self, click):
         """Makes a click that opens a menu or a list, and waits until it is there to take keys."""
