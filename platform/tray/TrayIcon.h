@@ -50,8 +50,8 @@ public:
     /// three seconds after a tray is gone, so that one that merely restarts makes no difference.
     bool isShown() const { return shown_.value_or(false); }
 
-    /// The icon's rectangle on the screen (Qt's coordinates, y downwards) where the tray tells it; else one of
-    /// an icon's size around the last click; nothing when neither is known.
+    /// The icon's rectangle on the screen (Qt's coordinates, y downwards) where the tray tells it; else one
+    /// of an icon's size around the last click; nothing when neither is known.
     std::optional<QRect> iconGeometry() const;
 
 Q_SIGNALS:
