@@ -206,8 +206,8 @@ class Plasma(Shell):
         super().start_display(size)
 
     def start_window_manager(self):
-        # None is drawn by KWin 6, which knows no other way than the graphics card's on X11.
-        self.spawn(["kwin_x11"], env=dict(os.environ, KWIN_COMPOSE="QN"[self.release == "6"]))
+        # On X11 KWin 6 composes with a graphics card or not at all.
+        self.spawn(["kwin_x11"], env=dict(os.environ, KWIN_COMPOSE="N" if self.release == "6" else "Q"))
 
     def start_panel(self, edge):
         kded = "kded" + self.release

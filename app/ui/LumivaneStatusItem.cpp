@@ -7,7 +7,6 @@
 #include "app/ui/PanelCommands.h"
 #include "app/ui/QuarterTeller.h"
 #include "platform/bundle/Bundle.h"
-#include "platform/files/RegularFile.h"
 #include "platform/locale/Clock.h"
 #include "platform/log/Log.h"
 #include "platform/tray/TrayIcon.h"
@@ -20,11 +19,9 @@
 #include "shared/utilities/classes/NSImageUtilities.h"
 
 #include <QApplication>
-#include <QBuffer>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QIcon>
-#include <QImageReader>
 #include <QMenu>
 #include <QPainter>
 #include <QScreen>
@@ -41,7 +38,6 @@ constexpr std::chrono::seconds kSettling{1};
 /// The rest of the start waits no longer for the tray.
 constexpr std::chrono::seconds kTrayPatience{2};
 constexpr int kLargestIcon = 64;
-constexpr qint64 kLargestPicture = 1 << 20;
 
 /// The program's installed icon; empty where that is missing. A look through the desktop's icon theme would
 /// take longer than making the panel.
@@ -50,11 +46,7 @@ QImage installedIcon(int side) {
         QStringLiteral("%1/../icons/hicolor/%2x%2/apps/%3.png")
             .arg(Bundle::main().resourcePath(), QString::number(side), Bundle::main().bundleIdentifier());
     QString error;
-    QByteArray png = RegularFile::read(path, kLargestPicture, &error).value_or(QByteArray());
-    QBuffer file(&png);
-    QImageReader reader(&file, "png");
-    reader.setAutoDetectImageFormat(false); // which loads plugins
-    const QImage image = reader.read();
+    const QImage image = NSImageUtilities::imageInFile(path, &error);
     if (image.isNull() && QFileInfo::exists(path))
         logLine(QStringLiteral("The icon %1 can't be read. %2").arg(path, error));
     return image;

@@ -41,23 +41,28 @@ int between(int from, int to, double fraction) {
 
 } // namespace
 
-QImage NSImageUtilities::imageNamed(const QString& name) {
-    QString error;
-    QByteArray bytes = RegularFile::read(Bundle::main().resourcePath() + u'/' + name + QStringLiteral(".png"),
-                                         kLargestFile, &error)
-                           .value_or(QByteArray());
-    QBuffer file(&bytes);
+QImage NSImageUtilities::imageInFile(const QString& path, QString* error) {
+    auto bytes = RegularFile::read(path, kLargestFile, error);
+    if (!bytes)
+        return {};
+    QBuffer file(&*bytes);
     // Else the reader loads plugins to ask them whether the picture is theirs.
     QImageReader reader(&file, "png");
     reader.setAutoDetectImageFormat(false);
     const QSize size = reader.size();
-    if (!size.isValid() || size.width() > kLargestSide || size.height() > kLargestSide) {
-        logOnce(name, QStringLiteral("The picture %1 is missing or no picture. %2").arg(name, error));
-        return {};
-    }
-    const QImage image = reader.read();
+    const bool isFit = size.isValid() && size.width() <= kLargestSide && size.height() <= kLargestSide;
+    const QImage image = isFit ? reader.read() : QImage();
     if (image.isNull())
-        logOnce(name, QStringLiteral("The picture %1 can't be read: %2.").arg(name, reader.errorString()));
+        *error = isFit ? reader.errorString() : QStringLiteral("it is no picture of a usable size");
+    return image;
+}
+
+QImage NSImageUtilities::imageNamed(const QString& name) {
+    QString error;
+    const QImage image =
+        imageInFile(Bundle::main().resourcePath() + u'/' + name + QStringLiteral(".png"), &error);
+    if (image.isNull())
+        logOnce(name, QStringLiteral("The picture %1 can't be read: %2.").arg(name, error));
     return image;
 }
 

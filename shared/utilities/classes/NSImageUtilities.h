@@ -13,6 +13,10 @@ namespace NSImageUtilities {
 /// damaged.
 QImage imageNamed(const QString& name);
 
+/// The PNG picture in a file; an empty one, with the reason in `error`, when the file can't be read or holds
+/// none, or one of more than 4096 pixels a side.
+QImage imageInFile(const QString& path, QString* error);
+
 /// The image drawn at another size with one factor for both axes, the ratio of the widths, anchored at the
 /// lower left.
 QImage imageOfSize(const QImage& image, const QSize& size);
