@@ -215,8 +215,23 @@ void LumivaneStatusItem::statusItemClicked(QObject*) {
 }
 
 void LumivaneStatusItem::showPanel() {
-    if (raiseAlert())
+    if (raiseAlert() || looksAround_)
         return;
+    looksAround_ = LayerShell::isUsed() && !controller().isWindoid() && !isPanelVisible();
+    if (!looksAround_)
+        return bringUpPanel();
+    const auto icon = globalFrame();
+    const auto told = icon ? std::optional(icon->center()) : std::nullopt;
+    LayerShell::lookAround(this, told, [this](std::optional<QPoint> click) {
+        looksAround_ = false;
+        if (click)
+            statusItem_->setLastClick(*click);
+        if (!raiseAlert())
+            bringUpPanel();
+    });
+}
+
+void LumivaneStatusItem::bringUpPanel() {
     LumivaneWindow* window = controller().window();
     if (!window->isVisible()) {
         lumivaneWindow_->showNow(nullptr);
@@ -296,7 +311,7 @@ QRect LumivaneStatusItem::panelFrame(const std::optional<QRect>& icon, const QSi
 }
 
 void LumivaneStatusItem::keepUnderIcon(LumivaneWindow* window) {
-    if (SwayPlacement::isThere()) {
+    if (SwayPlacement::isThere() && !LayerShell::isUsed()) {
         swayPlacement_ = new SwayPlacement(window, [window](const SwayPlacement::Surroundings& at) {
             window->setAvailableHeight(static_cast<int>(at.available.height() / at.scale));
             // A pointer that is on no bar did not click the icon.
@@ -318,7 +333,15 @@ void LumivaneStatusItem::placeUnderIcon() {
     if (!screen)
         screen = QGuiApplication::primaryScreen();
     LumivaneWindow* window = lumivaneWindow_->window();
-    const QRect frame = panelFrame(icon, window->size(), screen->geometry(), Screen::visibleFrame(screen));
+    QRect available = Screen::visibleFrame(screen);
+    // A bar may take less of the screen than it covers; the icon is what puts the panel away.
+    if (icon && icon->bottom() > available.bottom())
+        available.setBottom(std::min(available.bottom(), icon->top() - 1));
+    if (icon && icon->top() < available.top())
+        available.setTop(std::max(available.top(), icon->bottom() + 1));
+    if (!swayPlacement_) // which knows it better
+        window->setAvailableHeight(available.height());
+    const QRect frame = panelFrame(icon, window->size(), screen->geometry(), available);
     window->setGeometry(frame);
     if (LayerShell::isUsed())
         LayerShell::place(window, frame, icon.value_or(frame), screen);

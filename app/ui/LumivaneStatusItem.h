@@ -81,6 +81,7 @@ private:
     void dropController();
     void keepUnderIcon(LumivaneWindow* window);
     void placeUnderIcon();
+    void bringUpPanel();
 
     PanelCommands* commands_;
     QuarterTeller* quarterTeller_;
@@ -93,4 +94,6 @@ private:
     bool trayIsKnown_ = false;
     /// The panel is a utility window only because there is no tray.
     bool standsInForTray_ = false;
+    /// A panel comes up as soon as its place is known.
+    bool looksAround_ = false;
 };

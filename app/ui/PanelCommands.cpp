@@ -87,7 +87,8 @@ std::unique_ptr<QWidget> speck() {
     window->setFixedSize(1, 1);
     if (LayerShell::isUsed())
         LayerShell::takeInput(window.get());
-    window->show();
+    else
+        window->show();
     return window;
 }
 

@@ -11,6 +11,7 @@
 #include <QDBusPendingReply>
 #include <QDBusServiceWatcher>
 #include <QGuiApplication>
+#include <QScreen>
 #include <QtEndian>
 
 #include <algorithm>
@@ -38,6 +39,32 @@ DBusImage dbusImage(const QImage& image) {
     return {straight.width(), straight.height(), pixels};
 }
 
+/// How far a place on a screen is from the nearest upright edge and from the nearest other one, together.
+int distanceFromCorner(QPoint place, const QRect& screen) {
+    return std::min(place.x() - screen.left(), screen.right() - place.x()) +
+           std::min(place.y() - screen.top(), screen.bottom() - place.y());
+}
+
+/// What a host tells in Qt's coordinates: on a scaled screen some tell pixels, others Qt's points. Trays are
+/// in corners, so that the reading nearer to one is the right one. Nothing for a place on no screen.
+std::optional<QPoint> pointsFrom(QPoint told) {
+    std::optional<QPoint> found;
+    int least = std::numeric_limits<int>::max();
+    const QList<QScreen*> screens = QGuiApplication::screens();
+    for (const QScreen* screen : screens) {
+        const QRect whole = screen->geometry();
+        const QPoint scaled = whole.topLeft() + (told - whole.topLeft()) / screen->devicePixelRatio();
+        for (const QPoint place : {scaled, told}) {
+            const int distance = distanceFromCorner(place, whole);
+            if (whole.contains(place) && distance < least) {
+                found = place;
+                least = distance;
+            }
+        }
+    }
+    return found;
+}
+
 /// Where a click was, as far as it can be known: the pointer where that is on a bar, else what the host
 /// tells, which for some is nothing of use. On X11 the pointer's place is known everywhere, under Wayland
 /// (XWayland too) over our own windows only.
@@ -46,8 +73,7 @@ std::optional<QPoint> placeOfClick(QPoint told) {
         QGuiApplication::platformName() == u"xcb" && !qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
     if (isPointerKnown && Screen::isPointerOnBar())
         return QCursor::pos();
-    const bool isUseful = !told.isNull() && QGuiApplication::screenAt(told);
-    return isUseful ? std::optional(told) : std::nullopt;
+    return told.isNull() ? std::nullopt : pointsFrom(told);
 }
 
 /// Whether the watcher's answer says that a host is there. Who has a watcher that lacks the question has a

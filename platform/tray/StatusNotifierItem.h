@@ -83,6 +83,7 @@ public:
 
     /// Where on the screen the last click was, in Qt's coordinates, as far as the host or X11 told.
     std::optional<QPoint> lastClick() const { return lastClick_; }
+    void setLastClick(QPoint place) { lastClick_ = place; }
 
     QString category() const { return QStringLiteral("ApplicationStatus"); }
     QString id() const { return identifier_; }

@@ -156,3 +156,7 @@ std::optional<QRect> TrayIcon::iconGeometry() const {
     around.moveCenter(*click);
     return around;
 }
+
+void TrayIcon::setLastClick(QPoint place) {
+    notifier_->setLastClick(place);
+}

@@ -54,6 +54,9 @@ public:
     /// of an icon's size around the last click; nothing when neither is known.
     std::optional<QRect> iconGeometry() const;
 
+    /// Where the last click was, when that is known better than the tray tells.
+    void setLastClick(QPoint place);
+
 Q_SIGNALS:
     /// A left click, or the tray's keyboard way of it.
     void clicked();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/windows/Screen.h"
 
+#include "platform/windows/LayerShell.h"
 #include "platform/windows/X11.h"
 
 #include <QCursor>
@@ -128,5 +129,7 @@ QRect Screen::visibleFrame(const QScreen* screen) {
     xcb_connection_t* const connection = X11::connection();
     if (connection && QGuiApplication::screens().size() > 1)
         return withoutStruts(connection, screen);
+    if (LayerShell::isUsed())
+        return LayerShell::visibleFrame(screen);
     return screen->availableGeometry() & screen->geometry();
 }
