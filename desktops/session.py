@@ -94,11 +94,11 @@ class Session:
         was."""
         self.open()
         self.shell.settle()
-        state = self.shell.run("xprop", "-id", self.shown()[0], "_NET_WM_STATE")
+        marks = self.shell.marks(self.shown()[0])
         beside = rectangle(0, self.icon.y, self.icon.x - 16, self.icon.height)
         drawn = self.shell.has_task_list and different(self.shell.bare, self.shot("now"), beside)
         self.hide()
-        faults = ["no " + mark for mark in ("SKIP_TASKBAR", "SKIP_PAGER") if mark not in state]
+        faults = ["no " + mark for mark in ("SKIP_TASKBAR", "SKIP_PAGER") if mark not in marks]
         assert not faults and not drawn, ", ".join(faults + ["drawn"] * bool(drawn))
         return "not drawn" if self.shell.has_task_list else None
 
@@ -169,15 +169,15 @@ class Session:
         Atspi.Action.do_action(button, 0)
         window = wait_for("the utility window", lambda: [new for new in self.shown() if new not in before])[0]
         at_rest("the window", self.shell.rectangle)
-        if "MINIMIZE" not in self.shell.run("xprop", "-id", window, "_NET_WM_ALLOWED_ACTIONS"):
+        if "MINIMIZE" not in self.shell.marks(window):
             return "not offered there"
 
-        def hidden():
-            return "HIDDEN" in self.shell.run("xprop", "-id", window, "_NET_WM_STATE")
-        self.shell.run("xdotool", "windowminimize", window)
-        wait_for("the window to be minimised", hidden)
+        self.shell.minimise(window)
+        wait_for("the window to be minimised", lambda: "HIDDEN" in self.shell.marks(window))
         self.click_icon()
-        wait_for("the window to come back", lambda: window in self.shown() and not hidden())
+        # Under Wayland it comes back as another one.
+        wait_for("the window to come back", lambda: [
+            window for window in self.shown() if "HIDDEN" not in self.shell.marks(window)])
         return None
 
     def tray_restart(self):

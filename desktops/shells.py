@@ -135,6 +135,15 @@ class Shell(Desktop):
         place = self.run("xdotool", "getwindowgeometry", "--shell", wait_for("the window", lambda: self.titled(name))[0])
         return rectangle(*(int(re.search(key + r"=(-?\d+)", place).group(1)) for key in ("X", "Y", "WIDTH", "HEIGHT")))
 
+    def marks(self, window):
+        """What the window manager notes of a window: SKIP_TASKBAR, SKIP_PAGER, HIDDEN for a minimised one, and MINIMIZE
+        for one that can be."""
+        return re.findall(r"_NET_WM_(?:STATE|ACTION)_(\w+)",
+                          self.run("xprop", "-id", window, "_NET_WM_STATE", "_NET_WM_ALLOWED_ACTIONS"))
+
+    def minimise(self, window):
+        self.run("xdotool", "windowminimize", window)
+
     def copy(self, text):
         """Another program copies a text."""
         self.run("xclip", "-selection", "clipboard", text=text)
@@ -219,7 +228,7 @@ class Plasma(Shell):
 
 
 class Wayland(Shell):
-    """A shell under Wayland; the program's windows are XWayland's there."""
+    """A shell under Wayland; the program's windows are XWayland's there, or its own."""
 
     def copy(self, text):
         self.run("wl-copy", text=text)
@@ -229,6 +238,10 @@ class Wayland(Shell):
 
 
 class PlasmaWayland(Wayland, Plasma):
+    # KWin's scripts see all windows, XWayland's as well.
+    interface = Gio.DBusNodeInfo.new_for_xml(
+        '<node><interface name="test.Script"><method name="Tell"><arg type="s" direction="in"/></method></interface></node>')
+
     def start_window_manager(self):
         os.environ["XDG_SESSION_TYPE"] = "wayland"
         # The installed file is allowed to raise its priority, for which some containers refuse to run it; a copy isn't.
@@ -241,6 +254,52 @@ class PlasmaWayland(Wayland, Plasma):
         wait_for("KWin", session.exists, PATIENCE)
         variables = dict(line.split("=", 1) for line in session.read_text().splitlines() if "=" in line)
         self.session = {name: variables[name] for name in ("DISPLAY", "WAYLAND_DISPLAY", "XAUTHORITY")}
+
+    def script(self, expression):
+        """What an expression gives for each of the program's windows."""
+        bus, told = Gio.bus_get_sync(Gio.BusType.SESSION), []
+
+        def take(_connection, _sender, _path, _interface, _method, arguments, invocation):
+            told.append(json.loads(arguments.unpack()[0]))
+            invocation.return_value(None)
+        receiver = bus.register_object("/", self.interface.interfaces[0], take)
+        script = str(self.write("script.js", """
+            const windows = (workspace.windowList || workspace.clientList)().filter(window => window.pid == %d);
+            callDBus("%s", "/", "test.Script", "Tell", JSON.stringify(windows.map(window => %s)));
+            """ % (self.program.pid, bus.get_unique_name(), expression)))
+
+        def scripting(method, *path):
+            return self.call("org.kde.KWin", "/Scripting", "org.kde.kwin.Scripting", method,
+                             GLib.Variant("(s)", path) if path else None)
+
+        def has_told():
+            GLib.MainContext.default().iteration(False)
+            return told
+        scripting("loadScript", script)
+        scripting("start")
+        wait_for("KWin's answer", has_told)
+        scripting("unloadScript", script)
+        bus.unregister_object(receiver)
+        return told[0]
+
+    def titled(self, name):
+        # Layer surfaces have no title, and only the panel is one.
+        return [window for window, caption, minimised in self.script(
+            "[String(window.internalId), window.caption, window.minimized]") if caption in (name, "") and not minimised]
+
+    def rectangle(self, name="Lumivane"):
+        wanted = wait_for("the window", lambda: self.titled(name))[0]
+        return next(rectangle(*map(round, place)) for window, *place in self.script(
+            "[String(window.internalId), window.x, window.y, window.width, window.height]") if window == wanted)
+
+    def marks(self, window):
+        marks = ("SKIP_TASKBAR", "SKIP_PAGER", "HIDDEN", "MINIMIZE")
+        return [mark for identifier, *noted in self.script(
+            "[String(window.internalId), window.skipTaskbar, window.skipPager, window.minimized, window.minimizable]")
+            for mark, is_so in zip(marks, noted) if identifier == window and is_so]
+
+    def minimise(self, window):
+        self.script("{ window.minimized = window.internalId == '%s'; }" % window)
 
 
 class Sway(Wayland, SwayDesktop):
