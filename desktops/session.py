@@ -13,8 +13,8 @@ import time
 
 from gi.repository import GLib
 
-from shells import SHELLS, different
-from desktop import Atspi, at_rest, rectangle, wait_for
+from shells import SHELLS
+from desktop import Atspi, at_rest, different, rectangle, wait_for
 from sway import leave_root
 
 MENU = ["Show Lumivane", "Copy Information to Clipboard", "Open at Login", "Tell Me the Quarters",

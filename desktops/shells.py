@@ -17,24 +17,12 @@ from gi.repository import Gio, GLib
 
 sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "../tests/desktop"))
 import desktop  # noqa: E402
-from desktop import Desktop, rectangle, wait_for  # noqa: E402
+from desktop import Desktop, different, rectangle, wait_for  # noqa: E402
 from sway import SwayDesktop  # noqa: E402
 
 WATCHER = "org.kde.StatusNotifierWatcher"
 wait_for.__defaults__ = (45.0,)  # a real shell on a busy machine is slower than a test's desktop
 PATIENCE = 180  # seconds for a shell to come up on a busy machine
-
-
-def different(before, after, crop=None):
-    """The rectangle around all pixels that differ between two pictures, or between those parts of them, or nothing."""
-    crop = crop or rectangle(0, 0, 0, 0)  # which is everything
-    # The border, the same in both, is what the rest is trimmed against.
-    box = subprocess.run(
-        ["convert", before, after, "-crop", "%dx%d+%d+%d" % (crop.width, crop.height, crop.x, crop.y), "+repage",
-         "-compose", "difference", "-composite", "-colorspace", "gray", "-threshold", "4%", "-bordercolor", "black",
-         "-border", "1", "-format", "%@", "info:"], capture_output=True, text=True).stdout
-    width, height, x, y = map(int, re.findall(r"-?\d+", box)) if box else (0, 0, 0, 0)
-    return rectangle(crop.x + x - 1, crop.y + y - 1, width, height) if width and x > 0 else None
 
 
 class Shell(Desktop):
@@ -312,6 +300,9 @@ class Sway(Wayland, SwayDesktop):
 
     def __init__(self):
         SwayDesktop.__init__(self, "top")
+
+    def titled(self, name):
+        return self.windows()
 
     def start_panel(self, edge):
         SwayDesktop.start_panel(self, edge)

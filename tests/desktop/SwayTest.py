@@ -12,10 +12,10 @@ import unittest
 
 import sway
 from cases import PROGRAM, DesktopCase
-from desktop import rectangle, wait_for
+from desktop import wait_for
 
-# The whole panel is higher than either.
-ROOM = {"top": rectangle(0, sway.BAR, 1280, 720 - sway.BAR), "bottom": rectangle(0, 0, 1280, 720 - sway.BAR)}
+OWN_SHELL, OTHER_PLATFORM, OTHER_SHELL = (("layer_shell", "xcb", "xwayland") if sway.has_layers(PROGRAM) else
+                                          ("xwayland", "wayland", "xdg_shell"))
 
 
 @unittest.skipIf(sway.MISSING, "needs " + ", ".join(sway.MISSING))
@@ -32,7 +32,7 @@ class SwayTest(DesktopCase):
         return sway.SwayDesktop("top")
 
     def at_icon(self):
-        self.assert_at_icon(self.desktop.icon(), ROOM[self.desktop.edge])
+        self.assert_at_icon(self.desktop.icon(), self.desktop.room())
 
     def hide(self):
         self.desktop.key("Escape")
@@ -47,9 +47,9 @@ class SwayTest(DesktopCase):
         self.at_icon()
         self.hide()
 
-    def test_x11(self):
+    def test_panel_and_copies(self):
         self.desktop.start(self.program)
-        self.check("xwayland")
+        self.check(OWN_SHELL)
         self.desktop.command("_Copy Information to Clipboard")
         wait_for("what the icon's menu copied", lambda: "Lunation" in self.desktop.clipboard())
         wait_for("its window to go", lambda: not self.desktop.windows())
@@ -62,12 +62,12 @@ class SwayTest(DesktopCase):
         wait_for("what the gear menu copied", lambda: "Lunation" in self.desktop.clipboard())
         wait_for("the panel to hide", lambda: not self.desktop.windows())
 
-    def test_wayland(self):
-        self.desktop.start(self.program, environment={"QT_QPA_PLATFORM": "wayland"})
-        self.check("xdg_shell")
+    def test_other_platform(self):
+        self.desktop.start(self.program, environment={"QT_QPA_PLATFORM": OTHER_PLATFORM})
+        self.check(OTHER_SHELL)
 
     def test_without_answer(self):
-        self.desktop.start(self.program, environment={"SWAYSOCK": self.desktop.home})
+        self.desktop.start(self.program, environment={"QT_QPA_PLATFORM": "xcb", "SWAYSOCK": self.desktop.home})
         self.desktop.open_panel()
         wait_for("the complaint", lambda: "Sway does not place the panel" in self.desktop.logged())
         self.hide()
@@ -77,7 +77,7 @@ class SwayTest(DesktopCase):
         self.addCleanup(self.restart_bar, "top")
         self.restart_bar("bottom")
         wait_for("the item", lambda: len(self.desktop.items()) == 1)
-        self.check("xwayland")
+        self.check(OWN_SHELL)
 
     def restart_bar(self, edge):
         self.desktop.crash_panel()

@@ -73,6 +73,18 @@ def output(*command):
     return subprocess.run(command, capture_output=True, text=True).stdout
 
 
+def different(before, after, crop=None):
+    """The rectangle around all pixels that differ between two pictures, or between those parts of them, or nothing."""
+    crop = crop or rectangle(0, 0, 0, 0)  # which is everything
+    # The border, the same in both, is what the rest is trimmed against.
+    box = subprocess.run(
+        ["convert", before, after, "-crop", "%dx%d+%d+%d" % (crop.width, crop.height, crop.x, crop.y), "+repage",
+         "-compose", "difference", "-composite", "-colorspace", "gray", "-threshold", "4%", "-bordercolor", "black",
+         "-border", "1", "-format", "%@", "info:"], capture_output=True, text=True).stdout
+    width, height, x, y = map(int, re.findall(r"-?\d+", box)) if box else (0, 0, 0, 0)
+    return rectangle(crop.x + x - 1, crop.y + y - 1, width, height) if width and x > 0 else None
+
+
 class Desktop:
     """One virtual desktop, for the life of the process."""
 

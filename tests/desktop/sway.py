@@ -11,7 +11,7 @@ import subprocess
 import tempfile
 import time
 
-from desktop import Desktop, at_rest, output, rectangle, wait_for
+from desktop import Desktop, at_rest, different, output, rectangle, wait_for
 
 MISSING = [program for program in ("sway", "swaymsg", "waybar", "Xwayland", "wl-paste") if not shutil.which(program)]
 SCREEN = (1280, 720)
@@ -39,6 +39,11 @@ def leave_root(program):
     os.setgid(user.pw_gid)
     os.setuid(user.pw_uid)
     return os.path.join(folder, "bin", os.path.basename(program))
+
+
+def has_layers(program):
+    """Whether an installed program can have layer surfaces, of which Sway tells nothing."""
+    return any(pathlib.Path(program).parent.parent.glob("lib/**/lumivane/layer_surfaces.so"))
 
 
 class SwayDesktop(Desktop):
@@ -72,9 +77,17 @@ class SwayDesktop(Desktop):
     def run_panel(self):
         self.panel = self.spawn(["waybar"], env=dict(os.environ, **self.session))
         wait_for("the tray", lambda: self.bus_has("org.kde.StatusNotifierWatcher"), 30)
+        self.without_panel = os.path.join(self.home, "without_panel.bmp")
+        self.screenshot(self.without_panel)
 
     def start(self, program, environment=None, **keywords):
-        return super().start(program, environment=dict(self.session, **(environment or {})), **keywords)
+        environment = dict(self.session, **(environment or {}))
+        self.has_layers = has_layers(program) and environment.get("QT_QPA_PLATFORM") != "xcb"
+        return super().start(program, environment=environment, **keywords)
+
+    def room(self):
+        """The screen without the bar."""
+        return rectangle(0, BAR if self.edge == "top" else 0, SCREEN[0], SCREEN[1] - BAR)
 
     def clipboard(self):
         """What another program would paste."""
@@ -82,7 +95,7 @@ class SwayDesktop(Desktop):
                               timeout=10).stdout
 
     def windows(self):
-        """What Sway tells of the program's windows."""
+        """What Sway tells of the program's windows, and what is seen of its layer surface, the panel."""
         tree = output("swaymsg", "-s", self.session["SWAYSOCK"], "-t", "get_tree", "-r")
 
         def walk(node):
@@ -90,7 +103,14 @@ class SwayDesktop(Desktop):
                 yield node
             for inner in node["nodes"] + node["floating_nodes"]:
                 yield from walk(inner)
-        return list(walk(json.loads(tree)))
+        windows = list(walk(json.loads(tree)))
+        if self.has_layers and not windows:
+            now = os.path.join(self.home, "now.bmp")
+            self.screenshot(now)
+            box = different(self.without_panel, now, self.room())
+            if box and box.height > 200:  # no tool tip
+                windows.append({"shell": "layer_shell", "rect": vars(box)})
+        return windows
 
     def rectangle(self, name="Lumivane"):
         return rectangle(**wait_for("the window", self.windows)[0]["rect"])
