@@ -166,6 +166,16 @@ class Mate(Shell):
                           for pair in applets.items()))
 
 
+class Cinnamon(Shell):
+    name = "X-Cinnamon"
+    panel_program = "cinnamon"
+    settings = ("[org/cinnamon]\nenabled-applets=['panel1:left:0:grouped-window-list@cinnamon.org:1', "
+                "'panel1:right:0:xapp-status@cinnamon.org:2']\n")
+
+    def start_window_manager(self):
+        pass  # it is one itself
+
+
 class Lxqt(Shell):
     name = "LXQt"
     panel_program = "lxqt-panel"
@@ -413,5 +423,5 @@ class Gnome(Wayland):
                   "Screenshot", GLib.Variant("(bbs)", (False, False, path)))
 
 
-SHELLS = {"gnome": Gnome, "plasma": Plasma, "plasma-wayland": PlasmaWayland, "mate": Mate, "lxqt": Lxqt, "xfce": Xfce,
-          "sway": Sway}
+SHELLS = {"gnome": Gnome, "plasma": Plasma, "plasma-wayland": PlasmaWayland, "mate": Mate, "cinnamon": Cinnamon,
+          "lxqt": Lxqt, "xfce": Xfce, "sway": Sway}
