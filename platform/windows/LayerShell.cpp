@@ -212,8 +212,8 @@ QRect LayerShell::visibleFrame(const QScreen* screen) {
 }
 
 QRect LayerShell::freePart(const QRect& screen, const QSize& size, const QPoint& click) {
-    const QSize bars = screen.size() - size;
-    QRect part(screen.topLeft(), size);
+    QRect part(screen.topLeft(), size.boundedTo(screen.size()));
+    const QSize bars = screen.size() - part.size();
     // A bar at a side is the icon's own or, as docks are, at the left.
     if (click.x() <= screen.right() - bars.width())
         part.moveRight(screen.right());

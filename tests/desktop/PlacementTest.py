@@ -67,6 +67,18 @@ class PlacementTest(DesktopCase):
         self.assert_at_icon(self.desktop.icon(), ROOM["top"])
         self.assertGreater(self.desktop.rectangle().width, 600)
 
+    def test_scaled_screen_without_the_pointer(self):
+        # Under Wayland only the tray knows where the click was, and tells it in pixels or in Qt's points.
+        self.desktop.start(PROGRAM, environment={"QT_SCALE_FACTOR": "2", "WAYLAND_DISPLAY": "none"})
+        for edge, scale in (("left", 1), ("bottom", 2)):
+            with self.subTest(edge=edge):
+                self.move_panel(edge)
+                icon = self.desktop.icon()
+                self.desktop.call_item("Activate", GLib.Variant("(ii)", ((icon.x + 9) // scale, (icon.y + 9) // scale)))
+                self.assert_at_icon(icon, ROOM[edge])
+                self.desktop.key("Escape")
+                self.hidden()
+
     @unittest.skipUnless(shutil.which("xrandr"), "needs xrandr")
     def test_two_monitors(self):
         # One above the other, and both too low for the panel.

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/windows/Screen.h"
+#include "platform/windows/LayerShell.h"
 
 #include <gtest/gtest.h>
 
@@ -20,4 +21,23 @@ TEST(ScreenTest, BarsTakeFromTheirOwnScreenAndLeaveThoseAloneThatTheyReachOver) 
     EXPECT_EQ(Screen::without(struts, low), QRect(QPoint(30, 0), QPoint(999, 579)));
     EXPECT_EQ(Screen::without(struts, high), QRect(QPoint(1030, 28), QPoint(1959, 1199)));
     EXPECT_EQ(Screen::without(struts, below), QRect(QPoint(0, 600), QPoint(999, 1179)));
+}
+
+TEST(LayerShellTest, WhatBarsLeaveLiesBesideTheBarThatWasClicked) {
+    constexpr QRect screen(500, 100, 1000, 600);
+    const struct {
+        QSize free;
+        QPoint click;
+        QPoint corner; ///< The free part's.
+    } cases[]{
+        {{1000, 570}, {1480, 110}, {500, 130}},  // a bar above
+        {{1000, 570}, {1480, 690}, {500, 100}},  // a bar below
+        {{960, 600}, {520, 690}, {540, 100}},    // at the left
+        {{960, 600}, {1490, 690}, {500, 100}},   // at the right
+        {{960, 570}, {1400, 690}, {540, 100}},   // below, and a dock at the left
+        {{1000, 600}, {1480, 690}, {500, 100}},  // one that takes nothing
+        {{2000, 1200}, {1480, 690}, {500, 100}}, // a nonsense
+    };
+    for (const auto& [free, click, corner] : cases)
+        EXPECT_EQ(LayerShell::freePart(screen, free, click), QRect(corner, free.boundedTo(screen.size())));
 }
