@@ -2,6 +2,7 @@
 #include "app/ui/LumivaneWindow.h"
 
 #include "platform/windows/LayerShell.h"
+#include "platform/windows/Outline.h"
 #include "platform/windows/Screen.h"
 #include "platform/windows/WindowPlatform.h"
 #include "shared/utilities/classes/ExtraWindowUtilities.h"
@@ -11,7 +12,6 @@
 #include <QDialog>
 #include <QKeyEvent>
 #include <QLayout>
-#include <QPainter>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -34,6 +34,8 @@ LumivaneWindow::LumivaneWindow(std::uint32_t styleMask, QWidget* parent)
     : QWidget(parent, flagsOf(styleMask)), styleMask_(styleMask) {
     // A panel that is put away must not end the program.
     setAttribute(Qt::WA_QuitOnClose, false);
+    if (styleMask == kBorderlessMask)
+        new Outline(this);
 }
 
 void LumivaneWindow::setContent(QScrollArea* area, QWidget* content) {
@@ -139,17 +141,4 @@ void LumivaneWindow::keyPressEvent(QKeyEvent* event) {
         Q_EMIT cancelOperation();
     else
         QWidget::keyPressEvent(event);
-}
-
-void LumivaneWindow::paintEvent(QPaintEvent* event) {
-    QWidget::paintEvent(event);
-    if (styleMask_ != kBorderlessMask)
-        return;
-    // Nothing else sets a borderless window off from what lies behind it, be it as dark as the panel. A drawn
-    // outline would not lie on the edge where a point is several pixels.
-    QColor line = palette().color(QPalette::WindowText);
-    line.setAlphaF(0.25F);
-    QPainter painter(this);
-    for (const QRect& side : QRegion(rect()) - rect().adjusted(1, 1, -1, -1))
-        painter.fillRect(side, line);
 }

@@ -3,6 +3,7 @@
 
 #include "platform/log/Log.h"
 #include "platform/windows/LayerSurfaces.h"
+#include "platform/windows/Outline.h"
 
 #include <QEnterEvent>
 #include <QFileInfo>
@@ -255,12 +256,16 @@ void LayerShell::placeOver(QWidget* sheet, const QWidget* window) {
     if (!placement.isValid())
         return;
     auto below = placement.value<LayerSurfaces::Placement>();
-    const int aside = (window->width() - sheet->width()) / 2;
+    const QSize beside = window->size() - sheet->size();
     if (below.edges.testFlag(Qt::RightEdge))
-        below.margins.setRight(std::max(0, below.margins.right() + aside));
+        below.margins.setRight(std::max(0, below.margins.right() + beside.width() / 2));
     else
-        below.margins.setLeft(std::max(0, below.margins.left() + aside));
+        below.margins.setLeft(std::max(0, below.margins.left() + beside.width() / 2));
+    if (below.edges.testFlag(Qt::BottomEdge)) // for the sheet, too, to hang from the top
+        below.margins.setBottom(std::max(0, below.margins.bottom() + beside.height()));
     sheet->winId();
     sheet->windowHandle()->setScreen(window->screen());
+    if (!sheet->windowHandle()->property(kPlacement).isValid())
+        new Outline(sheet);
     makeLayer(sheet, below);
 }

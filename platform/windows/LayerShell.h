@@ -42,8 +42,8 @@ QRect freePart(const QRect& screen, const QSize& size, const QPoint& click);
 /// where `isUsed`.
 void place(QWidget* window, const QRect& frame, const QRect& from, QScreen* screen);
 
-/// Makes a window that is not shown yet an unseen layer surface over the screen, which gets the keyboard for
-/// as long as it shows: a compositor takes a copy from nobody but who had input last. Only where `isUsed`.
+/// Shows a window as an unseen layer surface over the screen in use, which gets keyboard and pointer for as
+/// long as it shows: a compositor takes a copy from nobody but who had input last. Only where `isUsed`.
 void takeInput(QWidget* window);
 
 /// Makes a dialog of a layer surface one too, in front of it: ordinary windows are behind. Others stay.
