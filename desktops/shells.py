@@ -173,7 +173,7 @@ class Cinnamon(Shell):
                 "'panel1:right:0:xapp-status@cinnamon.org:2']\n")
 
     def start_window_manager(self):
-        pass  # it is one itself
+        os.environ["XDG_SESSION_TYPE"] = "x11"  # without which Cinnamon 6 ends; it is a window manager itself
 
 
 class Lxqt(Shell):
