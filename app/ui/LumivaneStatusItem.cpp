@@ -222,13 +222,16 @@ void LumivaneStatusItem::showPanel() {
         return bringUpPanel();
     const auto icon = globalFrame();
     const auto told = icon ? std::optional(icon->center()) : std::nullopt;
-    LayerShell::lookAround(this, told, [this](std::optional<QPoint> click) {
-        looksAround_ = false;
-        if (click)
-            statusItem_->setLastClick(*click);
-        if (!raiseAlert())
-            bringUpPanel();
-    });
+    LayerShell::lookAround(
+        this, told,
+        [this](std::optional<QPoint> click) {
+            looksAround_ = false;
+            if (click)
+                statusItem_->setLastClick(*click);
+            if (!raiseAlert())
+                bringUpPanel();
+        },
+        [this] { statusItemClicked(nullptr); });
 }
 
 void LumivaneStatusItem::bringUpPanel() {

@@ -69,12 +69,12 @@ void makeLayer(QWidget* window, const LayerSurfaces::Placement& placement) {
 }
 
 /// Shows a window that takes no keyboard, and whatever it draws is transparent.
-void showUnseen(QWindow* window, LayerSurfaces::Placement placement) {
+void showUnseen(QWindow* window, LayerSurfaces::Placement placement, const QSize& size = kNotYet) {
     window->setFlags(Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus);
     QSurfaceFormat format = window->format();
     format.setAlphaBufferSize(8);
     window->setFormat(format);
-    window->resize(kNotYet);
+    window->resize(size);
     placement.keyboard = LayerSurfaces::Keyboard::None;
     surfaces()->place(window, placement);
     window->show();
@@ -89,6 +89,40 @@ std::unique_ptr<QWindow> nudge(QScreen* screen) {
     return window;
 }
 
+/// Lies under the pointer where a click was, until that moves. Else the bar would see the pointer come back,
+/// and show its tool tip on top of what the click has opened.
+class Lid : public QRasterWindow {
+public:
+    Lid(QScreen* screen, QPoint place, const std::function<void()>& clicked) : clicked_(clicked) {
+        setScreen(screen);
+        showUnseen(this,
+                   {.edges = Qt::TopEdge | Qt::LeftEdge,
+                    .margins = {place.x() - kHalf, place.y() - kHalf, 0, 0},
+                    .overBars = true},
+                   QSize(2 * kHalf + 1, 2 * kHalf + 1));
+    }
+
+protected:
+    bool event(QEvent* event) override {
+        if (event->type() == QEvent::Leave)
+            deleteLater();
+        return QRasterWindow::event(event);
+    }
+
+    void mousePressEvent(QMouseEvent* event) override {
+        if (event->button() == Qt::LeftButton)
+            QTimer::singleShot(0, clicked_); // which may take this window away
+        else
+            deleteLater(); // for the next press to reach the bar
+    }
+
+private:
+    static constexpr int kHalf = 2;
+    const std::function<void()> clicked_;
+};
+
+QPointer<Lid> lid;
+
 /// The part of a screen that surely is under no bar, when `free` is the size of what bars leave.
 QRect middleOf(const QRect& screen, const QSize& free) {
     const QSize bars = screen.size() - free;
@@ -101,8 +135,9 @@ QRect middleOf(const QRect& screen, const QSize& free) {
 class Lookout : public QObject {
 public:
     Lookout(QObject* owner, std::optional<QPoint> told,
-            const std::function<void(std::optional<QPoint>)>& done)
-        : QObject(owner), click_(told), done_(done) {
+            const std::function<void(std::optional<QPoint>)>& done, const std::function<void()>& clickedAgain)
+        : QObject(owner), click_(told), done_(done), clickedAgain_(clickedAgain) {
+        delete lid;
         const QList<QScreen*> screens = QGuiApplication::screens();
         for (QScreen* screen : screens) {
             View& view = views_.emplace_back();
@@ -178,8 +213,11 @@ private:
                 continue;
             const QRect screen = view.screen->geometry();
             const QPoint pointer = screen.topLeft() + *view.pointer;
-            if (!middleOf(screen, *view.size).contains(pointer))
-                click_ = pointer;
+            if (middleOf(screen, *view.size).contains(pointer))
+                continue;
+            click_ = pointer;
+            lid = new Lid(view.screen, *view.pointer, clickedAgain_);
+            connect(parent(), &QObject::destroyed, lid.get(), &QObject::deleteLater);
         }
         for (const View& view : views_) {
             if (view.screen && view.size)
@@ -195,6 +233,7 @@ private:
     std::vector<View> views_;
     std::optional<QPoint> click_;
     const std::function<void(std::optional<QPoint>)> done_;
+    const std::function<void()> clickedAgain_;
 };
 
 } // namespace
@@ -209,8 +248,9 @@ bool LayerShell::isUsed() {
 }
 
 void LayerShell::lookAround(QObject* owner, std::optional<QPoint> told,
-                            const std::function<void(std::optional<QPoint>)>& done) {
-    new Lookout(owner, told, done);
+                            const std::function<void(std::optional<QPoint>)>& done,
+                            const std::function<void()>& clickedAgain) {
+    new Lookout(owner, told, done, clickedAgain);
 }
 
 QRect LayerShell::visibleFrame(const QScreen* screen) {

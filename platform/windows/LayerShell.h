@@ -26,9 +26,11 @@ bool isUsed();
 
 /// Finds out what Wayland tells only those whose windows fill a screen: what bars leave of each screen
 /// (`visibleFrame`) and where the pointer is. Gives `done` the place of a click on a bar, within a fraction
-/// of a second: the pointer's if that is on a bar, else the one that was `told`. Only where `isUsed`.
+/// of a second: the pointer's if that is on a bar, else the one that was `told`. A second click that finds
+/// the pointer unmoved may come by `clickedAgain`, as long as there is `owner`. Only where `isUsed`.
 void lookAround(QObject* owner, std::optional<QPoint> told,
-                const std::function<void(std::optional<QPoint> click)>& done);
+                const std::function<void(std::optional<QPoint> click)>& done,
+                const std::function<void()>& clickedAgain);
 
 /// What bars left of the screen when that was last found out; else the whole of it.
 QRect visibleFrame(const QScreen* screen);
