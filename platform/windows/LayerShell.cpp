@@ -42,15 +42,10 @@ LayerSurfaces* surfaces() {
     return qobject_cast<LayerSurfaces*>(plugin().instance());
 }
 
-bool isDesktop(QLatin1String name) {
-    return qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(u':').contains(name);
-}
-
 bool askCompositor() {
-    // A connection that was handed down is for one use, and that is Qt's. GNOME's answer is known, and to ask
-    // costs time at the start.
+    // A connection that was handed down is for one use, and that is Qt's.
     if (!qEnvironmentVariableIsSet("WAYLAND_DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_SOCKET") ||
-        isDesktop(QLatin1String("GNOME")) || !QFileInfo::exists(plugin().fileName()))
+        !QFileInfo::exists(plugin().fileName()))
         return false;
     if (!surfaces()) {
         logLine(QStringLiteral("No windows at a place of their own: %1").arg(plugin().errorString()));
@@ -182,7 +177,7 @@ private:
     /// the screen. Plasma's are the screen's; and there a tool tip would come up anew, on top of the panel,
     /// when the pointer comes back from a cover.
     bool isToldRight() const {
-        if (!click_ || isDesktop(QLatin1String("KDE")))
+        if (!click_ || qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(u':').contains(u"KDE"))
             return click_.has_value();
         return std::ranges::any_of(views_, [this](const View& view) {
             if (!view.screen || !view.screen->geometry().contains(*click_))
