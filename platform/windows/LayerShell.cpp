@@ -6,10 +6,12 @@
 #include "platform/windows/Outline.h"
 
 #include <QEnterEvent>
+#include <QFile>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QHash>
 #include <QPluginLoader>
+#include <QPointer>
 #include <QRasterWindow>
 #include <QScreen>
 #include <QTimer>
