@@ -21,6 +21,7 @@
 #include <algorithm>
 #include <chrono>
 #include <memory>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -203,7 +204,7 @@ private:
     }
 
     void finish() {
-        if (views_.empty())
+        if (!done_)
             return;
         for (const View& view : views_) {
             if (!view.screen || !view.size || !view.pointer)
@@ -224,12 +225,12 @@ private:
         }
         views_.clear();
         deleteLater();
-        done_(click_);
+        std::exchange(done_, nullptr)(click_);
     }
 
     std::vector<View> views_;
     std::optional<QPoint> click_;
-    const std::function<void(std::optional<QPoint>)> done_;
+    std::function<void(std::optional<QPoint>)> done_; ///< Until it was called.
     const std::function<void()> clickedAgain_;
 };
 
